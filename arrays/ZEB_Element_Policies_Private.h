@@ -1,0 +1,67 @@
+/*
+ * What the engine's element kinds know of objects.
+ */
+#import <Korvane_ZEB/ZEB_Byte_Array.h>
+#import <Korvane_ZEB/ZEB_String.h>
+#import <Korvane_ZEB/ZEB_Wide_String.h>
+
+#include <algorithm>
+
+namespace zeb
+{
+
+/// Objects of any class, under reference counting.
+struct Object_Policy {
+    using Element = id;
+
+    static void retain(id object) { [object retain]; }
+    static void release(id object) { [object release]; }
+};
+
+/// Strings and byte arrays, which an array of them makes, fills and ends. They are equal, and ordered, by
+/// their elements, read as unsigned.
+struct Contents_Policy {
+    static void copy(id object, id source) { [object set_contents_of_array:source]; }
+    static bool equal(id left, id right) { return left == right || [left isEqual:right]; }
+    static uint64_t hash(id object) { return [object hash]; }
+    static void release(id object) { [object release]; }
+
+protected:
+    template <class Unit>
+    static bool orders_before(const void *left, uint32_t left_count, const void *right, uint32_t right_count)
+    {
+        const Unit *const first = static_cast<const Unit *>(left);
+        const Unit *const second = static_cast<const Unit *>(right);
+        return std::lexicographical_compare(first, first + left_count, second, second + right_count);
+    }
+};
+
+struct String_Policy : Contents_Policy {
+    using Element = ZEB_String *;
+    static ZEB_String *make() { return [[ZEB_String alloc] init]; }
+    static bool precedes(ZEB_String *left, ZEB_String *right)
+    {
+        return orders_before<uint8_t>([left char_data], [left count], [right char_data], [right count]);
+    }
+};
+
+struct Wide_String_Policy : Contents_Policy {
+    using Element = ZEB_Wide_String *;
+    static ZEB_Wide_String *make() { return [[ZEB_Wide_String alloc] init]; }
+    static bool precedes(ZEB_Wide_String *left, ZEB_Wide_String *right)
+    {
+        return orders_before<uint32_t>([left wide_char_data], [left count], [right wide_char_data],
+                                       [right count]);
+    }
+};
+
+struct Byte_Array_Policy : Contents_Policy {
+    using Element = ZEB_Byte_Array *;
+    static ZEB_Byte_Array *make() { return [[ZEB_Byte_Array alloc] init]; }
+    static bool precedes(ZEB_Byte_Array *left, ZEB_Byte_Array *right)
+    {
+        return orders_before<uint8_t>([left byte_data], [left count], [right byte_data], [right count]);
+    }
+};
+
+} // namespace zeb

@@ -1,0 +1,67 @@
+#import "arrays/ZEB_Printing_Private.h"
+
+#import <Korvane_ZEB/ZEB_Byte_Array.h>
+#import <Korvane_ZEB/ZEB_Number_Functions.h>
+#import <Korvane_ZEB/ZEB_Wide_String.h>
+
+#include <inttypes.h>
+#include <stdio.h>
+
+namespace zeb
+{
+namespace
+{
+
+/// Prints what a writer of number text puts into a buffer.
+template <class Writer, class Number>
+void print_number(ZEB_Stream *stream, Writer write, Number number)
+{
+    char text[ZEB_NUMBER_TEXT_SIZE];
+    char *const end = write(text, number);
+    [stream write_bytes:text length:static_cast<uint32_t>(end - text)];
+}
+
+} // namespace
+
+void print_element(ZEB_Stream *stream, uint8_t element)
+{
+    print_number(stream, ZC_pretty_format_unsigned, element);
+}
+
+void print_element(ZEB_Stream *stream, char element)
+{
+    // The same numbers on machines where plain characters are unsigned.
+    print_element(stream, int32_t{static_cast<signed char>(element)});
+}
+
+void print_element(ZEB_Stream *stream, int32_t element) { [stream write_int_with_format:element format:"%d"]; }
+
+void print_element(ZEB_Stream *stream, uint32_t element)
+{
+    print_number(stream, ZC_pretty_format_unsigned, element);
+}
+
+void print_element(ZEB_Stream *stream, float element) { print_number(stream, ZC_pretty_format_float, element); }
+
+void print_element(ZEB_Stream *stream, double element)
+{
+    print_number(stream, ZC_pretty_format_double, element);
+}
+
+void print_element(ZEB_Stream *stream, void *element)
+{
+    // Not by the writer of unsigned longs, which one stream sends elsewhere.
+    char text[ZEB_NUMBER_TEXT_SIZE];
+    const int length = snprintf(text, sizeof text, "%" PRIuPTR, reinterpret_cast<uintptr_t>(element));
+    [stream write_bytes:text length:static_cast<uint32_t>(length)];
+}
+
+void print_element(ZEB_Stream *stream, id element) { [stream write_object:element]; }
+
+void print_element(ZEB_Stream *stream, ZEB_String *element) { [stream write_string:element]; }
+
+void print_element(ZEB_Stream *stream, ZEB_Wide_String *element) { [stream write_object:element]; }
+
+void print_element(ZEB_Stream *stream, ZEB_Byte_Array *element) { [stream write_object:element]; }
+
+} // namespace zeb

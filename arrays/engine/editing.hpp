@@ -1,0 +1,186 @@
+/// Putting elements into a growable array: append, insert, replace, and taking whole contents.
+///
+/// Each operation refuses on a link with its note. A failed allocation is reported, and the array stays
+/// as it was. A source that lies in the array's own block is read as if it had been copied first.
+#pragma once
+
+#include "arrays/engine/growing.hpp"
+#include "arrays/engine/removing.hpp"
+#include "arrays/engine/vector_lifetime.hpp"
+
+#include <algorithm>
+#include <functional>
+
+namespace zeb
+{
+
+/// Elements to put in: where they are, how many, whose references they are.
+template <class Kind>
+struct Elements_Of {
+    typename Kind::Element const *first;
+    std::uint32_t count;
+    Source source = Source::of_the_caller;
+};
+
+/// Remembers a source by its index when it lies among the array's own elements, because growth and gaps
+/// move those.
+template <class Kind>
+class Source_Position
+{
+public:
+    Source_Position(Array_Storage<Kind> array, Elements_Of<Kind> source) noexcept
+        : elements(source), own(lies_within(array, source.first)),
+          index(own ? static_cast<std::uint32_t>(source.first - array.data) : 0)
+    {
+        // The array's own references are no caller's: none is there to be taken over.
+        if (own)
+            elements.source = Source::of_another_array;
+    }
+
+    /// Assigns the source to the slots that were opened at `at`, after the gap was made there.
+    void assign_to_gap(Array_Storage<Kind> array, std::uint32_t at) const noexcept
+    {
+        if (!own)
+            return assign(array, at, elements.first, elements.count);
+        const std::uint32_t before = std::min(elements.count, at > index ? at - index : 0);
+        assign(array, at, array.data + index, before);
+        assign(array, at + before, array.data + index + before + elements.count, elements.count - before);
+    }
+
+    /// Assigns the source to the slots from 0 on, in place.
+    void assign_to_front(Array_Storage<Kind> array) const noexcept
+    {
+        assign(array, 0, own ? array.data + index : elements.first, elements.count);
+    }
+
+private:
+    static bool lies_within(Array_Storage<Kind> array, typename Kind::Element const *first) noexcept
+    {
+        const std::less<> before;
+        return array.data != nullptr && !before(first, array.data) && before(first, array.data + array.count);
+    }
+
+    void assign(Array_Storage<Kind> array, std::uint32_t at, typename Kind::Element const *first,
+                std::uint32_t n) const noexcept
+    {
+        assign_from(elements.source, array.kind, array.data + at, first, n);
+    }
+
+    Elements_Of<Kind> elements;
+    bool own;
+    std::uint32_t index;
+};
+
+/// Inserts before index `at` (the count appends) into an owner, once its capacity exceeds `needed`, which
+/// is the new count less one at least.
+template <class Kind, class Report>
+bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Kind> elements,
+                      std::uint64_t needed, Report report) noexcept
+{
+    const Source_Position<Kind> source(array, elements);
+    const std::uint64_t count = std::uint64_t{array.count} + elements.count;
+    if (!grow(array, needed, report) || !open_up_to(array, static_cast<std::uint32_t>(count), report))
+        return false;
+    const std::uint32_t index = std::min(at, array.count);
+    if (index < array.count)
+        array.kind.open_gap(array.data, array.count, index, elements.count);
+    source.assign_to_gap(array, index);
+    array.count = static_cast<std::uint32_t>(count);
+    return true;
+}
+
+template <class Kind, class Report>
+inline void append_element(Array_Storage<Kind> array, typename Kind::Element element, Report report) noexcept
+{
+    if (array.is_link()) [[unlikely]]
+        return report(notes::append_element_through_link);
+    if (!grow(array, array.count, report) || !open_up_to(array, array.count + 1, report)) [[unlikely]]
+        return;
+    array.kind.assign(array.data + array.count, &element, 1);
+    ++array.count;
+}
+
+/// Appending nothing returns at once, before the link test.
+template <class Kind, class Report>
+void append_elements(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report report) noexcept
+{
+    if (elements.count == 0)
+        return;
+    if (array.is_link())
+        return report(notes::append_array_through_link);
+    insert_with_room(array, array.count, elements, std::uint64_t{array.count} + elements.count, report);
+}
+
+/// An index past the count appends.
+template <class Kind, class Report>
+void insert_element(Array_Storage<Kind> array, typename Kind::Element element, std::uint32_t at,
+                    Report report) noexcept
+{
+    if (array.is_link())
+        return report(notes::insert_element_through_link);
+    insert_with_room(array, at, Elements_Of<Kind>{&element, 1}, array.count, report);
+}
+
+/// An index past the count appends.
+template <class Kind, class Report>
+void insert_elements(Array_Storage<Kind> array, Elements_Of<Kind> elements, std::uint32_t at,
+                     Report report) noexcept
+{
+    if (array.is_link())
+        return report(notes::insert_array_through_link);
+    if (elements.count != 0)
+        insert_with_room(array, at, elements, std::uint64_t{array.count} + elements.count, report);
+}
+
+/// Puts `elements` in the place of the element at `at`; none removes it. An index past the last element
+/// changes nothing.
+template <class Kind, class Report>
+void replace_element(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Kind> elements,
+                     Report report) noexcept
+{
+    if (array.is_link())
+        return report(notes::replace_element_through_link);
+    if (at >= array.count)
+        return;
+    // The new elements come first, behind the old one, which may be among them.
+    const std::uint64_t needed = std::uint64_t{array.count} + elements.count - 1;
+    if (elements.count == 0 || insert_with_room(array, at + 1, elements, needed, report))
+        take_out(Vector_Storage<Kind>(array), at, 1);
+}
+
+/// Makes the array a copy of the elements. A link becomes an owner and forgets what it viewed.
+template <class Kind, class Report>
+void set_contents(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report report) noexcept
+{
+    if (array.is_link()) {
+        const std::uint64_t wanted = grown_capacity(0, elements.count, array.growth_seed);
+        replace_with_copy(Vector_Storage<Kind>(array), elements.source, elements.first, elements.count, wanted,
+                          array.capacity, report);
+        return;
+    }
+    const Source_Position<Kind> source(array, elements);
+    if (!grow(array, elements.count, report, notes::allocate_failed))
+        return;
+    if (elements.count > array.count && !open_up_to(array, elements.count, report, notes::allocate_failed))
+        return;
+    source.assign_to_front(array);
+    if (elements.count < array.count)
+        array.kind.close(array.data, elements.count, array.count);
+    array.count = elements.count;
+}
+
+/// Makes the array exactly this one element.
+template <class Kind, class Report>
+void copy_element(Array_Storage<Kind> array, typename Kind::Element element, Report report) noexcept
+{
+    if (array.is_link())
+        return report(notes::copy_element_through_link);
+    if (!grow(array, 1, report) || (array.count == 0 && !open_up_to(array, 1, report)))
+        return;
+    array.kind.assign(array.data, &element, 1);
+    if (array.count > 1)
+        array.kind.close(array.data, 1, array.count);
+    array.count = 1;
+}
+
+} // namespace zeb

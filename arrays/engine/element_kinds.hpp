@@ -1,0 +1,231 @@
+/// How an array keeps an element: plainly, as a counted reference, or as an object of its own.
+///
+/// A kind knows six moves, from which every array operation is made. `data` is the array's block, and the
+/// live elements are those below the count.
+///
+///     open       slots become live: undefined values, no object, or an empty object
+///     close      slots stop being live: what they hold is dropped
+///     assign     live slots take the elements of a source (which may lie in the same block, further up)
+///     open_gap   live elements move up; the slots in between are as freshly opened
+///     close_gap  live elements are dropped and those after them move down
+///     destroy    the array ends, or its block is cut: drops what the slots from an index on still hold
+///
+/// `Equality` and `Less` are the element's own: objects that an array holds are told by their contents,
+/// references by identity and address.
+///
+/// `fresh` is the same kind for a second block, whose own state `Fresh` carries; `take` makes that block
+/// the array's.
+#pragma once
+
+#include "arrays/engine/element_order.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace zeb
+{
+
+/// Numbers, characters and pointers: bytes that may be copied and forgotten.
+template <class Type>
+struct Plain_Elements {
+    using Element = Type;
+    using Equality = Own_Equality;
+    using Less = Own_Less;
+    static constexpr bool is_plain = true;
+    static constexpr bool holds_objects = false;
+    static constexpr bool zero_filled = false;
+
+    struct Fresh {};
+    Plain_Elements fresh(Fresh &) const noexcept { return {}; }
+    void take(Fresh) const noexcept {}
+
+    bool open(Element *, std::uint32_t, std::uint32_t) const noexcept { return true; }
+    void close(Element *, std::uint32_t, std::uint32_t) const noexcept {}
+    void destroy(Element *, std::uint32_t, std::uint32_t) const noexcept {}
+
+    void assign(Element *slots, Element const *source, std::uint32_t n) const noexcept
+    {
+        if (n != 0)
+            std::memmove(slots, source, n * sizeof(Element));
+    }
+
+    void assign_shared(Element *slots, Element const *source, std::uint32_t n) const noexcept
+    {
+        assign(slots, source, n);
+    }
+
+    void open_gap(Element *data, std::uint32_t count, std::uint32_t at, std::uint32_t n) const noexcept
+    {
+        std::memmove(data + at + n, data + at, (count - at) * sizeof(Element));
+    }
+
+    void close_gap(Element *data, std::uint32_t count, std::uint32_t at, std::uint32_t n) const noexcept
+    {
+        std::memmove(data + at, data + at + n, (count - at - n) * sizeof(Element));
+    }
+};
+
+/// What an object array does with the references that it holds.
+enum Ownership_Mode : std::uint32_t {
+    borrows = 0, ///< neither retains nor releases
+    adopts = 1,  ///< takes over the caller's reference, and releases what it drops
+    retains = 2  ///< retains what it stores, and releases what it drops
+};
+
+/// References to objects, kept under an ownership mode. `Policy` retains and releases one object.
+template <class Policy>
+struct Counted_References {
+    using Element = typename Policy::Element;
+    using Equality = Own_Equality;
+    using Less = Own_Less;
+    static constexpr bool is_plain = false;
+    static constexpr bool holds_objects = false;
+    static constexpr bool zero_filled = true;
+
+    std::uint32_t mode;
+
+    struct Fresh {};
+    Counted_References fresh(Fresh &) const noexcept { return *this; }
+    void take(Fresh) const noexcept {}
+
+    bool open(Element *data, std::uint32_t from, std::uint32_t to) const noexcept
+    {
+        std::fill(data + from, data + to, Element{});
+        return true;
+    }
+
+    void close(Element *data, std::uint32_t from, std::uint32_t to) const noexcept
+    {
+        for (std::uint32_t i = from; i < to; ++i) {
+            drop(data[i]);
+            data[i] = Element{};
+        }
+    }
+
+    void destroy(Element *data, std::uint32_t from, std::uint32_t count) const noexcept
+    {
+        for (std::uint32_t i = from; i < count; ++i)
+            drop(data[i]);
+    }
+
+    /// The source's references are the caller's: mode 1 takes them over.
+    void assign(Element *slots, Element const *source, std::uint32_t n) const noexcept
+    {
+        replace_each(slots, source, n, mode == retains);
+    }
+
+    /// The source's references stay with the array that holds them: modes 1 and 2 both retain.
+    void assign_shared(Element *slots, Element const *source, std::uint32_t n) const noexcept
+    {
+        replace_each(slots, source, n, mode != borrows);
+    }
+
+    void open_gap(Element *data, std::uint32_t count, std::uint32_t at, std::uint32_t n) const noexcept
+    {
+        std::copy_backward(data + at, data + count, data + count + n);
+        std::fill(data + at, data + at + n, Element{});
+    }
+
+    void close_gap(Element *data, std::uint32_t count, std::uint32_t at, std::uint32_t n) const noexcept
+    {
+        destroy(data, at, at + n);
+        std::copy(data + at + n, data + count, data + at);
+        std::fill(data + count - n, data + count, Element{});
+    }
+
+private:
+    void drop(Element object) const noexcept
+    {
+        if (mode != borrows && object != Element{})
+            Policy::release(object);
+    }
+
+    void replace_each(Element *slots, Element const *source, std::uint32_t n, bool retain) const noexcept
+    {
+        for (std::uint32_t i = 0; i < n; ++i) {
+            const Element stored = source[i];
+            const Element dropped = slots[i];
+            // An object that is stored over itself might have no other reference: it stays untouched.
+            if (stored == dropped)
+                continue;
+            if (retain && stored != Element{})
+                Policy::retain(stored);
+            slots[i] = stored;
+            drop(dropped);
+        }
+    }
+};
+
+/// Objects that the array makes itself, one for a slot, and keeps past the count for reuse. Storing an
+/// element copies its contents into the slot's object. `Policy` makes, copies, compares and ends them.
+template <class Policy>
+struct Held_Objects {
+    using Element = typename Policy::Element;
+    struct Equality {
+        bool operator()(Element left, Element right) const noexcept { return Policy::equal(left, right); }
+    };
+    struct Less {
+        bool operator()(Element left, Element right) const noexcept { return Policy::precedes(left, right); }
+    };
+    static constexpr bool is_plain = false;
+    static constexpr bool holds_objects = true;
+    static constexpr bool zero_filled = true;
+
+    std::uint32_t &held; ///< slots below this number hold an object
+
+    struct Fresh {
+        std::uint32_t held = 0;
+    };
+    Held_Objects fresh(Fresh &block) const noexcept { return {block.held}; }
+    void take(Fresh block) const noexcept { held = block.held; }
+
+    static std::uint64_t hash(Element object) noexcept { return Policy::hash(object); }
+
+    bool open(Element *data, std::uint32_t, std::uint32_t to) const noexcept
+    {
+        while (held < to) {
+            const Element made = Policy::make();
+            if (made == Element{})
+                return false;
+            data[held++] = made;
+        }
+        return true;
+    }
+
+    void close(Element *, std::uint32_t, std::uint32_t) const noexcept {}
+
+    void destroy(Element *data, std::uint32_t from, std::uint32_t) const noexcept
+    {
+        for (std::uint32_t i = from; i < held; ++i) {
+            Policy::release(data[i]);
+            data[i] = Element{};
+        }
+        held = std::min(held, from);
+    }
+
+    void assign(Element *slots, Element const *source, std::uint32_t n) const noexcept
+    {
+        for (std::uint32_t i = 0; i < n; ++i)
+            if (slots[i] != source[i])
+                Policy::copy(slots[i], source[i]);
+    }
+
+    void assign_shared(Element *slots, Element const *source, std::uint32_t n) const noexcept
+    {
+        assign(slots, source, n);
+    }
+
+    void open_gap(Element *data, std::uint32_t count, std::uint32_t at, std::uint32_t n) const noexcept
+    {
+        std::rotate(data + at, data + count, data + count + n);
+    }
+
+    void close_gap(Element *data, std::uint32_t count, std::uint32_t at, std::uint32_t n) const noexcept
+    {
+        std::rotate(data + at, data + at + n, data + count);
+    }
+};
+
+} // namespace zeb

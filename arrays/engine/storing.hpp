@@ -1,0 +1,111 @@
+/// Storing elements over those that a vector holds, for every kind of element.
+#pragma once
+
+#include "arrays/engine/array_notes.hpp"
+#include "arrays/engine/array_storage.hpp"
+#include "arrays/engine/fill.hpp"
+#include "arrays/engine/permutation.hpp"
+#include "arrays/engine/replace.hpp"
+#include "arrays/engine/copied_run.hpp"
+
+#include <utility>
+
+namespace zeb
+{
+
+/// Stores `element` into the range, both ends included; a range that starts after its end fills nothing,
+/// and what of it lies past the last element is left out.
+template <class Kind>
+void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename Kind::Element element) noexcept
+{
+    if constexpr (Kind::is_plain) {
+        fill_range(vector.elements(), range, element);
+    } else {
+        for (std::uint32_t i = range.start; i <= range.end && i < vector.count; ++i)
+            vector.kind.assign(vector.data + i, &element, 1);
+    }
+}
+
+/// Stores `element` everywhere.
+template <class Kind>
+void fill_with(Vector_Storage<Kind> vector, typename Kind::Element element) noexcept
+{
+    if (vector.count != 0)
+        fill_range_with(vector, {0, vector.count - 1}, element);
+}
+
+/// Stores `replacement` over every element equal to `element`, and answers how many those were.
+template <class Kind>
+std::uint32_t replace_every(Vector_Storage<Kind> vector, typename Kind::Element element,
+                            typename Kind::Element replacement) noexcept
+{
+    if constexpr (Kind::is_plain) {
+        return replace_equal(vector.elements(), element, replacement);
+    } else {
+        const typename Kind::Equality equal;
+        std::uint32_t replaced = 0;
+        std::uint32_t last = vector.count;
+        for (std::uint32_t i = 0; i < vector.count; ++i) {
+            if (!equal(vector.data[i], element))
+                continue;
+            ++replaced;
+            // The slot that holds `element` itself comes last: until then it tells which ones are meant.
+            const std::uint32_t now = vector.data[i] == element ? std::exchange(last, i) : i;
+            if (now != vector.count)
+                vector.kind.assign(vector.data + now, &replacement, 1);
+        }
+        if (last != vector.count)
+            vector.kind.assign(vector.data + last, &replacement, 1);
+        return replaced;
+    }
+}
+
+/// Which way a permutation is read: element i becomes element `permutation[i]`, or that becomes element i.
+enum class Permutation_Way { forward, inverse };
+
+namespace storing_detail
+{
+
+template <class Kind>
+Permutation_Outcome permute_plain(Vector_Storage<Kind> vector, std::span<const std::uint32_t> permutation,
+                                  Permutation_Way way) noexcept
+{
+    return way == Permutation_Way::forward ? apply_permutation(vector.elements(), permutation)
+                                           : apply_inverse_permutation(vector.elements(), permutation);
+}
+
+/// Entries may repeat, so that objects are stored anew rather than moved.
+template <class Kind, class Report>
+Permutation_Outcome permute_objects(Vector_Storage<Kind> vector, std::span<const std::uint32_t> permutation,
+                                    Permutation_Way way, Report report) noexcept
+{
+    const Copied_Run<Kind> copy(vector.kind, vector.elements(), report);
+    const std::size_t used = std::min(copy.get().size(), permutation.size());
+    for (std::uint32_t i = 0; i < used; ++i) {
+        const std::uint32_t from = way == Permutation_Way::forward ? permutation[i] : i;
+        const std::uint32_t to = way == Permutation_Way::forward ? i : permutation[i];
+        vector.kind.assign_shared(vector.data + to, copy.get().data() + from, 1);
+    }
+    return Permutation_Outcome::Applied;
+}
+
+} // namespace storing_detail
+
+/// Rearranges as many elements as the shorter of both has. An entry outside the vector is reported, and
+/// nothing changes; neither does it where memory is short.
+template <class Kind, class Report>
+void permute(Vector_Storage<Kind> vector, std::span<const std::uint32_t> permutation, Permutation_Way way,
+             Report report) noexcept
+{
+    const std::size_t used = std::min<std::size_t>(vector.count, permutation.size());
+    if (!permutation_detail::names_elements(permutation, used, vector.count))
+        return report(notes::permutation_out_of_range);
+    if constexpr (Kind::is_plain) {
+        if (storing_detail::permute_plain(vector, permutation, way) == Permutation_Outcome::No_Memory)
+            report(notes::allocate_failed);
+    } else {
+        storing_detail::permute_objects(vector, permutation, way, report);
+    }
+}
+
+} // namespace zeb

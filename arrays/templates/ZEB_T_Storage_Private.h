@@ -1,0 +1,39 @@
+/*
+ * How the engine sees vectors and arrays of TT_PHRASE.
+ */
+#import <Korvane_ZEB/ZEB_T_Array.h>
+
+#import "arrays/ZEB_Element_Policies_Private.h"
+#import "core/ZEB_Report_Private.h"
+
+#include "arrays/engine/array_storage.hpp"
+#include "arrays/engine/element_kinds.hpp"
+
+namespace zeb
+{
+
+/// How the family keeps its elements.
+using ZEB_T_Kind = TT_KIND;
+
+/// The class-wide growth seed of the family.
+extern __attribute__((visibility("hidden"))) uint32_t ZEB_T_growth_seed;
+
+inline Vector_Storage<ZEB_T_Kind> storage_of_vector(ZEB_T_Vector *vector)
+{
+    return {vector->data, vector->count, vector->link_marker, ZEB_T_Kind{TT_KIND_STATE}};
+}
+
+inline Array_Storage<ZEB_T_Kind> storage_of_array(ZEB_T_Array *vector)
+{
+    return {storage_of_vector(vector), vector->capacity, ZEB_T_growth_seed};
+}
+
+/// Gives a collection the element-keeping mode of another, in families that have one.
+inline void take_mode(ZEB_T_Collection *made, ZEB_T_Collection *other)
+{
+    (void)made;
+    (void)other;
+    TT_TAKE_MODE;
+}
+
+} // namespace zeb

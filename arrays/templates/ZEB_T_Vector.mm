@@ -1,0 +1,261 @@
+#import "arrays/ZEB_T_Storage_Private.h"
+
+#import <Korvane_ZEB/ZEB_Stream.h>
+
+#include "arrays/engine/counting.hpp"
+#include "arrays/engine/vector_lifetime.hpp"
+#include "core/engine/notice.hpp"
+
+using zeb::storage_of_vector;
+
+namespace
+{
+
+uint32_t default_length = 16;
+
+} // namespace
+
+@implementation ZEB_T_Vector
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return zeb::proprietary_software_notice;
+}
+
++ (uint32_t)default_length
+{
+    return default_length;
+}
+
++ (void)set_default_length:(uint32_t)length
+{
+    default_length = length;
+}
+
++ (ZEB_T_Vector *)link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
+{
+    return [[[self alloc] init_as_link_to_TT_words:elements count:n] autorelease];
+}
+
+- (id)init
+{
+    self = [super init];
+    if (self != nil)
+        zeb::start(storage_of_vector(self), default_length, default_length, zeb::Fix_Report{self, _cmd});
+    return self;
+}
+
+- (id)init_unlinked
+{
+    return [super init];
+}
+
+- (id)init_with_capacity:(uint32_t)capacity
+{
+    self = [super init];
+    if (self != nil)
+        zeb::start(storage_of_vector(self), 0, capacity, zeb::Fix_Report{self, _cmd});
+    return self;
+}
+
+- (id)init_with_length:(uint32_t)length
+{
+    self = [super init];
+    if (self != nil)
+        zeb::start(storage_of_vector(self), length, length, zeb::Fix_Report{self, _cmd});
+    return self;
+}
+
+- (id)init_as_link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
+{
+    self = [super init];
+    if (self != nil) {
+        link_marker = zeb::link_marker_of_links;
+        TT_FIELD_OF_FOREIGN;
+        zeb::view(storage_of_vector(self), elements, n);
+    }
+    return self;
+}
+
+- (id)init_as_link_to_TT_word_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range
+{
+    self = [super init];
+    if (self != nil) {
+        link_marker = zeb::link_marker_of_links;
+        zeb::view_range(storage_of_vector(self), [other TT_word_data], range);
+    }
+    return self;
+}
+
+- (id)init_as_copy_of_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n
+{
+    self = [super init];
+    if (self != nil) {
+        TT_FIELD_OF_FOREIGN;
+        zeb::start_as_copy(storage_of_vector(self), zeb::Source::of_the_caller, elements, n, n,
+                           zeb::Fix_Report{self, _cmd});
+    }
+    return self;
+}
+
+- (id)init_as_copy_of_TT_word_vector:(ZEB_T_Vector *)other
+{
+    self = [super init];
+    if (self != nil && other != nil) {
+        zeb::take_mode(self, other);
+        zeb::start_as_copy(storage_of_vector(self), zeb::Source::of_another_array, other->data, other->count,
+                           other->count, zeb::Fix_Report{self, _cmd});
+    }
+    return self;
+}
+
+- (void)dealloc
+{
+    zeb::finish(storage_of_vector(self));
+    [super dealloc];
+}
+
+- (id)copyWithZone:(NSZone *)zone
+{
+    return [[[self class] allocWithZone:zone] init_as_copy_of_TT_word_vector:self];
+}
+
+- (void)relink_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
+{
+    zeb::view(storage_of_vector(self), elements, n);
+}
+
+- (void)relink_to_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range
+{
+    zeb::view_range(storage_of_vector(self), [other TT_word_data], range);
+}
+
+- (void)copy_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n capacity:(uint32_t)capacity
+{
+    uint32_t room;
+    zeb::replace_with_copy(storage_of_vector(self), zeb::Source::of_the_caller, elements, n, capacity, room,
+                           zeb::Fix_Report{self, _cmd});
+}
+
+- (void)copy_vector:(ZEB_T_Vector *)other capacity:(uint32_t)capacity
+{
+    uint32_t room;
+    zeb::replace_with_copy(storage_of_vector(self), zeb::Source::of_another_array, [other TT_word_data],
+                           [other count], capacity, room, zeb::Fix_Report{self, _cmd});
+}
+
+- (uint32_t)count
+{
+    return count;
+}
+
+- (uint8_t)is_empty
+{
+    return count == 0 ? 1 : 0;
+}
+
+- (uint8_t)is_not_empty
+{
+    return count != 0 ? 1 : 0;
+}
+
+- (void)clear
+{
+    zeb::change_count(storage_of_vector(self), 0, zeb::Fix_Report{self, _cmd});
+}
+
+- (void)set_count:(uint32_t)length
+{
+    zeb::change_count(storage_of_vector(self), length, zeb::Fix_Report{self, _cmd});
+}
+
+- (void)decrease_count:(uint32_t)n
+{
+    zeb::change_count(storage_of_vector(self), n < count ? count - n : 0, zeb::Fix_Report{self, _cmd});
+}
+
+- (void)decrement_count
+{
+    [self decrease_count:1];
+}
+
+- (ZEB_T_Element *)TT_word_data
+{
+    return data;
+}
+
+- (void)set_TT_word_data:(ZEB_T_Element *)elements
+{
+    data = elements;
+}
+
+- (ZEB_T_Element)TT_word_at_index:(uint32_t)index
+{
+    return data[index];
+}
+
+- (ZEB_T_Element)ZEB_T_element_at_index:(uint32_t)index
+{
+    return data[index];
+}
+
+- (void)set_TT_word:(ZEB_T_Element)element at_index:(uint32_t)index
+{
+    storage_of_vector(self).kind.assign(data + index, &element, 1);
+}
+
+- (ZEB_T_Element)TT_word_at_index_from_end:(uint32_t)index
+{
+    return data[count - 1 - index];
+}
+
+- (void)set_TT_word:(ZEB_T_Element)element at_index_from_end:(uint32_t)index
+{
+    storage_of_vector(self).kind.assign(data + (count - 1 - index), &element, 1);
+}
+
+- (ZEB_T_Element)first_TT_word
+{
+    return count != 0 ? data[0] : zeb::ZEB_T_Kind::Element();
+}
+
+- (ZEB_T_Element)last_TT_word
+{
+    return count != 0 ? data[count - 1] : zeb::ZEB_T_Kind::Element();
+}
+
+- (ZEB_T_Element *)pointer_to_TT_word_at_index:(uint32_t)index
+{
+    return data + index;
+}
+
+- (ZEB_T_Element *)pointer_to_TT_word_at_index_from_end:(uint32_t)index
+{
+    return data + (count - 1 - index);
+}
+
+- (void)send_element_to_stream:(uint32_t)index stream:(ZEB_Stream *)stream
+{
+    ZEB_T_Element const element = data[index];
+    TT_WRITE_ELEMENT;
+}
+
+- (void)set_length:(uint32_t)length
+{
+    (void)length;
+    zeb::report_need_to_implement(self, _cmd, zeb::notes::need_to_implement);
+}
+
+- (void)ensure_room_for:(uint32_t)n
+{
+    (void)n;
+    zeb::report_need_to_implement(self, _cmd, zeb::notes::need_to_implement);
+}
+
+- (void)append_array:(ZEB_T_Vector *)other
+{
+    (void)other;
+    zeb::report_need_to_implement(self, _cmd, zeb::notes::need_to_implement);
+}
+
+@end

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace zeb
+{
+
+/// Puts a finite number other than 0 as d.ddde+dd with 15 or 6 significant digits, rounded as the C library
+/// rounds, without trailing zeros and without a point that nothing follows; a negative one begins with '-'.
+/// The exponent has a sign and two or three digits. The decimal point is '.' in every locale. At most 22
+/// characters, no terminating null; returns the position after the last character.
+template <int significant_digits>
+char *put_exponent_form(char *out, double x) noexcept;
+
+extern template char *put_exponent_form<15>(char *, double) noexcept;
+extern template char *put_exponent_form<6>(char *, double) noexcept;
+
+} // namespace zeb

@@ -1,0 +1,112 @@
+#include "calendar/engine/instant.hpp"
+
+#include "calendar/engine/fixed_text.hpp"
+#include "calendar/engine/julian_day.hpp"
+#include "calendar/engine/slash_date.hpp"
+#include "calendar/engine/unsigned_text.hpp"
+#include "calendar/engine/wide_product.hpp"
+
+#include <cstdint>
+#include <limits>
+
+namespace zeb
+{
+namespace
+{
+
+constexpr bool fits_in_32_bits(std::int64_t value) noexcept
+{
+    return value >= std::numeric_limits<std::int32_t>::min() &&
+           value <= std::numeric_limits<std::int32_t>::max();
+}
+
+struct Clock_Time {
+    std::uint32_t hours;
+    std::uint32_t minutes;
+    double seconds;
+};
+
+Clock_Time clock_time(double remainder) noexcept
+{
+    const std::uint32_t hours = static_cast<std::uint32_t>(remainder / 3600.0);
+    const double hour_seconds = hours * 3600.0;
+    const std::uint32_t minutes = static_cast<std::uint32_t>((remainder - hour_seconds) / 60.0);
+    return {hours, minutes, remainder - minutes * 60.0 - hour_seconds};
+}
+
+// Below 10 a '0' comes first, by the value before rounding: 9.9999999 gives "010".
+char *put_seconds(char *out, double seconds) noexcept
+{
+    if (seconds < 10.0)
+        *out++ = '0';
+    std::uint32_t whole = static_cast<std::uint32_t>(seconds);
+    std::uint32_t microseconds = rounded_microseconds(seconds - whole);
+    if (microseconds == 1000000) {
+        microseconds = 0;
+        ++whole;
+    }
+    return put_decimals(put_unsigned(out, whole), microseconds, 6);
+}
+
+char *put_clock_time(char *out, std::uint32_t hour, Clock_Time time) noexcept
+{
+    *out++ = ' ';
+    out = put_two_digits_at_least(out, hour);
+    *out++ = ':';
+    out = put_two_digits_at_least(out, time.minutes);
+    *out++ = ':';
+    return put_seconds(out, time.seconds);
+}
+
+} // namespace
+
+bool split_instant(double seconds_since_1970, Split_Instant &split) noexcept
+{
+    // Far inside the 64-bit integers, and false for what is not a number.
+    if (!(seconds_since_1970 > -1e15 && seconds_since_1970 < 1e15))
+        return false;
+    const std::int64_t days =
+        static_cast<std::int64_t>(seconds_since_1970 / seconds_per_day) - (seconds_since_1970 < 0);
+    const std::int64_t julian_day = days + julian_day_of_1970;
+    if (!fits_in_32_bits(julian_day))
+        return false;
+    split.julian_day = julian_day;
+    split.remainder = seconds_since_1970 - static_cast<double>(days) * seconds_per_day;
+    return true;
+}
+
+std::uint32_t rounded_microseconds(double fraction) noexcept
+{
+    // The fixed point stands so high that every bit of a fraction of a microsecond or more is kept.
+    const bool is_small = fraction < 0x1p-12;
+    const double scale = is_small ? 0x1p76 : 0x1p64;
+    const Wide_Unsigned product = wide_product(static_cast<std::uint64_t>(fraction * scale), 1000000);
+    const std::uint64_t whole = is_small ? product.high >> 12 : product.high;
+    // The bits that this drops never decide: no double comes so close to a tie without being one.
+    const std::uint64_t rest = is_small ? product.high << 52 | product.low >> 12 : product.low;
+    constexpr std::uint64_t half = std::uint64_t{1} << 63;
+    const bool up = rest > half || (rest == half && (whole & 1));
+    return static_cast<std::uint32_t>(whole + up);
+}
+
+char *write_pretty_date(char *buffer, double seconds_since_1970) noexcept
+{
+    char *end = buffer;
+    Split_Instant split;
+    if (split_instant(seconds_since_1970, split)) {
+        const Clock_Time time = clock_time(split.remainder);
+        // A remainder of a whole day is midnight of the next one.
+        const bool next_day = time.hours == 24;
+        const std::uint32_t hour = next_day ? 0 : time.hours;
+        const std::int64_t julian_day = split.julian_day + next_day;
+        if (fits_in_32_bits(julian_day)) {
+            end = put_slash_date(end, date_from_julian_day(static_cast<std::int32_t>(julian_day)));
+            if (hour != 0 || time.minutes != 0 || !(time.seconds < 1e-6))
+                end = put_clock_time(end, hour, time);
+        }
+    }
+    *end = '\0';
+    return end;
+}
+
+} // namespace zeb

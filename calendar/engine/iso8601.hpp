@@ -1,0 +1,35 @@
+#pragma once
+
+#include "calendar/engine/date_time.hpp"
+
+namespace zeb
+{
+
+/// Dates and times by ISO 8601 in its extended form, the same in every locale, on the calendar of
+/// civil_date.hpp. Years from 0 to 9999 have four digits; others have a sign and at least six.
+
+/// Room for every text below.
+inline constexpr std::uint32_t iso8601_text_size = 64;
+
+/// Writes year-month-day from the fields as they stand (they should be in their ranges; a field below 0 is
+/// written as a large number). Returns a pointer to the terminating null.
+char *write_iso8601_date(char *buffer, ZEB_Gregorian_Date date) noexcept;
+
+/// Writes year-month-dayThours:minutes:seconds, and a fraction of up to nine decimals unless the nanoseconds
+/// are 0. A time past the day's end is carried into the day; when the day then leaves the signed 32-bit
+/// numbers the text is empty. Returns a pointer to the terminating null.
+char *write_iso8601(char *buffer, std::int32_t julian_day, ZEB_Time_Value time) noexcept;
+
+/// The same for seconds since 1970-01-01 00:00, rounded to the microsecond; empty for an instant that is not
+/// finite or whose Julian day number does not fit in 32 bits.
+char *write_iso8601_instant(char *buffer, double seconds_since_1970) noexcept;
+
+/// Reads a date from the start of a counted array, and a time when 'T', 't' or a space and hours:minutes or
+/// hours:minutes:seconds follow; the seconds may have a fraction after '.' or ',', of which nine decimals
+/// count. A year has four digits, or a sign and four to nine. Every field must lie in its range (hours 0 to
+/// 23, seconds 0 to 59). A zone ("Z", "+01:00") is not read: the count ends before it. Returns the number of
+/// characters read; 0, with `value` unchanged, when no date stands there or its day number does not fit in 32
+/// bits. Without a valid time the date alone is read and the time is 0.
+std::uint32_t scan_iso8601(const char *chars, std::uint32_t length, Date_Time &value) noexcept;
+
+} // namespace zeb

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+namespace zeb
+{
+
+/// digits * 10^(exponent - number of digits + 1): a decimal number of a fixed count of significant digits,
+/// the first of which is not 0.
+struct Rounded_Decimal {
+    std::uint64_t digits;
+    int exponent;
+};
+
+/// The magnitude, which is finite and not 0, rounded to `digit_count` significant digits: the exact value,
+/// ties to even, as the C library rounds. digit_count is 15 or 6.
+template <int digit_count>
+Rounded_Decimal rounded_decimal(double magnitude) noexcept;
+
+extern template Rounded_Decimal rounded_decimal<15>(double) noexcept;
+extern template Rounded_Decimal rounded_decimal<6>(double) noexcept;
+
+} // namespace zeb

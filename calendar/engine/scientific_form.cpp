@@ -1,0 +1,117 @@
+#include "calendar/engine/scientific_form.hpp"
+
+#include "calendar/engine/padded_fixed.hpp"
+#include "calendar/engine/unsigned_text.hpp"
+
+#include <cmath>
+#include <cstring>
+
+namespace zeb
+{
+namespace
+{
+
+constexpr std::uint32_t part_size = 32; // of mantissa and base, null included
+constexpr double eulers_number = 2.718281828459045;
+constexpr double largest_exponent = 0x1p63;
+
+struct Power_Form {
+    double mantissa;
+    std::int64_t exponent;
+};
+
+bool is_eulers_number(double base) noexcept { return std::fabs(base - eulers_number) < 1e-12; }
+
+// False when a step is not finite.
+bool take_apart(const Scientific_Rules &rules, double magnitude, Power_Form &form) noexcept
+{
+    if (magnitude <= 1e-12 * rules.zero_reference) {
+        form = {0.0, 1};
+        return true;
+    }
+    const double ratio = std::log10(magnitude) / std::log10(rules.base);
+    const double exponent = is_eulers_number(rules.base) ? std::ceil(ratio) : std::floor(ratio + 1e-12);
+    if (!(std::fabs(exponent) < largest_exponent))
+        return false;
+    const double power = std::pow(rules.base, exponent);
+    form = {magnitude / power, static_cast<std::int64_t>(exponent)};
+    return std::isfinite(power) && std::isfinite(form.mantissa);
+}
+
+// The length without spaces and zeros at the end; a point at the end stays.
+std::uint32_t trimmed_length(const char *text, std::uint32_t length) noexcept
+{
+    while (length > 0 && (text[length - 1] == ' ' || text[length - 1] == '0'))
+        --length;
+    return length;
+}
+
+std::uint32_t length_without_point(const char *text, std::uint32_t length) noexcept
+{
+    return length > 0 && text[length - 1] == '.' ? length - 1 : length;
+}
+
+// Each of these returns the end of its part, or null when the part does not fit.
+
+char *put_mantissa(char *out, std::uint32_t precision, double mantissa, bool negative) noexcept
+{
+    if (negative)
+        *out = '-';
+    const std::uint32_t printed = put_padded_fixed(out + negative, part_size - negative, precision, mantissa);
+    if (printed == 0)
+        return nullptr;
+    const std::uint32_t length = trimmed_length(out, printed + negative);
+    if (length <= 1)
+        return out;
+    char *end = out + length_without_point(out, length);
+    *end = ' ';
+    return end + 1;
+}
+
+char *put_base(char *out, double base) noexcept
+{
+    if (is_eulers_number(base)) {
+        *out = 'e';
+        return out + 1;
+    }
+    const std::uint32_t printed = put_padded_fixed(out, part_size, 6, base);
+    return printed == 0 ? nullptr : out + length_without_point(out, trimmed_length(out, printed));
+}
+
+char *finish(char *buffer, const char *word) noexcept
+{
+    std::memcpy(buffer, word, 4);
+    return buffer + 3;
+}
+
+} // namespace
+
+char *write_scientific(char *buffer, const Scientific_Rules &rules, double x, std::uint32_t *result_kind,
+                       ZEB_Index_Range *range) noexcept
+{
+    ZEB_Index_Range unused_range;
+    std::uint32_t unused_kind;
+    ZEB_Index_Range &exponent_range = range ? *range : unused_range;
+    std::uint32_t &kind = result_kind ? *result_kind : unused_kind;
+    exponent_range = {0, 0};
+    kind = not_a_number_result;
+    if (!std::isfinite(x))
+        return finish(buffer, std::isnan(x) ? "NaN" : "Inf");
+
+    Power_Form form;
+    char *end = take_apart(rules, std::fabs(x), form) ? buffer : nullptr;
+    if (end)
+        end = put_mantissa(end, rules.precision, form.mantissa, x < 0);
+    if (end)
+        end = put_base(end, rules.base);
+    if (!end)
+        return finish(buffer, "Err");
+    exponent_range.start = static_cast<std::uint32_t>(end - buffer);
+    end = put_signed_64(end, form.exponent);
+    exponent_range.end = static_cast<std::uint32_t>(end - buffer) - 1;
+    kind = general_result;
+    *end = '\0';
+    return end;
+}
+
+} // namespace zeb

@@ -1,0 +1,18 @@
+# Libraries that make the engine faster where they are found; without them it answers the same.
+
+add_library(zeb_optional INTERFACE)
+
+find_path(HIGHWAY_INCLUDE_DIR hwy/contrib/sort/vqsort.h)
+find_library(HIGHWAY_LIBRARY hwy)
+find_library(HIGHWAY_CONTRIB_LIBRARY hwy_contrib)
+if(HIGHWAY_INCLUDE_DIR AND HIGHWAY_LIBRARY AND HIGHWAY_CONTRIB_LIBRARY)
+  target_include_directories(zeb_optional SYSTEM INTERFACE ${HIGHWAY_INCLUDE_DIR})
+  target_compile_definitions(zeb_optional INTERFACE ZEB_HAS_HIGHWAY)
+  target_link_libraries(zeb_optional INTERFACE ${HIGHWAY_CONTRIB_LIBRARY} ${HIGHWAY_LIBRARY})
+endif()
+
+find_path(FAST_FLOAT_INCLUDE_DIR fast_float/fast_float.h)
+if(FAST_FLOAT_INCLUDE_DIR)
+  target_include_directories(zeb_optional SYSTEM INTERFACE ${FAST_FLOAT_INCLUDE_DIR})
+  target_compile_definitions(zeb_optional INTERFACE ZEB_HAS_FAST_FLOAT)
+endif()

@@ -1,0 +1,177 @@
+#import <Korvane_ZEB/ZEB_Error_Stream.h>
+
+#import <Korvane_ZEB/ZEB_Platform_Names.h>
+#import <Korvane_ZEB/ZEB_String.h>
+
+#import "core/ZEB_Stream_Private.h"
+
+#include "core/engine/char_span.hpp"
+#include "core/engine/notice.hpp"
+
+#import <objc/runtime.h>
+
+#include <string.h>
+
+namespace
+{
+
+constexpr ZEB_Char_Span overload_lead = zeb::span_of("Need to overload selector: ");
+constexpr ZEB_Char_Span implement_lead = zeb::span_of("Need to implement selector: ");
+constexpr ZEB_Char_Span fix_lead = zeb::span_of("Need to fix algorithm in selector: ");
+constexpr ZEB_Char_Span class_lead = zeb::span_of(" for object of class: ");
+constexpr ZEB_Char_Span line_break = zeb::span_of("\n");
+
+void put_on_standard_error(ZEB_Char_Span text)
+{
+    if (text.length != 0)
+        fwrite(text.char_c_array, 1, text.length, stderr);
+}
+
+ZEB_Char_Span name_span(const char *name)
+{
+    return {name, static_cast<uint32_t>(strlen(name))};
+}
+
+/// The runtime's own texts of both names are what the platform's name services answer; they are static,
+/// so a diagnostic makes no object, also when it tells that memory is short.
+void put_diagnostic(ZEB_Char_Span lead, SEL selector, id object, ZEB_Char_Span note)
+{
+    put_on_standard_error(lead);
+    if (selector != NULL)
+        put_on_standard_error(name_span(sel_getName(selector)));
+    put_on_standard_error(class_lead);
+    if (object != nil)
+        put_on_standard_error(name_span(class_getName([object class])));
+    put_on_standard_error(zeb::span_of("."));
+    if (note.length != 0) {
+        put_on_standard_error(zeb::span_of(" "));
+        put_on_standard_error(note);
+    }
+    put_on_standard_error(line_break);
+}
+
+} // namespace
+
+@implementation ZEB_Error_Stream
+
++ (ZEB_Error_Stream *)shared_error_stream
+{
+    static ZEB_Error_Stream *shared = nil;
+    if (shared == nil)
+        shared = [[ZEB_Error_Stream alloc] init];
+    return shared;
+}
+
++ (ZEB_Error_Stream *)shared_error_stream_if_verbose
+{
+    ZEB_Error_Stream *const stream = [self shared_error_stream];
+    return [stream verbose] != 0 ? stream : nil;
+}
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return zeb::proprietary_software_notice;
+}
+
+- (id)init
+{
+    self = [super init];
+    if (self != nil)
+        verbose = 1;
+    return self;
+}
+
+- (FILE *)output_file
+{
+    return stderr;
+}
+
+- (uint32_t)warning_count
+{
+    return warning_count;
+}
+
+- (void)set_warning_count:(uint32_t)value
+{
+    warning_count = value;
+}
+
+- (void)reset_warning_count
+{
+    warning_count = 0;
+}
+
+- (void)increment_warning_count
+{
+    ++warning_count;
+}
+
+- (uint32_t)verbose
+{
+    return verbose;
+}
+
+- (void)set_verbose:(uint32_t)value
+{
+    verbose = value;
+}
+
+- (void)diagnose:(ZEB_Char_Span)lead selector:(SEL)selector object:(id)object note:(ZEB_Char_Span)note
+{
+    ++warning_count;
+    if (verbose != 0)
+        put_diagnostic(lead, selector, object, note);
+}
+
+- (void)need_to_overload:(SEL)selector object:(id)object note:(ZEB_Char_Span)note
+{
+    [self diagnose:overload_lead selector:selector object:object note:note];
+}
+
+- (void)need_to_implement:(SEL)selector object:(id)object note:(ZEB_Char_Span)note
+{
+    [self diagnose:implement_lead selector:selector object:object note:note];
+}
+
+- (void)need_to_fix_algorithm:(SEL)selector object:(id)object note:(ZEB_Char_Span)note
+{
+    [self diagnose:fix_lead selector:selector object:object note:note];
+}
+
+- (void)write_selector:(SEL)selector
+{
+    ZC_assign_selector_name(scratch_string, selector);
+    [self write_string:scratch_string];
+}
+
+- (void)write_selector_with_format:(SEL)selector format:(const char *)format
+{
+    ZC_assign_selector_name(scratch_string, selector);
+    [self write_string_with_format:scratch_string format:format];
+}
+
+- (void)write_class:(Class)named
+{
+    ZC_assign_class_name(scratch_string, named);
+    [self write_string:scratch_string];
+}
+
+- (void)write_class_with_format:(Class)named format:(const char *)format
+{
+    ZC_assign_class_name(scratch_string, named);
+    [self write_string_with_format:scratch_string format:format];
+}
+
+// A character is put as it is; only the writer with a format of its own prints through one.
+- (void)write_char:(int)value
+{
+    fputc(value, [self output_file]);
+}
+
+- (void)write_unsigned_long_with_format:(uint64_t)value format:(const char *)format
+{
+    // This writer is the base class's alone, and so stays on standard output.
+    [[ZEB_Stream shared_stream] write_unsigned_long_with_format:value format:format];
+}
+
+@end

@@ -1,0 +1,186 @@
+#import "core/ZEB_Stream_Private.h"
+
+#import <Korvane_ZEB/ZEB_Collection.h>
+#import <Korvane_ZEB/ZEB_String.h>
+
+#include "core/engine/notice.hpp"
+#include "core/engine/stream_formats.hpp"
+
+namespace
+{
+
+void put_unimplemented(const char *line)
+{
+    fputs(line, stdout);
+    fputc('\n', stdout);
+}
+
+/// Sends an object one of the hooks by which it writes itself; what does not know the hook writes nothing.
+void send_hook(id object, SEL hook, ZEB_Stream *stream)
+{
+    if ([object respondsToSelector:hook])
+        [object performSelector:hook withObject:stream];
+}
+
+} // namespace
+
+@implementation ZEB_Stream (Sink)
+
+- (FILE *)output_file
+{
+    return stdout;
+}
+
+- (FILE *)input_file
+{
+    return stdin;
+}
+
+- (void)put_bytes:(const char *)bytes length:(uint32_t)length
+{
+    if (length != 0)
+        fwrite(bytes, 1, length, [self output_file]);
+}
+
+- (void)put_format:(const char *)format arguments:(va_list)arguments
+{
+    vfprintf([self output_file], format, arguments);
+}
+
+- (int)take_format:(const char *)format arguments:(va_list)arguments
+{
+    return vfscanf([self input_file], format, arguments);
+}
+
+@end
+
+@implementation ZEB_Stream
+
++ (ZEB_Stream *)shared_stream
+{
+    static ZEB_Stream *shared = nil;
+    if (shared == nil)
+        shared = [[ZEB_Stream alloc] init];
+    return shared;
+}
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return zeb::proprietary_software_notice;
+}
+
+- (id)init
+{
+    self = [super init];
+    if (self == nil)
+        return nil;
+    char_format = zeb::first_char_format;
+    int_format = zeb::first_int_format;
+    unsigned_format = zeb::first_unsigned_format;
+    float_format = zeb::first_float_format;
+    double_format = zeb::first_double_format;
+    character_code_format = zeb::first_character_code_format;
+    unsigned_long_format = zeb::first_unsigned_long_format;
+    hex_format = zeb::first_hex_format;
+    date_format = zeb::first_date_format;
+    list_open_delimiter = zeb::first_open_delimiter;
+    list_close_delimiter = zeb::first_close_delimiter;
+    list_separator = zeb::first_separator;
+    scratch_string = [[ZEB_String alloc] init_with_capacity:0];
+    return self;
+}
+
+- (void)dealloc
+{
+    [scratch_string release];
+    [super dealloc];
+}
+
+- (void)reset
+{
+    failure_count = 0;
+}
+
+- (void)reset_failure_count
+{
+    failure_count = 0;
+}
+
+- (uint32_t)failure_count
+{
+    return failure_count;
+}
+
+- (void)set_failure_count:(uint32_t)value
+{
+    failure_count = value;
+}
+
+- (void)write_bytes:(const char *)char_c_array length:(uint32_t)length
+{
+    [self put_bytes:char_c_array length:length];
+}
+
+- (void)write_string:(ZEB_String *)string
+{
+    [self put_bytes:[string char_data] length:[string count]];
+}
+
+- (void)write_object:(id)object
+{
+    send_hook(object, @selector(send_to_stream:), self);
+}
+
+- (void)write_object_with_format:(id)object format:(const char *)format
+{
+    (void)format;
+    [self write_object:object];
+}
+
+- (void)write_value:(id)object
+{
+    [self write_object:object];
+}
+
+- (void)write_object_text:(id)object
+{
+    send_hook(object, @selector(send_text_to_stream:), self);
+}
+
+- (void)write_object_contents:(id)object
+{
+    send_hook(object, @selector(send_contents_to_stream:), self);
+}
+
+- (void)ZEB_send_delimited_list:(ZEB_Collection *)list
+{
+    const uint32_t count = [list count];
+    zeb::put(self, list_open_delimiter);
+    for (uint32_t i = 0; i < count; ++i) {
+        if (i != 0)
+            zeb::put(self, list_separator);
+        [list send_element_to_stream:i stream:self];
+    }
+    zeb::put(self, list_close_delimiter);
+}
+
+- (void)ZEB_send_list:(ZEB_Collection *)list
+{
+    const uint32_t count = [list count];
+    for (uint32_t i = 0; i < count; ++i)
+        [list send_element_to_stream:i stream:self];
+}
+
+- (void)ZEB_receive_delimited_list:(ZEB_Collection *)list
+{
+    (void)list;
+    put_unimplemented("Need to implement ZEB_receive_delimited_list:");
+}
+
+- (void)ZEB_receive_list:(ZEB_Collection *)list
+{
+    (void)list;
+    put_unimplemented("Need to implement ZEB_receive_list:");
+}
+
+@end

@@ -1,0 +1,94 @@
+/*
+ * The value types and shared codes of the framework, in plain C11.
+ *
+ * Nothing here needs Objective-C or C++; every other header of the framework builds on it.
+ */
+#ifndef ZEB_TYPES_H
+#define ZEB_TYPES_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+#define ZEB_EXTERN_C_BEGIN extern "C" {
+#define ZEB_EXTERN_C_END }
+#else
+#define ZEB_EXTERN_C_BEGIN
+#define ZEB_EXTERN_C_END
+#endif
+
+/* Marks what the dynamic library exports. Linux exports by its version script instead, because g++
+   ignores the attribute on an @interface. */
+#if defined(__APPLE__)
+#define ZEB_EXPORT __attribute__((visibility("default")))
+#else
+#define ZEB_EXPORT
+#endif
+
+/* A counted run of 8-bit characters that belongs to someone else; it needs no terminating null. */
+typedef struct ZEB_Char_Span {
+    const char *char_c_array;
+    uint32_t length;
+} ZEB_Char_Span;
+
+/* A range of zero-based indexes; both ends belong to it. */
+typedef struct ZEB_Index_Range {
+    uint32_t start;
+    uint32_t end;
+} ZEB_Index_Range;
+
+/* A date of the proleptic Gregorian calendar. Years are astronomical: year 0 exists. */
+typedef struct ZEB_Gregorian_Date {
+    int32_t year;
+    int32_t month; /* 1 is January */
+    int32_t day;   /* of the month, from 1 */
+} ZEB_Gregorian_Date;
+
+/* A time of day, or a time since 1970-01-01 00:00, as the operation that uses it says. */
+typedef struct ZEB_Time_Value {
+    uint64_t second;
+    uint64_t nanosecond;
+} ZEB_Time_Value;
+
+/* What every search answers when it finds nothing. */
+#define ZEB_NOT_FOUND UINT32_MAX
+
+/* The answer of a comparison; any other value is an unknown comparison. */
+typedef uint32_t ZEB_Comparison;
+enum {
+    ZEB_COMPARED_EQUAL = 1,
+    ZEB_COMPARED_LESS = 2,   /* the first (the key, the receiver) orders before the second */
+    ZEB_COMPARED_GREATER = 3 /* the first orders after the second */
+};
+
+/* The text encoding of a conversion to or from a platform string. */
+typedef uint32_t ZEB_Encoding_Type;
+enum {
+    ZEB_ENCODING_ASCII = 0,
+    ZEB_ENCODING_ASCII_ALSO = 1,
+    ZEB_ENCODING_UTF8 = 2,
+    ZEB_ENCODING_UTF16 = 3,
+    ZEB_ENCODING_UTF8_PATH = 4
+};
+
+/* What a file-system entry is. */
+typedef uint32_t ZEB_File_Kind;
+enum { ZEB_FILE_KIND_OTHER = 0, ZEB_FILE_KIND_REGULAR = 1, ZEB_FILE_KIND_LINK = 2, ZEB_FILE_KIND_DIRECTORY = 3 };
+
+/* The units of calendar arithmetic; codes 7 to 10 name no unit. */
+typedef int32_t ZEB_Time_Unit;
+enum {
+    ZEB_UNIT_NANOSECOND = 1,
+    ZEB_UNIT_MICROSECOND = 2,
+    ZEB_UNIT_MILLISECOND = 3,
+    ZEB_UNIT_SECOND = 4,
+    ZEB_UNIT_MINUTE = 5,
+    ZEB_UNIT_HOUR = 6,
+    ZEB_UNIT_DAY = 11,
+    ZEB_UNIT_WEEK = 12,
+    ZEB_UNIT_MONTH = 13,
+    ZEB_UNIT_QUARTER = 14,
+    ZEB_UNIT_YEAR = 15
+};
+
+#endif

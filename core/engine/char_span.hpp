@@ -1,0 +1,18 @@
+/// Character spans with static storage: how the engine names fixed texts.
+#pragma once
+
+#include <Korvane_ZEB/ZEB_Types.h>
+
+namespace zeb
+{
+
+using Char_Span = ZEB_Char_Span;
+
+/// The span over a string literal, its terminating null left out.
+template <std::size_t size>
+constexpr Char_Span span_of(const char (&literal)[size]) noexcept
+{
+    return {literal, static_cast<uint32_t>(size - 1)};
+}
+
+} // namespace zeb

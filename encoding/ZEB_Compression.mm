@@ -1,0 +1,80 @@
+#import <Korvane_ZEB/ZEB_Compression.h>
+
+#import "arrays/ZEB_Byte_Storage_Private.h"
+#import "arrays/ZEB_Char_Storage_Private.h"
+
+#include "encoding/engine/zlib_arrays.hpp"
+
+#include <stdio.h>
+
+namespace
+{
+
+template <class Array>
+zeb::Byte_Run bytes_from(Array *source, uint32_t offset)
+{
+    const auto elements = zeb::storage_of_array(source).elements();
+    if (elements.size() <= offset)
+        return {nullptr, 0};
+    return {reinterpret_cast<const char *>(elements.data()) + offset,
+            static_cast<uint32_t>(elements.size() - offset)};
+}
+
+zeb::Fix_Report report_for(ZEB_String *destination) { return {destination, @selector(append_chars:count:)}; }
+
+zeb::Fix_Report report_for(ZEB_Byte_Array *destination)
+{
+    return {destination, @selector(append_bytes:count:)};
+}
+
+template <class From, class Into>
+int32_t compress(From *source, Into *destination)
+{
+    return zeb::run_zlib(bytes_from(source, 0), zeb::storage_of_array(destination), report_for(destination),
+                         zeb::compress);
+}
+
+template <class From, class Into>
+int32_t decompress(From *source, Into *destination, uint32_t offset)
+{
+    return zeb::run_zlib(bytes_from(source, offset), zeb::storage_of_array(destination),
+                         report_for(destination), zeb::decompress);
+}
+
+} // namespace
+
+int32_t ZC_compress_string_to_string(ZEB_String *source, ZEB_String *destination)
+{
+    return compress(source, destination);
+}
+
+int32_t ZC_compress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte_Array *destination)
+{
+    return compress(source, destination);
+}
+
+int32_t ZC_compress_string_to_bytes(ZEB_String *source, ZEB_Byte_Array *destination)
+{
+    return compress(source, destination);
+}
+
+int32_t ZC_decompress_string_to_string(ZEB_String *source, ZEB_String *destination, uint32_t offset)
+{
+    return decompress(source, destination, offset);
+}
+
+int32_t ZC_decompress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte_Array *destination)
+{
+    return decompress(source, destination, 0);
+}
+
+int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *source, ZEB_String *destination, uint32_t offset)
+{
+    return decompress(source, destination, offset);
+}
+
+void print_zlib_error(int32_t status)
+{
+    fputs("zlib error: ", stderr);
+    fputs(zeb::zlib_status_text(status), stderr);
+}

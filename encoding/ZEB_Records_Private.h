@@ -1,0 +1,63 @@
+/*
+ * Which record each kind of array has.
+ */
+#import "arrays/ZEB_Byte_Storage_Private.h"
+#import "arrays/ZEB_Char_Storage_Private.h"
+#import "arrays/ZEB_Wide_Char_Storage_Private.h"
+
+#include "encoding/engine/binary_record.hpp"
+
+#include <stdio.h>
+
+namespace zeb
+{
+
+/// The storage of an object that an array of objects holds.
+struct Storage_Of_Held {
+    auto operator()(ZEB_String *string) const { return storage_of_array(string); }
+    auto operator()(ZEB_Wide_String *string) const { return storage_of_array(string); }
+    auto operator()(ZEB_Byte_Array *bytes) const { return storage_of_array(bytes); }
+};
+
+inline void complain_of_references()
+{
+    fputs("decode binary ontents from string not done for id type.\n", stderr);
+}
+
+template <class Element>
+void encode(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer buffer, Fix_Report report)
+{
+    encode_plain(vector, buffer, report);
+}
+
+template <class Policy>
+void encode(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer, Fix_Report report)
+{
+    encode_held(vector, buffer, Storage_Of_Held(), report);
+}
+
+template <class Policy>
+void encode(Vector_Storage<Counted_References<Policy>> vector, Record_Buffer buffer, Fix_Report report)
+{
+    encode_references(vector, buffer, report);
+}
+
+template <class Element>
+uint32_t decode(Array_Storage<Plain_Elements<Element>> array, Record_Source source, Fix_Report report)
+{
+    return decode_plain(array, source, report);
+}
+
+template <class Policy>
+uint32_t decode(Array_Storage<Held_Objects<Policy>> array, Record_Source source, Fix_Report report)
+{
+    return decode_held(array, source, Storage_Of_Held(), report);
+}
+
+template <class Policy>
+uint32_t decode(Array_Storage<Counted_References<Policy>> array, Record_Source source, Fix_Report report)
+{
+    return decode_references(array, source, report, complain_of_references);
+}
+
+} // namespace zeb

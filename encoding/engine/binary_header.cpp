@@ -1,0 +1,39 @@
+#include "encoding/engine/binary_header.hpp"
+
+#include "encoding/engine/byte_order.hpp"
+
+#include <cstring>
+
+namespace zeb
+{
+namespace
+{
+
+constexpr char header_text[] = "ZEB_EXTERNAL_BINARY_FORMAT_V1000";
+constexpr std::size_t header_text_size = sizeof header_text - 1;
+constexpr std::uint32_t byte_order_marker = 0x50AB40CD;
+
+/// The words from the marker on; only the marker is ever read back.
+constexpr std::uint32_t header_words[] = {byte_order_marker, 0, 2, 4, 2, 1, 1};
+constexpr char header_tail[] = "1111";
+
+static_assert(header_text_size == 32);
+static_assert(header_text_size + sizeof header_words + sizeof header_tail - 1 == binary_header_size);
+
+} // namespace
+
+void write_binary_header(char *buffer) noexcept
+{
+    std::memcpy(buffer, header_text, header_text_size);
+    std::memcpy(buffer + header_text_size, header_words, sizeof header_words);
+    std::memcpy(buffer + header_text_size + sizeof header_words, header_tail, sizeof header_tail - 1);
+}
+
+bool binary_header_needs_swap(const char *buffer, std::uint32_t length) noexcept
+{
+    if (length < binary_header_size || std::memcmp(buffer, header_text, header_text_size) != 0)
+        return false;
+    return read_count(buffer + header_text_size, true) == byte_order_marker;
+}
+
+} // namespace zeb

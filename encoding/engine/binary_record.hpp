@@ -1,0 +1,191 @@
+/// Records of the external binary format: a count, then the elements, without padding.
+#pragma once
+
+#include "arrays/engine/editing.hpp"
+#include "encoding/engine/byte_order.hpp"
+#include "encoding/engine/encoding_notes.hpp"
+
+namespace zeb
+{
+
+/// The 8-bit string that records are appended to.
+using Record_Buffer = Array_Storage<Plain_Elements<char>>;
+
+/// The bytes that a record is read from.
+struct Record_Source {
+    const char *bytes;
+    std::uint32_t length;
+    bool needs_swap;
+};
+
+inline constexpr std::uint32_t record_count_size = sizeof(std::uint32_t);
+
+/// Appends a count and then `size` bytes of elements; false, after a report, where the buffer is a link
+/// or cannot grow.
+template <class Report>
+bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elements, std::uint64_t size,
+                   Report report) noexcept
+{
+    if (buffer.is_link()) {
+        report(notes::room_through_link);
+        return false;
+    }
+    const std::uint64_t length = std::uint64_t{buffer.count} + record_count_size + size;
+    // A string may be its own buffer; growth then moves what is to be appended.
+    const Source_Position source(buffer, Elements_Of<Plain_Elements<char>>{
+                                             static_cast<const char *>(elements), static_cast<uint32_t>(size)});
+    if (!grow(buffer, length, report))
+        return false;
+    std::memcpy(buffer.data + buffer.count, &count, record_count_size);
+    source.assign_to_gap(buffer, buffer.count + record_count_size);
+    buffer.count = static_cast<std::uint32_t>(length);
+    return true;
+}
+
+/// Appends the record of plain elements, in this machine's byte order.
+template <class Element, class Report>
+void encode_plain(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer buffer, Report report) noexcept
+{
+    append_record(buffer, vector.count, vector.data, std::uint64_t{vector.count} * sizeof(Element), report);
+}
+
+/// Appends the count of an array of objects and then each object's own record. `storage_of` gives the
+/// storage of one.
+template <class Policy, class Storage_Of, class Report>
+void encode_held(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer, Storage_Of storage_of,
+                 Report report) noexcept
+{
+    if (!append_record(buffer, vector.count, nullptr, 0, report))
+        return;
+    for (const typename Policy::Element object : vector.elements())
+        encode_plain(Vector_Storage(storage_of(object)), buffer, report);
+}
+
+/// References cannot be encoded: no record is written for them, and an empty record for none.
+template <class Policy, class Report>
+void encode_references(Vector_Storage<Counted_References<Policy>> vector, Record_Buffer buffer,
+                       Report report) noexcept
+{
+    if (vector.count == 0)
+        append_record(buffer, 0, nullptr, 0, report);
+}
+
+/// How many bytes the record of plain elements at the source takes; 0 where the source ends before it.
+inline std::uint32_t record_size(Record_Source source, std::size_t element_size) noexcept
+{
+    if (source.length < record_count_size)
+        return 0;
+    const std::uint64_t count = read_count(source.bytes, source.needs_swap);
+    const std::uint64_t size = record_count_size + count * element_size;
+    return size <= source.length ? static_cast<std::uint32_t>(size) : 0;
+}
+
+inline Record_Source behind(Record_Source source, std::uint32_t size) noexcept
+{
+    return {source.bytes + size, source.length - size, source.needs_swap};
+}
+
+/// The same for the record of an array of objects whose elements have `element_size` bytes.
+inline std::uint32_t nested_record_size(Record_Source source, std::size_t element_size) noexcept
+{
+    if (source.length < record_count_size)
+        return 0;
+    std::uint32_t size = record_count_size;
+    for (std::uint32_t left = read_count(source.bytes, source.needs_swap); left != 0; --left) {
+        const std::uint32_t nested = record_size(behind(source, size), element_size);
+        if (nested == 0)
+            return 0;
+        size += nested;
+    }
+    return size;
+}
+
+/// Copies the elements of a record, which need no alignment, in this machine's byte order.
+template <class Element>
+void copy_elements(Element *elements, const char *bytes, std::uint32_t count, bool needs_swap) noexcept
+{
+    if constexpr (sizeof(Element) > 1) {
+        if (needs_swap)
+            return copy_swapped(elements, bytes, count);
+    }
+    if (count != 0)
+        std::memmove(elements, bytes, count * sizeof(Element));
+}
+
+/// Whether a record of `size` bytes (0 when it is not all there) may be decoded into the array.
+template <class Kind, class Report>
+bool may_decode(Array_Storage<Kind> array, std::uint32_t size, Report report) noexcept
+{
+    if (array.is_link())
+        report(notes::decode_through_link);
+    else if (size == 0)
+        report(notes::contents_truncated);
+    return !array.is_link() && size != 0;
+}
+
+/// Gives a growable array the room and the count of a record; false, after a report, where it cannot be.
+template <class Kind, class Report>
+bool take_record_count(Array_Storage<Kind> array, std::uint32_t count, Report report) noexcept
+{
+    const Char_Span failure = array.data == nullptr ? notes::allocate_failed : notes::reallocate_failed;
+    if (count != 0 && !grow(array, count, report, failure))
+        return false;
+    if (count < array.count)
+        array.kind.close(array.data, count, array.count);
+    else if (!open_up_to(array, count, report, failure))
+        return false;
+    array.count = count;
+    return true;
+}
+
+/// Replaces an array's elements by those of the record at the source. Answers how many bytes the record
+/// takes; 0, after a report and with the array as it was, for a link, for a source that ends before the
+/// record does, and where memory is short.
+template <class Element, class Report>
+std::uint32_t decode_plain(Array_Storage<Plain_Elements<Element>> array, Record_Source source,
+                           Report report) noexcept
+{
+    const std::uint32_t size = record_size(source, sizeof(Element));
+    if (!may_decode(array, size, report) ||
+        !take_record_count(array, read_count(source.bytes, source.needs_swap), report))
+        return 0;
+    copy_elements(array.data, source.bytes + record_count_size, array.count, source.needs_swap);
+    return size;
+}
+
+/// The same for an array of objects, each of which takes its own record.
+template <class Policy, class Storage_Of, class Report>
+std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Source source,
+                          Storage_Of storage_of, Report report) noexcept
+{
+    using Nested = typename decltype(storage_of(typename Policy::Element()))::Element;
+    const std::uint32_t size = nested_record_size(source, sizeof(Nested));
+    if (!may_decode(array, size, report) ||
+        !take_record_count(array, read_count(source.bytes, source.needs_swap), report))
+        return 0;
+    std::uint32_t consumed = record_count_size;
+    for (const typename Policy::Element object : array.elements()) {
+        const std::uint32_t nested = decode_plain(storage_of(object), behind(source, consumed), report);
+        if (nested == 0)
+            return 0;
+        consumed += nested;
+    }
+    return consumed;
+}
+
+/// An array of references can only be emptied by a record; for any other, `complain` is called and the
+/// array stays. Answers the size of the count.
+template <class Policy, class Report, class Complain>
+std::uint32_t decode_references(Array_Storage<Counted_References<Policy>> array, Record_Source source,
+                                Report report, Complain complain) noexcept
+{
+    if (!may_decode(array, record_size(source, 0), report))
+        return 0;
+    if (read_count(source.bytes, source.needs_swap) == 0)
+        take_record_count(array, 0, report);
+    else
+        complain();
+    return record_count_size;
+}
+
+} // namespace zeb

@@ -1,0 +1,64 @@
+/// Values in the byte order of another machine.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace zeb
+{
+
+constexpr std::uint16_t swap_bytes(std::uint16_t value) noexcept
+{
+    return static_cast<std::uint16_t>((value << 8) | (value >> 8));
+}
+
+constexpr std::uint32_t swap_bytes(std::uint32_t value) noexcept { return __builtin_bswap32(value); }
+
+constexpr std::uint64_t swap_bytes(std::uint64_t value) noexcept { return __builtin_bswap64(value); }
+
+/// The unsigned integer whose bytes are a value of `size` bytes.
+template <std::size_t size>
+struct Word_Of_Size;
+template <>
+struct Word_Of_Size<4> {
+    using Type = std::uint32_t;
+};
+template <>
+struct Word_Of_Size<8> {
+    using Type = std::uint64_t;
+};
+
+/// Any 4- or 8-byte value with its bytes reversed.
+template <class Value>
+Value swap_value(Value value) noexcept
+{
+    typename Word_Of_Size<sizeof(Value)>::Type word;
+    std::memcpy(&word, &value, sizeof word);
+    word = swap_bytes(word);
+    std::memcpy(&value, &word, sizeof word);
+    return value;
+}
+
+/// Copies `n` values from `bytes`, which need no alignment, each with its bytes reversed.
+template <class Value>
+void copy_swapped(Value *values, const char *bytes, std::size_t n) noexcept
+{
+    using Word = typename Word_Of_Size<sizeof(Value)>::Type;
+    for (std::size_t i = 0; i < n; ++i) {
+        Word word;
+        std::memcpy(&word, bytes + i * sizeof word, sizeof word);
+        word = swap_bytes(word);
+        std::memcpy(values + i, &word, sizeof word);
+    }
+}
+
+/// The unsigned 32-bit value at `bytes`, its bytes reversed when `needs_swap` says so.
+inline std::uint32_t read_count(const char *bytes, bool needs_swap) noexcept
+{
+    std::uint32_t count;
+    std::memcpy(&count, bytes, sizeof count);
+    return needs_swap ? swap_bytes(count) : count;
+}
+
+} // namespace zeb

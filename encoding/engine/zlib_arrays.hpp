@@ -1,0 +1,77 @@
+/// Compressing and decompressing into a growable byte container.
+#pragma once
+
+#include "arrays/engine/editing.hpp"
+#include "encoding/engine/zlib_loops.hpp"
+
+#include <cstring>
+
+namespace zeb
+{
+
+/// The bytes of a container of 8-bit elements.
+struct Byte_Run {
+    const char *bytes;
+    std::uint32_t length;
+};
+
+/// Appends zlib's pieces to an array, and remembers what to report.
+template <class Element, class Report>
+struct Array_Sink {
+    using Kind = Plain_Elements<Element>;
+
+    Array_Storage<Kind> array;
+    Report report;
+
+    Zlib_Output output() noexcept { return {this, append}; }
+
+    static bool append(void *destination, const char *bytes, std::uint32_t length) noexcept
+    {
+        const Array_Sink &sink = *static_cast<Array_Sink *>(destination);
+        const std::uint32_t count = sink.array.count;
+        append_elements(sink.array, Elements_Of<Kind>{reinterpret_cast<const Element *>(bytes), length},
+                        sink.report);
+        return sink.array.count != count;
+    }
+};
+
+/// Whether the source lies in the array's own block, which growth would move under it.
+template <class Element>
+bool overlaps(Array_Storage<Plain_Elements<Element>> array, Byte_Run source) noexcept
+{
+    const std::less<> before;
+    const char *const first = reinterpret_cast<const char *>(array.data);
+    return array.data != nullptr && !before(source.bytes, first) &&
+           before(source.bytes, first + array.capacity);
+}
+
+/// Runs `work` (compress or decompress) from `source` into the end of `array`. A link refuses as an append
+/// does, before anything is done, and -1 is answered. A source within the array's own block is copied
+/// first.
+template <class Element, class Report, class Work>
+std::int32_t run_zlib(Byte_Run source, Array_Storage<Plain_Elements<Element>> array, Report report,
+                      Work work) noexcept
+{
+    if (source.length == 0)
+        return 0;
+    if (array.is_link()) {
+        report(notes::append_array_through_link);
+        return -1;
+    }
+    void *copy = nullptr;
+    if (overlaps(array, source)) {
+        copy = reallocate(nullptr, source.length);
+        if (copy == nullptr) {
+            report(notes::reallocate_failed);
+            return zlib_out_of_memory;
+        }
+        std::memcpy(copy, source.bytes, source.length);
+        source.bytes = static_cast<const char *>(copy);
+    }
+    Array_Sink<Element, Report> sink{array, report};
+    const std::int32_t status = work(source.bytes, source.length, sink.output());
+    release(copy);
+    return status;
+}
+
+} // namespace zeb

@@ -1,0 +1,141 @@
+#import <Korvane_ZEB/ZEB_File.h>
+
+#import <Korvane_ZEB/ZEB_String.h>
+#import <Korvane_ZEB/ZEB_String_Text.h>
+
+#import "filesystem/ZEB_File_Private.h"
+#import "filesystem/ZEB_File_Start_Up_Private.h"
+
+#include "core/engine/notice.hpp"
+#include "filesystem/engine/file_status.hpp"
+
+namespace
+{
+
+constexpr uint32_t first_path_capacity = 1024;
+
+void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_t &execute)
+{
+    read = rights.read;
+    write = rights.write;
+    execute = rights.execute;
+}
+
+} // namespace
+
+@implementation ZEB_File
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return zeb::proprietary_software_notice;
+}
+
+- (id)init
+{
+    self = [super init];
+    if (self == nil)
+        return nil;
+    zeb::start_up_filesystem();
+    path = [[ZEB_String alloc] init_with_capacity:first_path_capacity];
+    owner_read = owner_write = 1;
+    uid = zeb::process_user();
+    gid = zeb::process_group();
+    first_general_setting = second_general_setting = third_general_setting = 1;
+    load_details = report_errors = 1;
+    return self;
+}
+
+- (void)dealloc
+{
+    [path release];
+    [super dealloc];
+}
+
+- (id)copyWithZone:(NSZone *)zone
+{
+    ZEB_File *const made = [[[self class] allocWithZone:zone] init];
+    [made set_path:path];
+    made->exists = exists;
+    made->kind = kind;
+    made->owner_read = owner_read;
+    made->owner_write = owner_write;
+    made->owner_execute = owner_execute;
+    made->group_read = group_read;
+    made->group_write = group_write;
+    made->group_execute = group_execute;
+    made->other_read = other_read;
+    made->other_write = other_write;
+    made->other_execute = other_execute;
+    made->size = size;
+    made->access_time = access_time;
+    made->modification_time = modification_time;
+    made->status_change_time = status_change_time;
+    made->uid = uid;
+    made->gid = gid;
+    made->can_read = can_read;
+    made->can_write = can_write;
+    made->can_execute = can_execute;
+    made->first_general_setting = first_general_setting;
+    made->second_general_setting = second_general_setting;
+    made->third_general_setting = third_general_setting;
+    made->load_details = load_details;
+    made->contents_compressed = contents_compressed;
+    made->log_actions = log_actions;
+    made->report_errors = report_errors;
+    made->interceptor = interceptor;
+    return made;
+}
+
+- (ZEB_String *)path
+{
+    return path;
+}
+
+- (void)set_path:(ZEB_String *)string
+{
+    [path set_contents_of_array:string];
+    [path append_null_terminator];
+}
+
+- (void)take_details:(const zeb::File_Status &)status
+{
+    set_rights(status.owner, owner_read, owner_write, owner_execute);
+    set_rights(status.group, group_read, group_write, group_execute);
+    set_rights(status.other, other_read, other_write, other_execute);
+    access_time = status.access_time;
+    modification_time = status.modification_time;
+    status_change_time = status.status_change_time;
+    uid = status.uid;
+    gid = status.gid;
+    const zeb::Access_Rights before{can_read != 0, can_write != 0, can_execute != 0};
+    const zeb::Access_Rights rights = zeb::effective_rights(status, uid == zeb::process_user(),
+                                                            gid == zeb::process_group(), before);
+    set_rights(rights, can_read, can_write, can_execute);
+}
+
+- (uint32_t)take_status
+{
+    zeb::File_Status status;
+    if (!zeb::read_status(zeb::Platform_Path(path).c_string(), status)) {
+        exists = 0;
+        size = 0;
+        return 1;
+    }
+    exists = 1;
+    kind = status.kind;
+    size = status.size;
+    if (load_details)
+        [self take_details:status];
+    return 1;
+}
+
+- (uint32_t)refresh_status
+{
+    ZEB_File *const file = self;
+    return zeb::intercepted(
+        file, ZEB_FILE_REFRESH_STATUS,
+        [=](id<ZEB_File_Interceptor> other) { return [other intercept_refresh_status:file]; },
+        [=] { return [file take_status]; }, zeb::After_Acting::stops);
+}
+
+@end

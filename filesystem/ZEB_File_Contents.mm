@@ -1,0 +1,196 @@
+#import <Korvane_ZEB/ZEB_File_Contents.h>
+
+#import <Korvane_ZEB/ZEB_Byte_Array.h>
+#import <Korvane_ZEB/ZEB_Compression.h>
+
+#import "filesystem/ZEB_File_Private.h"
+
+#include "filesystem/engine/file_contents.hpp"
+#include "filesystem/engine/file_messages.hpp"
+
+#include <stdio.h>
+#include <string.h>
+
+namespace messages = zeb::messages;
+
+namespace
+{
+
+/// Reads the file into `target`, whose length becomes `size`; what did not come reads as zero. False, after
+/// the failure was told, where nothing can be read.
+bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
+{
+    zeb::Open_File input = zeb::Open_File::for_reading(zeb::Platform_Path([file path]).c_string());
+    if (!input.is_open()) {
+        zeb::tell_failure(file, messages::error_opening);
+        return false;
+    }
+    if (size == 0) {
+        zeb::tell_failure(file, messages::error_no_size);
+        return false;
+    }
+    const uint32_t length = size < UINT32_MAX ? static_cast<uint32_t>(size) : UINT32_MAX;
+    [target set_length:length];
+    // An array that could not take the length has said so.
+    if ([target count] != length)
+        return false;
+    size_t count = 0;
+    if (!input.read([target byte_data], length, count)) {
+        zeb::tell_failure(file, messages::error_reading);
+        return false;
+    }
+    memset([target byte_data] + count, 0, length - count);
+    if (count != size)
+        zeb::tell_discrepancy(file, messages::warning_length_read, count, messages::against_content_size, size,
+                              messages::while_reading);
+    return true;
+}
+
+/// Reads the compressed file and leaves what it holds in `destination`; false after a failure was told.
+bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
+{
+    ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
+    const bool was_read = read_into(file, stored, size);
+    int32_t status = 0;
+    if (was_read) {
+        [destination clear];
+        status = ZC_decompress_bytes_to_bytes(stored, destination);
+        if (status != 0)
+            zeb::tell_failure(file, messages::error_decompressing);
+    }
+    [stored release];
+    return was_read && status == 0;
+}
+
+/// Writes the bytes into the open file; false after the failure was told.
+bool write_out(ZEB_File *file, zeb::Open_File &output, const void *bytes, uint32_t length)
+{
+    size_t count = 0;
+    const bool went = output.write(bytes, length, count);
+    if (!output.close() || !went) {
+        zeb::tell_failure(file, messages::error_writing);
+        return false;
+    }
+    if (count != length)
+        zeb::tell_discrepancy(file, messages::warning_length_written, count, messages::against_specified_length,
+                              length, messages::while_writing);
+    return true;
+}
+
+bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes, uint32_t length)
+{
+    // The link only reads; its maker takes what could also be written.
+    ZEB_Byte_Array *const source = [[ZEB_Byte_Array alloc]
+        init_as_link_to_bytes:static_cast<uint8_t *>(const_cast<void *>(bytes))
+                        count:length];
+    ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
+    const int32_t status = ZC_compress_bytes_to_bytes(source, stored);
+    bool is_written = false;
+    // An entry that reports no errors does not look at this one: it stores what there is.
+    if (status != 0 && [file report_errors])
+        zeb::tell_failure(file, messages::error_compressing);
+    else
+        is_written = write_out(file, output, [stored byte_data], [stored count]);
+    [source release];
+    [stored release];
+    return is_written;
+}
+
+} // namespace
+
+@implementation ZEB_File (Contents)
+
+- (uint32_t)take_contents_into:(ZEB_Byte_Array *)destination
+{
+    const bool is_read = contents_compressed ? read_compressed(self, destination, size)
+                                             : read_into(self, destination, size);
+    if (!is_read)
+        [destination clear];
+    return is_read ? 1 : 0;
+}
+
+- (void)read_contents:(ZEB_Byte_Array *)destination
+{
+    ZEB_File *const file = self;
+    zeb::intercepted(
+        file, ZEB_FILE_READ_CONTENTS,
+        [=](id<ZEB_File_Interceptor> other) {
+            return [other intercept_read_contents:file destination:destination];
+        },
+        [=] { return [file take_contents_into:destination]; }, zeb::After_Acting::stops);
+}
+
+- (void)load_contents:(ZEB_Byte_Array *)destination
+{
+    [self read_contents:destination];
+}
+
+- (uint32_t)put_contents:(const void *)bytes length:(uint32_t)length
+{
+    zeb::Open_File output = zeb::Open_File::for_writing(zeb::Platform_Path(path).c_string());
+    if (!output.is_open()) {
+        zeb::tell_failure(self, messages::error_opening);
+        return 0;
+    }
+    const bool is_written = contents_compressed ? write_compressed(self, output, bytes, length)
+                                                : write_out(self, output, bytes, length);
+    return is_written ? 1 : 0;
+}
+
+- (uint32_t)write_contents:(const void *)bytes length:(uint32_t)length
+{
+    ZEB_File *const file = self;
+    return zeb::intercepted(
+        file, ZEB_FILE_WRITE_CONTENTS,
+        [=](id<ZEB_File_Interceptor> other) {
+            return [other intercept_write_contents:file bytes:bytes length:length];
+        },
+        [=] { return [file put_contents:bytes length:length]; });
+}
+
+/// The visible path gains "~", and a null behind it is counted from now on.
+- (void)extend_path_by_suffix
+{
+    [path set_count:zeb::visible_path(path).length];
+    [path append_chars:"~" count:2];
+}
+
+- (uint32_t)set_aside
+{
+    const zeb::Platform_Path from(path);
+    const zeb::Platform_Path to(path, "~");
+    if (rename(from.c_string(), to.c_string()) != 0) {
+        zeb::tell_failure(self, messages::error_backstoring);
+        return 0;
+    }
+    zeb::tell_success(self, messages::backstored);
+    [self extend_path_by_suffix];
+    return 1;
+}
+
+- (uint32_t)backstore
+{
+    ZEB_File *const file = self;
+    return zeb::intercepted(
+        file, ZEB_FILE_BACKSTORE,
+        [=](id<ZEB_File_Interceptor> other) { return [other intercept_backstore:file]; },
+        [=] { return [file set_aside]; }, zeb::After_Acting::runs,
+        [=](uint32_t answer) {
+            if (answer == 1)
+                [file extend_path_by_suffix];
+        });
+}
+
+- (uint32_t)restore
+{
+    const zeb::Platform_Path from(path, "~");
+    const zeb::Platform_Path to(path);
+    if (rename(from.c_string(), to.c_string()) != 0) {
+        zeb::tell_failure(self, messages::error_restoring);
+        return 0;
+    }
+    zeb::tell_success(self, messages::restored);
+    return 1;
+}
+
+@end

@@ -1,0 +1,50 @@
+/*
+ * Who may act in the place of a file entry.
+ */
+#import <Korvane_ZEB/ZEB_Object.h>
+
+@class ZEB_Byte_Array, ZEB_File, ZEB_String;
+
+/** The actions of a file entry that an interceptor is asked about. */
+typedef uint32_t ZEB_File_Action;
+enum {
+    ZEB_FILE_REFRESH_STATUS = 0,
+    ZEB_FILE_CREATE_FILE,
+    ZEB_FILE_CREATE_DIRECTORY,
+    ZEB_FILE_CREATE_PARENT_DIRECTORIES,
+    ZEB_FILE_REMOVE,
+    ZEB_FILE_READ_CONTENTS,
+    ZEB_FILE_WRITE_CONTENTS,
+    ZEB_FILE_COPY,
+    ZEB_FILE_MOVE,
+    ZEB_FILE_BACKSTORE
+};
+
+/** What an interceptor decides; any other value lets the entry act. */
+enum {
+    ZEB_INTERCEPT_REFUSE = 0,      /* the action does nothing and answers 0 */
+    ZEB_INTERCEPT_ACT = 2,         /* the interceptor acts, and its answer is the action's */
+    ZEB_INTERCEPT_ACT_AND_RUN = 3  /* the interceptor acts, then the entry (not on refresh and read) */
+};
+
+/**
+ * Asked before each action of an entry that has it as its interceptor. It has one operation for each
+ * action, which gets the entry and the action's arguments, and answers what the action would.
+ */
+@protocol ZEB_File_Interceptor
+
+/** The decision on an action. */
+- (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file;
+
+- (uint32_t)intercept_refresh_status:(ZEB_File *)file;
+- (uint32_t)intercept_create_file:(ZEB_File *)file;
+- (uint32_t)intercept_create_directory:(ZEB_File *)file;
+- (uint32_t)intercept_create_parent_directories:(ZEB_File *)file;
+- (uint32_t)intercept_remove:(ZEB_File *)file;
+- (uint32_t)intercept_read_contents:(ZEB_File *)file destination:(ZEB_Byte_Array *)destination;
+- (uint32_t)intercept_write_contents:(ZEB_File *)file bytes:(const void *)bytes length:(uint32_t)length;
+- (uint32_t)intercept_copy_to:(ZEB_File *)file destination:(ZEB_String *)destination;
+- (uint32_t)intercept_move_to:(ZEB_File *)file destination:(ZEB_String *)destination;
+- (uint32_t)intercept_backstore:(ZEB_File *)file;
+
+@end

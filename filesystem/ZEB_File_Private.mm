@@ -1,0 +1,71 @@
+#import "filesystem/ZEB_File_Private.h"
+
+#import <Korvane_ZEB/ZEB_Error_Stream.h>
+#import <Korvane_ZEB/ZEB_String.h>
+
+#include "core/engine/char_span.hpp"
+
+namespace zeb
+{
+namespace
+{
+
+constexpr Char_Span line_break = span_of("\n");
+
+void write(ZEB_Stream *stream, ZEB_Char_Span text)
+{
+    [stream write_bytes:text.char_c_array length:text.length];
+}
+
+void write_line(ZEB_Stream *stream, ZEB_Char_Span message, ZEB_File *file)
+{
+    write(stream, message);
+    write(stream, visible_path([file path]));
+    write(stream, line_break);
+}
+
+} // namespace
+
+ZEB_Char_Span visible_path(ZEB_String *path)
+{
+    const char *const text = [path char_data];
+    return {text, visible_path_length(text, [path count])};
+}
+
+Platform_Path::Platform_Path(ZEB_String *path, const char *suffix)
+    : text([path char_data],
+           is_whole_path([path char_data], [path count]) ? visible_path(path).length : 0,
+           is_whole_path([path char_data], [path count]) ? suffix : "")
+{
+}
+
+void tell_success(ZEB_File *file, ZEB_Char_Span message)
+{
+    if ([file log_actions])
+        write_line([ZEB_Stream shared_stream], message, file);
+}
+
+void tell_failure(ZEB_File *file, ZEB_Char_Span message)
+{
+    if ([file report_errors])
+        write_line([ZEB_Error_Stream shared_error_stream], message, file);
+}
+
+void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
+                      uint64_t expected, ZEB_Char_Span occasion)
+{
+    if (![file report_errors])
+        return;
+    // The error stream leaves its unsigned-long writer to standard output: numbers go as text.
+    char numbers[2][24];
+    ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
+    const int actual_length = snprintf(numbers[0], sizeof numbers[0], "%llu", (unsigned long long)actual);
+    const int expected_length = snprintf(numbers[1], sizeof numbers[1], "%llu", (unsigned long long)expected);
+    write(stream, lead);
+    [stream write_bytes:numbers[0] length:(uint32_t)actual_length];
+    write(stream, against);
+    [stream write_bytes:numbers[1] length:(uint32_t)expected_length];
+    write_line(stream, occasion, file);
+}
+
+} // namespace zeb

@@ -1,0 +1,79 @@
+#include "filesystem/engine/file_status.hpp"
+
+#include <sys/stat.h>
+
+namespace zeb
+{
+namespace
+{
+
+ZEB_File_Kind kind_of(mode_t mode) noexcept
+{
+    switch (mode & S_IFMT) {
+    case S_IFDIR:
+        return ZEB_FILE_KIND_DIRECTORY;
+    case S_IFREG:
+        return ZEB_FILE_KIND_REGULAR;
+    case S_IFLNK:
+        return ZEB_FILE_KIND_LINK;
+    default:
+        return ZEB_FILE_KIND_OTHER;
+    }
+}
+
+/// The rights in the three bits of a mode from `shift` on.
+Access_Rights rights_of(mode_t mode, int shift) noexcept
+{
+    const unsigned bits = static_cast<unsigned>(mode) >> shift;
+    return {(bits & 4) != 0, (bits & 2) != 0, (bits & 1) != 0};
+}
+
+ZEB_Time_Value time_of(const struct timespec &time) noexcept
+{
+    return {static_cast<std::uint64_t>(time.tv_sec), static_cast<std::uint64_t>(time.tv_nsec)};
+}
+
+void add(Access_Rights &rights, Access_Rights further) noexcept
+{
+    rights.read = rights.read || further.read;
+    rights.write = rights.write || further.write;
+    rights.execute = rights.execute || further.execute;
+}
+
+} // namespace
+
+bool read_status(const char *path, File_Status &status) noexcept
+{
+    struct stat found;
+    if (stat(path, &found) != 0)
+        return false;
+    status.kind = kind_of(found.st_mode);
+    status.size = static_cast<std::uint64_t>(found.st_size);
+    status.owner = rights_of(found.st_mode, 6);
+    status.group = rights_of(found.st_mode, 3);
+    status.other = rights_of(found.st_mode, 0);
+#if defined(__APPLE__)
+    status.access_time = time_of(found.st_atimespec);
+    status.modification_time = time_of(found.st_mtimespec);
+    status.status_change_time = time_of(found.st_ctimespec);
+#else
+    status.access_time = time_of(found.st_atim);
+    status.modification_time = time_of(found.st_mtim);
+    status.status_change_time = time_of(found.st_ctim);
+#endif
+    status.uid = found.st_uid;
+    status.gid = found.st_gid;
+    return true;
+}
+
+Access_Rights effective_rights(const File_Status &status, bool is_owner, bool is_in_group,
+                               Access_Rights before) noexcept
+{
+    Access_Rights rights = is_owner ? status.owner : before;
+    if (is_in_group)
+        add(rights, status.group);
+    add(rights, status.other);
+    return rights;
+}
+
+} // namespace zeb

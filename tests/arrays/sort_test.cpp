@@ -1,0 +1,147 @@
+#include "arrays/engine/sort.hpp"
+
+#include "tests/arrays/random_elements.hpp"
+#include "tests/reference/vector_algorithms.hpp"
+
+#include <algorithm>
+#include <numeric>
+
+using namespace zeb_test;
+
+template <class Element>
+class Sorting : public testing::Test
+{
+};
+TYPED_TEST_SUITE(Sorting, Element_Types);
+
+namespace
+{
+
+const auto less_at = [](const auto *later, const auto *earlier) { return *later < *earlier; };
+
+template <class Element>
+std::vector<Element> shaped(std::vector<Element> elements, unsigned shape)
+{
+    if (shape == 1 || shape == 2)
+        std::sort(elements.begin(), elements.end());
+    if (shape == 2)
+        std::reverse(elements.begin(), elements.end());
+    if (shape == 3 && !elements.empty())
+        std::fill(elements.begin(), elements.end(), elements[0]);
+    return elements;
+}
+
+/// The inputs of one length: few and many values, with and without odd ones, random, sorted, reversed, one.
+template <class E, class Check>
+void for_each_input(std::mt19937 &random, size_t length, Check check)
+{
+    for (unsigned kind = 0; kind < 4; ++kind) {
+        const bool odd = kind >= 2;
+        const Draw draw = kind % 2 == 0 ? Draw::Any_Bits : Draw::Few_Values;
+        for (unsigned shape = 0; shape < (odd ? 1u : 4u); ++shape)
+            check(shaped(draw_elements<E>(random, length, draw, odd), shape));
+    }
+}
+
+std::vector<uint32_t> marks(size_t count, uint32_t step)
+{
+    std::vector<uint32_t> all(count);
+    for (uint32_t i = 0; i < count; ++i)
+        all[i] = i * step;
+    return all;
+}
+
+} // namespace
+
+TYPED_TEST(Sorting, by_own_order_ends_as_the_plain_sort_does)
+{
+    using E = TypeParam;
+    on_each_target([] {
+        std::mt19937 random(15);
+        for (size_t length : lengths()) {
+            for_each_input<E>(random, length, [&](const std::vector<E> &elements) {
+                std::vector<E> expected = elements;
+                reference::sort(expected, nullptr, less_at);
+                Walled<E> walled(elements, length % 21);
+                zeb::sort(walled.span());
+                ASSERT_TRUE(same_bits(walled.elements(), expected)) << length;
+                ASSERT_TRUE(walled.wall_stands());
+            });
+        }
+    });
+}
+
+TYPED_TEST(Sorting, with_a_permutation_moves_the_indexes_as_the_plain_sort_does)
+{
+    using E = TypeParam;
+    on_each_target([] {
+        std::mt19937 random(16);
+        for (size_t length : lengths()) {
+            for_each_input<E>(random, length, [&](const std::vector<E> &elements) {
+                const std::vector<uint32_t> indexes = marks(length, length % 2 == 0 ? 1 : 7);
+                std::vector<E> expected = elements, ours = elements;
+                std::vector<uint32_t> expected_indexes = indexes, our_indexes = indexes;
+                reference::sort(expected, &expected_indexes, less_at);
+                Walled<E> walled(elements, length % 21);
+                Walled<uint32_t> walled_indexes(indexes, length % 19);
+                ASSERT_TRUE(zeb::sort_with_permutation(walled.span(), walled_indexes.span()));
+                ASSERT_TRUE(same_bits(walled.elements(), expected)) << length;
+                ASSERT_EQ(walled_indexes.elements(), expected_indexes) << length;
+                ASSERT_TRUE(walled.wall_stands() && walled_indexes.wall_stands());
+                ASSERT_TRUE(zeb::sort_with_permutation<E>(ours, our_indexes, Asked_Less()));
+                ASSERT_TRUE(same_bits(ours, expected) && our_indexes == expected_indexes);
+                if (length > 0) {
+                    our_indexes.pop_back();
+                    ASSERT_FALSE(zeb::sort_with_permutation<E>(ours, our_indexes));
+                }
+            });
+        }
+    });
+}
+
+/// An answer of 2 exchanges, whatever sense it makes; every other answer leaves the pair.
+TYPED_TEST(Sorting, by_a_function_asks_the_same_questions)
+{
+    using E = TypeParam;
+    std::mt19937 random(17);
+    for (size_t length : {0, 1, 2, 3, 4, 5, 13, 14, 40, 41, 200, 1000}) {
+        for (unsigned manner = 0; manner < 3; ++manner) {
+            const std::vector<E> elements = draw_elements<E>(random, length, Draw::Few_Values);
+            using Questions = std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>>;
+            const auto answer = [manner](Questions &asked, const E *base, const E *later, const E *earlier) {
+                asked.emplace_back(later - base, earlier - base);
+                const uint32_t noise = static_cast<uint32_t>(asked.size()) * 2654435761u >> 11;
+                if (manner == 1)
+                    return ZEB_Comparison{noise % 5};
+                if (manner == 2 && noise % 7 == 0)
+                    return ZEB_Comparison{9};
+                return reference::own_comparison(later, earlier);
+            };
+            std::vector<E> expected = elements, ours = elements;
+            std::vector<uint32_t> expected_indexes = marks(length, 1), our_indexes = marks(length, 1);
+            Questions expected_questions, our_questions;
+            reference::sort(expected, &expected_indexes, [&](const E *later, const E *earlier) {
+                return answer(expected_questions, expected.data(), later, earlier) == ZEB_COMPARED_LESS;
+            });
+            const auto asked = [&](const E *later, const E *earlier) {
+                return answer(our_questions, ours.data(), later, earlier);
+            };
+            ASSERT_TRUE(zeb::sort_with_permutation_by<E>(ours, our_indexes, asked));
+            ASSERT_EQ(our_questions, expected_questions);
+            ASSERT_TRUE(same_bits(ours, expected) && our_indexes == expected_indexes);
+            ours = elements;
+            our_questions.clear();
+            zeb::sort_by<E>(ours, asked);
+            ASSERT_EQ(our_questions, expected_questions);
+            ASSERT_TRUE(same_bits(ours, expected));
+        }
+    }
+}
+
+/// Counts that do not fit in a signed 32-bit number are left alone; the block is never looked at.
+TEST(Sorting_Too_Many, changes_nothing)
+{
+    EXPECT_FALSE(zeb::sort_detail::sorts(size_t{1} << 31));
+    EXPECT_TRUE(zeb::sort_detail::sorts((size_t{1} << 31) - 1));
+    EXPECT_FALSE(zeb::sort_detail::sorts(1));
+}

@@ -1,0 +1,139 @@
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#include "tests/support/captured.hpp"
+
+#include <gtest/gtest.h>
+
+using support::standard_error_of;
+using support::standard_output_of;
+
+namespace
+{
+
+ZEB_String *text(const char *characters)
+{
+    return [[[ZEB_String alloc] init_as_copy_of_chars:characters
+                                                count:static_cast<uint32_t>(strlen(characters))] autorelease];
+}
+
+ZEB_Int_Array *ints(uint32_t count)
+{
+    ZEB_Int_Array *const made = [ZEB_Int_Array array_with_capacity:count];
+    for (uint32_t i = 1; i <= count; ++i)
+        [made append_int:static_cast<int32_t>(i)];
+    return made;
+}
+
+} // namespace
+
+TEST(Stream, every_value_goes_through_its_format)
+{
+    ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
+    const auto written = standard_output_of([&] {
+        [stream write_double:0.1];
+        [stream write_bytes:"|x" length:1];
+        [stream write_int:-7];
+        [stream write_unsigned:4294967295u];
+        [stream write_bytes:"|" length:1];
+        [stream write_float:0.1f];
+        [stream write_char:'c'];
+        [stream write_character_code:65];
+        [stream write_hex:0xabcd];
+        [stream write_unsigned_long:UINT64_MAX];
+        [stream write_string:text("|s")];
+        [stream write_string:nil];
+    });
+    EXPECT_EQ(written, "0.1|-74294967295|0.1c'\\041'0000ABCD18446744073709551615|s");
+}
+
+TEST(Stream, formats_are_set_given_or_the_first_ones_for_null)
+{
+    ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
+    const auto written = standard_output_of([&] {
+        [stream set_double_format:"<%.2f>"];
+        [stream write_double:1.5];
+        [stream set_double_format:NULL];
+        [stream write_double:1.5];
+        [stream write_int_with_format:5 format:"%03d"];
+        [stream write_string_with_format:text("ab") format:"[%4s]"];
+        [stream write_unsigned_long_with_format:5 format:NULL];
+    });
+    EXPECT_EQ(written, "<1.50>1.5005[  ab]5");
+    EXPECT_EQ([stream double_format], nullptr);
+    EXPECT_STREQ([stream date_format], "%m/%d/%Y %H:%M:%S");
+}
+
+TEST(Stream, lists_have_delimiters_around_and_separators_between)
+{
+    ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
+    const auto list = [&](uint32_t count) {
+        return standard_output_of([&] { [stream ZEB_send_delimited_list:ints(count)]; });
+    };
+    EXPECT_EQ(list(0), "{}");
+    EXPECT_EQ(list(1), "{1}");
+    EXPECT_EQ(list(3), "{1, 2, 3}");
+    EXPECT_EQ(standard_output_of([&] { [stream ZEB_send_list:ints(3)]; }), "123");
+
+    [stream set_list_separator:ZEB_Char_Span{"", 0}];
+    [stream set_list_open_delimiter:ZEB_Char_Span{"<<<", 2}];
+    EXPECT_EQ(list(3), "<<123}");
+}
+
+TEST(Stream, objects_write_themselves_and_strangers_write_nothing)
+{
+    ZEB_Stream *const stream = [ZEB_Stream shared_stream];
+    const auto written = standard_output_of([&] {
+        [stream write_object:ints(2)];
+        [stream write_object_with_format:ints(1) format:"ignored"];
+        [stream write_value:ints(1)];
+        [stream write_object_text:ints(1)];
+        [stream write_object_contents:ints(1)];
+        [ints(3) send_list_to_stream:stream];
+        [stream write_object:[NSObject class]];
+        [stream write_object:nil];
+    });
+    EXPECT_EQ(written, "{1, 2}{1}{1}{1}{1}123");
+    EXPECT_EQ([ZEB_Stream shared_stream], stream);
+}
+
+TEST(Stream, receiving_is_not_implemented_and_says_so_on_standard_output)
+{
+    const auto written = standard_output_of([&] {
+        [[ZEB_Error_Stream shared_error_stream] ZEB_receive_delimited_list:ints(1)];
+        [[ZEB_Stream shared_stream] ZEB_receive_list:ints(1)];
+    });
+    EXPECT_EQ(written,
+              "Need to implement ZEB_receive_delimited_list:\nNeed to implement ZEB_receive_list:\n");
+}
+
+TEST(Stream, readers_scan_standard_input)
+{
+    FILE *const input = tmpfile();
+    fputs("2.5 -3 4000000000 0.5 x 7.25", input);
+    rewind(input);
+    const int saved = dup(STDIN_FILENO);
+    dup2(fileno(input), STDIN_FILENO);
+    ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
+    EXPECT_EQ([stream read_double], 2.5);
+    EXPECT_EQ([stream read_int], -3);
+    EXPECT_EQ([stream read_unsigned], 4000000000u);
+    EXPECT_EQ([stream read_float], 0.5f);
+    EXPECT_EQ([stream read_char_with_format:" %c"], 'x');
+    EXPECT_EQ([stream read_double_with_format:"%lf"], 7.25);
+    EXPECT_EQ([stream read_int], 0);
+    dup2(saved, STDIN_FILENO);
+    close(saved);
+    fclose(input);
+}
+
+TEST(Stream, failures_are_only_counted_by_those_who_count)
+{
+    ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
+    [stream set_failure_count:3];
+    EXPECT_EQ([stream failure_count], 3u);
+    [stream reset];
+    EXPECT_EQ([stream failure_count], 0u);
+    [stream set_failure_count:3];
+    [stream reset_failure_count];
+    EXPECT_EQ([stream failure_count], 0u);
+}

@@ -1,0 +1,2 @@
+# The tests that every family of arrays is put through.
+zeb_class_templates(TESTS tests/arrays/templates/ZEB_T_Storage_test.mm)

@@ -1,0 +1,52 @@
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#include <gtest/gtest.h>
+
+#include "core/engine/one_time.hpp"
+
+TEST(Start_Up, runs_once_and_does_not_come_back_to_itself)
+{
+    uint8_t done = 0;
+    int runs = 0;
+    const auto start = [&](auto &again) -> void {
+        zeb::run_once(done, [&] {
+            ++runs;
+            again(again);
+        });
+    };
+    start(start);
+    start(start);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST(Start_Up, names_the_domain_of_the_defaults)
+{
+    EXPECT_EQ(ZC_defaults_domain(), nil);
+    ZC_start_up_defaults_domain();
+    NSString *const domain = ZC_defaults_domain();
+    EXPECT_TRUE([domain isEqualToString:@"Korvane"]);
+    ZC_start_up_defaults_domain();
+    EXPECT_EQ(ZC_defaults_domain(), domain);
+}
+
+TEST(Start_Up, debug_logging_is_off_until_the_defaults_say_so)
+{
+    NSUserDefaults *const defaults = [NSUserDefaults standardUserDefaults];
+    EXPECT_EQ([defaults debug_logging_enabled], 0);
+    [defaults setBool:YES forKey:@"does_debug_logging"];
+    EXPECT_EQ([defaults debug_logging_enabled], 1);
+    [defaults removeObjectForKey:@"does_debug_logging"];
+    EXPECT_EQ([defaults debug_logging_enabled], 0);
+}
+
+TEST(Start_Up, sets_the_flags_of_the_unit_catalog_once)
+{
+    uint8_t *const flags = ZC_unit_catalog_flags();
+    ZC_start_up_unit_catalog();
+    for (int i = 0; i < ZEB_UNIT_FLAG_COUNT; ++i)
+        EXPECT_EQ(flags[i], 1);
+    flags[3] = 0;
+    ZC_start_up_unit_catalog();
+    EXPECT_EQ(flags[3], 0);
+    flags[3] = 1;
+}

@@ -1,0 +1,48 @@
+/*
+ * The main of every test program: each test runs inside an autorelease pool of its own, because without
+ * one GNUstep complains on the standard error that the diagnostics use.
+ */
+#import <Foundation/Foundation.h>
+
+#include <gtest/gtest.h>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
+
+namespace
+{
+
+class Pool_Around_Each_Test : public testing::EmptyTestEventListener
+{
+    void OnTestStart(const testing::TestInfo &) override { pool = [[NSAutoreleasePool alloc] init]; }
+    void OnTestEnd(const testing::TestInfo &) override { [pool drain]; }
+
+    NSAutoreleasePool *pool = nil;
+};
+
+/// Lets Foundation make what it keeps for the life of the process, before leaks are looked for.
+void warm_up_foundation()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    __lsan_disable();
+#endif
+    NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
+    [NSUserDefaults standardUserDefaults];
+    [NSBundle mainBundle];
+    [NSString stringWithFormat:@"%@ %d %g", @"warm", 1, 1.0];
+    [pool drain];
+#if defined(__SANITIZE_ADDRESS__)
+    __lsan_enable();
+#endif
+}
+
+} // namespace
+
+int main(int count, char **arguments)
+{
+    warm_up_foundation();
+    testing::InitGoogleTest(&count, arguments);
+    testing::UnitTest::GetInstance()->listeners().Append(new Pool_Around_Each_Test);
+    return RUN_ALL_TESTS();
+}

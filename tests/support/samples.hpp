@@ -1,0 +1,66 @@
+/// Elements of every family, and what is to be told of them. Sample `i` differs from every other `i` below 100.
+#pragma once
+
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#include <cstdint>
+#include <string>
+
+namespace support
+{
+
+template <class Number>
+struct Sample {
+    static Number at(uint32_t i) { return static_cast<Number>(i + 1); }
+};
+
+template <>
+struct Sample<void *> {
+    static void *at(uint32_t i) { return reinterpret_cast<void *>(std::uintptr_t{i} * 16 + 16); }
+};
+
+template <>
+struct Sample<id> {
+    static id at(uint32_t i) { return [NSString stringWithFormat:@"object %u", i]; }
+};
+
+template <>
+struct Sample<ZEB_String *> {
+    static ZEB_String *at(uint32_t i)
+    {
+        const std::string text = "text " + std::to_string(i);
+        return [[[ZEB_String alloc] init_as_copy_of_chars:text.data()
+                                                    count:static_cast<uint32_t>(text.size())] autorelease];
+    }
+};
+
+template <>
+struct Sample<ZEB_Wide_String *> {
+    static ZEB_Wide_String *at(uint32_t i)
+    {
+        const uint32_t units[] = {0x1F600 + i, 'w', i};
+        return [[[ZEB_Wide_String alloc] init_as_copy_of_wide_chars:units count:3] autorelease];
+    }
+};
+
+template <>
+struct Sample<ZEB_Byte_Array *> {
+    static ZEB_Byte_Array *at(uint32_t i)
+    {
+        const uint8_t bytes[] = {7, static_cast<uint8_t>(i)};
+        return [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:bytes count:2] autorelease];
+    }
+};
+
+template <class Element>
+bool are_same(Element left, Element right)
+{
+    return left == right;
+}
+
+inline bool are_same(id left, id right) { return [left isEqual:right]; }
+inline bool are_same(ZEB_String *left, ZEB_String *right) { return [left isEqual:right]; }
+inline bool are_same(ZEB_Wide_String *left, ZEB_Wide_String *right) { return [left isEqual:right]; }
+inline bool are_same(ZEB_Byte_Array *left, ZEB_Byte_Array *right) { return [left isEqual:right]; }
+
+} // namespace support

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Stream.h>
 
+#include "core/engine/lists.hpp"
+
 #include <span>
 
 @class ZEB_Byte_Array, ZEB_String, ZEB_Wide_String;
@@ -26,15 +28,11 @@ void print_element(ZEB_Stream *stream, ZEB_Byte_Array *element);
 template <class Element>
 void print_elements(ZEB_Stream *stream, std::span<Element> elements)
 {
-    [stream write_bytes:"{" length:1];
-    bool is_first = true;
-    for (const Element &element : elements) {
-        if (!is_first)
-            [stream write_bytes:", " length:2];
-        is_first = false;
-        print_element(stream, element);
-    }
-    [stream write_bytes:"}" length:1];
+    constexpr List_Delimiters braces{span_of("{"), span_of("}"), span_of(", ")};
+    write_delimited_list(
+        static_cast<uint32_t>(elements.size()), braces,
+        [=](ZEB_Char_Span text) { [stream write_bytes:text.char_c_array length:text.length]; },
+        [=](uint32_t index) { print_element(stream, elements[index]); });
 }
 
 } // namespace zeb

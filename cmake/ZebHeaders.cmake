@@ -24,6 +24,8 @@ function(zeb_write_umbrella)
     get_filename_component(name ${header} NAME)
     list(APPEND names ${name})
   endforeach()
+  # What needs C++ is included by those who want it.
+  list(FILTER names EXCLUDE REGEX "\\.hpp$")
   list(SORT names)
   list(TRANSFORM names REPLACE "(.+)" "#import <Korvane_ZEB/\\1>")
   list(JOIN names "\n" umbrella_imports)

@@ -3,6 +3,7 @@
 #import <Korvane_ZEB/ZEB_Collection.h>
 #import <Korvane_ZEB/ZEB_String.h>
 
+#include "core/engine/lists.hpp"
 #include "core/engine/notice.hpp"
 #include "core/engine/stream_formats.hpp"
 
@@ -154,21 +155,17 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 
 - (void)ZEB_send_delimited_list:(ZEB_Collection *)list
 {
-    const uint32_t count = [list count];
-    zeb::put(self, list_open_delimiter);
-    for (uint32_t i = 0; i < count; ++i) {
-        if (i != 0)
-            zeb::put(self, list_separator);
-        [list send_element_to_stream:i stream:self];
-    }
-    zeb::put(self, list_close_delimiter);
+    ZEB_Stream *const stream = self;
+    zeb::write_delimited_list(
+        [list count], {list_open_delimiter, list_close_delimiter, list_separator},
+        [=](ZEB_Char_Span delimiter) { zeb::put(stream, delimiter); },
+        [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
 }
 
 - (void)ZEB_send_list:(ZEB_Collection *)list
 {
-    const uint32_t count = [list count];
-    for (uint32_t i = 0; i < count; ++i)
-        [list send_element_to_stream:i stream:self];
+    ZEB_Stream *const stream = self;
+    zeb::write_list([list count], [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
 }
 
 - (void)ZEB_receive_delimited_list:(ZEB_Collection *)list

@@ -1,2 +1,4 @@
 # The tests that every family of arrays is put through.
-zeb_class_templates(TESTS tests/arrays/templates/ZEB_T_Storage_test.mm)
+zeb_class_templates(TESTS
+  tests/arrays/templates/ZEB_T_Algorithms_test.mm
+  tests/arrays/templates/ZEB_T_Storage_test.mm)

@@ -3,6 +3,7 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
+#include "arrays/engine/element_kinds.hpp"
 #include "arrays/engine/growth.hpp"
 
 #include <span>

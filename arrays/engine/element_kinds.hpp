@@ -147,9 +147,7 @@ private:
         for (std::uint32_t i = 0; i < n; ++i) {
             const Element stored = source[i];
             const Element dropped = slots[i];
-            // An object that is stored over itself might have no other reference: it stays untouched.
-            if (stored == dropped)
-                continue;
+            // First the new one, then the old: they may be the same object.
             if (retain && stored != Element{})
                 Policy::retain(stored);
             slots[i] = stored;

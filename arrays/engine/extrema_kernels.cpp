@@ -10,7 +10,7 @@
 #define HWY_TARGET_INCLUDE "arrays/engine/extrema_kernels.cpp"
 #include <hwy/foreach_target.h>
 
-#include "arrays/engine/vector_lanes-inl.hpp"
+#include "arrays/engine/vector_lanes.hpp"
 
 HWY_BEFORE_NAMESPACE();
 namespace zeb::kernels

@@ -13,7 +13,7 @@
 #define HWY_TARGET_INCLUDE "arrays/engine/search_kernels.cpp"
 #include <hwy/foreach_target.h>
 
-#include "arrays/engine/vector_lanes-inl.hpp"
+#include "arrays/engine/vector_lanes.hpp"
 
 HWY_BEFORE_NAMESPACE();
 namespace zeb::kernels
@@ -124,8 +124,8 @@ struct Pattern {
     using D = hn::ScalableTag<Lane>;
 
     Pattern(const Lane *lanes, std::size_t count)
-        : pattern(lanes), length(count), first(hn::Set(D(), lanes[0])), middle(hn::Set(D(), lanes[count / 2])),
-          last(hn::Set(D(), lanes[count - 1]))
+        : pattern(lanes), length(count), first(hn::Set(D(), lanes[0])),
+          middle(hn::Set(D(), lanes[count / 2])), last(hn::Set(D(), lanes[count - 1]))
     {
     }
 
@@ -157,7 +157,8 @@ struct Pattern {
 /// Tries a few vectors of starts at a time. Without a find it answers where it gave up: `count` at the
 /// end, less when too much was spent on comparing in vain.
 template <class Lane>
-std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *sought, std::size_t length, bool &found)
+std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *sought, std::size_t length,
+                     bool &found)
 {
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);

@@ -92,7 +92,10 @@ struct Twin_Row {
     {
         return {Half::choose(mask.low, yes.low, no.low), Half::choose(mask.high, yes.high, no.high)};
     }
-    HWY_INLINE Mask before(const Twin_Row &other) const { return {low.before(other.low), high.before(other.high)}; }
+    HWY_INLINE Mask before(const Twin_Row &other) const
+    {
+        return {low.before(other.low), high.before(other.high)};
+    }
     HWY_INLINE static Mask both(const Mask &left, const Mask &right)
     {
         return {hn::And(left.low, right.low), hn::And(left.high, right.high)};

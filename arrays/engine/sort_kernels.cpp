@@ -24,28 +24,6 @@ namespace
 constexpr std::size_t few_bytes = 64;
 constexpr std::size_t few_lanes = 16;
 
-#if ZEB_HAS_HIGHWAY
-using Wide_Key = hwy::K64V64;
-#else
-struct Wide_Key {
-    std::uint64_t value;
-    std::uint64_t key;
-};
-#endif
-
-/// The order of keys that a standard sort is given.
-struct Key_Less {
-    template <class Key>
-    bool operator()(const Key &left, const Key &right) const noexcept
-    {
-        return left < right;
-    }
-    bool operator()(const Wide_Key &left, const Wide_Key &right) const noexcept
-    {
-        return left.key < right.key;
-    }
-};
-
 /// Sorts keys of which equal ones cannot be told apart, so that any sort gives the one result. Infinities
 /// may not be among them: the vector sort pads with the largest finite number.
 template <class Key>
@@ -55,7 +33,7 @@ void sort_keys(Key *keys, std::size_t count) noexcept
     if (sorts_in_vectors())
         return hwy::Sorter()(keys, count, hwy::SortAscending());
 #endif
-    std::sort(keys, keys + count, Key_Less());
+    std::sort(keys, keys + count);
 }
 
 /// Sorts numbers among which there are infinities: those go to both ends first.
@@ -95,31 +73,6 @@ struct Ordered_Key {
     }
 };
 
-/// A key with the place it came from, in one number that sorts by the key first.
-template <class Key>
-struct Placed_Key;
-template <>
-struct Placed_Key<std::uint32_t> {
-    using Packed = std::uint64_t;
-    static Packed pack(std::uint32_t key, std::size_t place) noexcept { return Packed{key} << 32 | place; }
-    static std::uint32_t key(Packed packed) noexcept { return static_cast<std::uint32_t>(packed >> 32); }
-    static std::size_t place(Packed packed) noexcept { return packed & 0xFFFFFFFF; }
-};
-/// The vector sort pads with the largest key, and would mix up a real one; no double has it.
-template <>
-struct Placed_Key<std::uint64_t> {
-    using Packed = Wide_Key;
-    static Packed pack(std::uint64_t key, std::size_t place) noexcept
-    {
-        Packed packed;
-        packed.value = place;
-        packed.key = key;
-        return packed;
-    }
-    static std::uint64_t key(const Packed &packed) noexcept { return packed.key; }
-    static std::size_t place(const Packed &packed) noexcept { return packed.value; }
-};
-
 bool counts_up_from_0(const std::uint32_t *indexes, std::size_t count) noexcept
 {
     for (std::size_t i = 0; i < count; ++i)
@@ -128,40 +81,48 @@ bool counts_up_from_0(const std::uint32_t *indexes, std::size_t count) noexcept
     return true;
 }
 
-template <class Placed, class Packed>
-bool all_distinct(const Packed *packed, std::size_t count) noexcept
+/// The indexes as they were, or the fact that they count up from 0: then a place is its own index.
+class Indexes_Before
 {
-    bool distinct = true;
-    for (std::size_t i = 1; i < count; ++i)
-        distinct &= Placed::key(packed[i - 1]) != Placed::key(packed[i]);
-    return distinct;
-}
+public:
+    Indexes_Before(const std::uint32_t *indexes, std::size_t count) noexcept
+        : plain(counts_up_from_0(indexes, count)), copy(plain ? 0 : count)
+    {
+        if (copy.get() != nullptr)
+            std::copy_n(indexes, count, copy.get());
+    }
+    bool known() const noexcept { return plain || copy.get() != nullptr; }
+    std::uint32_t at(std::uint64_t place) const noexcept
+    {
+        return plain ? static_cast<std::uint32_t>(place) : copy.get()[place];
+    }
 
-/// Sorts where no two lanes are equal, so that there is one permutation only. Answers false, nothing
-/// changed, when there are equal lanes or no memory.
+private:
+    bool plain;
+    Scratch<std::uint32_t> copy;
+};
+
+/// Sorts 32-bit lanes of which no two are equal, so that there is one permutation only: each key is packed
+/// above its place. Answers false, nothing changed, when there are equal lanes or no memory.
 template <class Lane>
 bool sort_distinct(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
     using Ordered = Ordered_Key<Lane>;
-    using Placed = Placed_Key<typename Ordered::Key>;
-    const bool plain_indexes = counts_up_from_0(indexes, count);
-    const Scratch<typename Placed::Packed> packed(count);
-    const Scratch<std::uint32_t> before(plain_indexes ? 0 : count);
-    if (packed.get() == nullptr || (before.get() == nullptr && !plain_indexes))
+    const Scratch<std::uint64_t> packed(count);
+    const Indexes_Before before(indexes, count);
+    if (packed.get() == nullptr || !before.known())
         return false;
     for (std::size_t i = 0; i < count; ++i)
-        packed.get()[i] = Placed::pack(Ordered::key_of(lanes[i]), i);
+        packed.get()[i] = std::uint64_t{Ordered::key_of(lanes[i])} << 32 | i;
     sort_keys(packed.get(), count);
-    if (!all_distinct<Placed>(packed.get(), count))
-        return false;
-    if (!plain_indexes)
-        std::copy_n(indexes, count, before.get());
-    for (std::size_t i = 0; i < count; ++i) {
-        lanes[i] = Ordered::lane_of(Placed::key(packed.get()[i]));
-        const std::size_t place = Placed::place(packed.get()[i]);
-        indexes[i] = plain_indexes ? static_cast<std::uint32_t>(place) : before.get()[place];
+    bool distinct = true;
+    for (std::size_t i = 1; i < count; ++i)
+        distinct &= packed.get()[i - 1] >> 32 != packed.get()[i] >> 32;
+    for (std::size_t i = 0; distinct && i < count; ++i) {
+        lanes[i] = Ordered::lane_of(static_cast<std::uint32_t>(packed.get()[i] >> 32));
+        indexes[i] = before.at(packed.get()[i] & 0xFFFFFFFF);
     }
-    return true;
+    return distinct;
 }
 
 template <class Lane>
@@ -172,30 +133,19 @@ Float_Order order_of(const Lane *lanes, std::size_t count) noexcept
     return Float_Order::Finite;
 }
 
-/// What a try to sort lanes as distinct ones came to.
-enum class Distinct : std::uint8_t { Sorted, Has_Equals, Undecided };
-
-/// Runs of numbers that are alike in their upper bits are ordered singly up to this length.
-constexpr std::size_t longest_run = 16;
-
-/// Orders the places of a few numbers by the numbers. Answers false when two are equal.
-bool order_run(const double *lanes, std::uint64_t *packed, std::size_t length, std::uint64_t places) noexcept
+/// Orders the places of numbers whose keys are alike in their upper bits by the numbers themselves.
+void order_run(const double *lanes, std::uint64_t *places, std::size_t length) noexcept
 {
-    for (std::size_t start = 1; start < length; ++start) {
-        const std::uint64_t moved = packed[start];
-        const double lane = lanes[moved & places];
-        std::size_t at = start;
-        for (; at > 0 && lane < lanes[packed[at - 1] & places]; --at)
-            packed[at] = packed[at - 1];
-        packed[at] = moved;
-        if (at > 0 && lane == lanes[packed[at - 1] & places])
-            return false;
-    }
-    return true;
+    const auto before = [lanes](std::uint64_t left, std::uint64_t right) {
+        return lanes[left] < lanes[right];
+    };
+    // Mostly such a run is one number again and again.
+    if (!std::is_sorted(places, places + length, before))
+        std::sort(places, places + length, before);
 }
 
 /// Packs the upper bits of each number's key, counted from the lowest key, above its place. Answers the
-/// mask of the places, or 0 when all numbers are equal.
+/// mask of the places.
 std::uint64_t pack_upper_bits(const double *lanes, std::uint64_t *packed, std::size_t count) noexcept
 {
     using Ordered = Ordered_Key<double>;
@@ -205,71 +155,75 @@ std::uint64_t pack_upper_bits(const double *lanes, std::uint64_t *packed, std::s
         lowest = std::min(lowest, key);
         highest = std::max(highest, key);
     }
-    if (lowest == highest)
-        return 0;
     const std::uint64_t places = (std::uint64_t{1} << std::bit_width(count - 1)) - 1;
-    const int shift = std::countl_zero(highest - lowest);
+    const int shift = std::countl_zero((highest - lowest) | 1);
     for (std::size_t i = 0; i < count; ++i)
         packed[i] = ((Ordered::key_of(lanes[i]) - lowest) << shift & ~places) | i;
     return places;
 }
 
-/// Makes `packed` the places of the numbers in ascending order. Half as much to sort as whole keys with
+/// Makes `places` the places of the numbers in ascending order. Half as much to sort as whole keys with
 /// their places beside them.
-Distinct order_places(const double *lanes, std::uint64_t *packed, std::size_t count) noexcept
+void order_places(const double *lanes, std::uint64_t *places, std::size_t count) noexcept
 {
-    const std::uint64_t places = pack_upper_bits(lanes, packed, count);
-    if (places == 0)
-        return Distinct::Has_Equals;
-    sort_keys(packed, count);
+    const std::uint64_t mask = pack_upper_bits(lanes, places, count);
+    sort_keys(places, count);
     for (std::size_t start = 0, end; start < count; start = end) {
-        end = start + 1;
-        while (end < count && ((packed[start] ^ packed[end]) & ~places) == 0)
-            ++end;
-        if (end - start > longest_run)
-            return Distinct::Undecided;
-        if (end - start > 1 && !order_run(lanes, packed + start, end - start, places))
-            return Distinct::Has_Equals;
+        const std::uint64_t key = places[start] & ~mask;
+        for (end = start; end < count && (places[end] & ~mask) == key; ++end)
+            places[end] &= mask;
+        if (end - start > 1)
+            order_run(lanes, places + start, end - start);
     }
-    for (std::size_t i = 0; i < count; ++i)
-        packed[i] &= places;
-    return Distinct::Sorted;
 }
 
-/// Sorts numbers of which no two are equal. Nothing is changed unless it answers that they are sorted.
-Distinct sort_distinct_numbers(double *lanes, std::uint32_t *indexes, std::size_t count) noexcept
+/// Numbers each lane by its order, equal ones alike; `sorted` are the lanes in that order.
+void rank(const double *sorted, const std::uint64_t *places, std::size_t count, std::uint32_t *ranks) noexcept
 {
-    const bool plain_indexes = counts_up_from_0(indexes, count);
-    const Scratch<std::uint64_t> packed(count);
-    const Scratch<double> copy(count);
-    const Scratch<std::uint32_t> before(plain_indexes ? 0 : count);
-    if (packed.get() == nullptr || copy.get() == nullptr || (before.get() == nullptr && !plain_indexes))
-        return Distinct::Has_Equals;
-    const Distinct outcome = order_places(lanes, packed.get(), count);
-    if (outcome != Distinct::Sorted)
-        return outcome;
-    std::copy_n(lanes, count, copy.get());
-    if (!plain_indexes)
-        std::copy_n(indexes, count, before.get());
+    std::uint32_t here = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        const std::uint64_t place = packed.get()[i];
-        lanes[i] = copy.get()[place];
-        indexes[i] = plain_indexes ? static_cast<std::uint32_t>(place) : before.get()[place];
+        here += i > 0 && sorted[i - 1] != sorted[i];
+        ranks[places[i]] = here;
     }
-    return outcome;
+}
+
+/// Sorts numbers, of one zero and without a not-a-number. Where some are equal, the Shell sort decides
+/// about their indexes: it runs on their ranks, which are half as wide and compare alike. Answers false,
+/// nothing changed, when there is no memory.
+bool sort_numbers(double *lanes, std::uint32_t *indexes, std::size_t count) noexcept
+{
+    const Scratch<std::uint64_t> places(count);
+    const Scratch<double> sorted(count);
+    const Scratch<std::uint32_t> ranks(count);
+    const Indexes_Before before(indexes, count);
+    if (places.get() == nullptr || sorted.get() == nullptr || ranks.get() == nullptr || !before.known())
+        return false;
+    order_places(lanes, places.get(), count);
+    bool distinct = true;
+    for (std::size_t i = 0; i < count; ++i) {
+        sorted.get()[i] = lanes[places.get()[i]];
+        distinct &= i == 0 || sorted.get()[i - 1] != sorted.get()[i];
+    }
+    if (distinct) {
+        for (std::size_t i = 0; i < count; ++i)
+            indexes[i] = before.at(places.get()[i]);
+    } else {
+        rank(sorted.get(), places.get(), count, ranks.get());
+        shell_sort(ranks.get(), indexes, count);
+    }
+    std::copy_n(sorted.get(), count, lanes);
+    return true;
 }
 
 template <class Lane>
-bool sorts_as_distinct(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
+bool sort_fast(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
     if (order_of(lanes, count) == Float_Order::Ambiguous)
         return false;
-    if constexpr (std::is_same_v<Lane, double>) {
-        const Distinct outcome = sort_distinct_numbers(lanes, indexes, count);
-        return outcome == Distinct::Sorted || (outcome == Distinct::Undecided && sort_distinct(lanes, indexes, count));
-    } else {
+    if constexpr (std::is_same_v<Lane, double>)
+        return sort_numbers(lanes, indexes, count);
+    else
         return sort_distinct(lanes, indexes, count);
-    }
 }
 
 /// Sorts with the indexes brought to the width of the lanes.
@@ -326,7 +280,7 @@ void sort_any(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
         shell_sort_wide_bytes(lanes, indexes, count);
     } else {
         if constexpr (!std::is_same_v<Lane, std::uint64_t>)
-            if (sorts_as_distinct(lanes, indexes, count))
+            if (sort_fast(lanes, indexes, count))
                 return;
         if constexpr (sizeof(Lane) == 8)
             shell_sort_with_wide_indexes(lanes, indexes, count);

@@ -22,7 +22,7 @@ static constexpr std::size_t streaming_bytes = std::size_t{16} << 20;
 #define HWY_TARGET_INCLUDE "arrays/engine/store_kernels.cpp"
 #include <hwy/foreach_target.h>
 
-#include "arrays/engine/vector_lanes-inl.hpp"
+#include "arrays/engine/vector_lanes.hpp"
 #include <hwy/cache_control.h>
 
 HWY_BEFORE_NAMESPACE();

@@ -13,6 +13,29 @@
 namespace zeb
 {
 
+/// One element that goes into several slots. The first takes over the caller's reference, where the kind
+/// takes it; the others take references of their own.
+template <class Kind>
+class Repeated_Element
+{
+public:
+    Repeated_Element(Vector_Storage<Kind> vector, typename Kind::Element element) noexcept
+        : vector(vector), element(element)
+    {
+    }
+
+    void store(std::uint32_t index) noexcept
+    {
+        assign_from(source, vector.kind, vector.data + index, &element, 1);
+        source = Source::of_another_array;
+    }
+
+private:
+    Vector_Storage<Kind> vector;
+    typename Kind::Element element;
+    Source source = Source::of_the_caller;
+};
+
 /// Stores `element` into the range, both ends included; a range that starts after its end fills nothing,
 /// and what of it lies past the last element is left out.
 template <class Kind>
@@ -21,8 +44,9 @@ void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range, typenam
     if constexpr (Kind::is_plain) {
         fill_range(vector.elements(), range, element);
     } else {
+        Repeated_Element<Kind> repeated(vector, element);
         for (std::uint32_t i = range.start; i <= range.end && i < vector.count; ++i)
-            vector.kind.assign(vector.data + i, &element, 1);
+            repeated.store(i);
     }
 }
 
@@ -43,6 +67,7 @@ std::uint32_t replace_every(Vector_Storage<Kind> vector, typename Kind::Element 
         return replace_equal(vector.elements(), element, replacement);
     } else {
         const typename Kind::Equality equal;
+        Repeated_Element<Kind> repeated(vector, replacement);
         std::uint32_t replaced = 0;
         std::uint32_t last = vector.count;
         for (std::uint32_t i = 0; i < vector.count; ++i) {
@@ -52,10 +77,10 @@ std::uint32_t replace_every(Vector_Storage<Kind> vector, typename Kind::Element 
             // The slot that holds `element` itself comes last: until then it tells which ones are meant.
             const std::uint32_t now = vector.data[i] == element ? std::exchange(last, i) : i;
             if (now != vector.count)
-                vector.kind.assign(vector.data + now, &replacement, 1);
+                repeated.store(now);
         }
         if (last != vector.count)
-            vector.kind.assign(vector.data + last, &replacement, 1);
+            repeated.store(last);
         return replaced;
     }
 }

@@ -180,12 +180,12 @@ std::span<uint32_t> indexes_of(ZEB_UInt_Array *indexes) { return {[indexes uint_
 
 - (uint8_t)is_equal_to_vector:(ZEB_T_Vector *)other
 {
-    return zeb::equals_as_vector<Kind>(read(self), read(other));
+    return other != nil && zeb::equals_as_vector<Kind>(read(self), read(other));
 }
 
 - (uint8_t)is_equal_to_collection:(ZEB_T_Collection *)other
 {
-    return zeb::same_values(read(self), {[other TT_word_data], [other count]}, equality);
+    return other != nil && zeb::same_values(read(self), {[other TT_word_data], [other count]}, equality);
 }
 
 - (BOOL)isEqual:(id)other

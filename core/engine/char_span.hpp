@@ -3,6 +3,8 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
+#include <cstddef>
+
 namespace zeb
 {
 

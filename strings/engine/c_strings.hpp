@@ -1,13 +1,16 @@
-/// Counted C characters into a growable 8-bit string.
+/// Counted 8-bit characters into a growable string of 8-bit or of 32-bit characters.
 #pragma once
 
-#include "arrays/engine/editing.hpp"
+#include "arrays/engine/growing.hpp"
+#include "arrays/engine/set_aside.hpp"
 #include "strings/engine/string_notes.hpp"
+#include "strings/engine/string_storage.hpp"
+#include "strings/engine/text_kernels.hpp"
+
+#include <cstring>
 
 namespace zeb
 {
-
-using Char_Storage = Array_Storage<Plain_Elements<char>>;
 
 /// Grows for `needed` characters; the first block is allocated, a later one reallocated, and the note
 /// tells which it was.
@@ -18,30 +21,52 @@ bool grow_text(Array_Storage<Kind> string, std::uint64_t needed, Report report) 
                 string.data == nullptr ? notes::allocate_failed : notes::reallocate_failed);
 }
 
-/// Makes the text exactly the given bytes, which may be the string's own.
-template <class Report>
-void copy_c_string(Char_Storage string, const char *bytes, std::uint32_t length, Report report) noexcept
+/// Puts characters into 8-bit elements as they are, and sign-extends them into 32-bit ones.
+inline void put_characters(std::span<const char> characters, char *elements) noexcept
+{
+    if (!characters.empty())
+        std::memcpy(elements, characters.data(), characters.size());
+}
+
+inline void put_characters(std::span<const char> characters, std::uint32_t *elements) noexcept
+{
+    kernels::widen_signed(reinterpret_cast<const std::int8_t *>(characters.data()), characters.size(),
+                          elements);
+}
+
+/// Makes the text end with the given bytes, which may lie in the string's own block, from the index `at`
+/// on, which is at most the count.
+template <class Element, class Report>
+void end_with_characters(Text_Storage<Element> string, std::uint32_t at, const char *bytes,
+                         std::uint32_t length, Report report) noexcept
+{
+    const Set_Aside<char> source({bytes, length}, string.data, string.capacity * sizeof(Element));
+    if (source.failed())
+        return report(notes::reallocate_failed);
+    if (!grow_text(string, std::uint64_t{at} + length, report))
+        return;
+    put_characters(source.elements(), string.data + at);
+    string.count = at + length;
+}
+
+/// Makes the text exactly the given bytes.
+template <class Element, class Report>
+void copy_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_t length,
+                   Report report) noexcept
 {
     if (string.is_link())
         return report(notes::copy_c_string_through_link);
-    const Source_Position source(string, Elements_Of<Plain_Elements<char>>{bytes, length});
-    if (!grow_text(string, length, report))
-        return;
-    source.assign_to_front(string);
-    string.count = length;
+    end_with_characters(string, 0, bytes, length, report);
 }
 
-/// Puts the given bytes, which may be the string's own, at the end.
-template <class Report>
-void append_c_string(Char_Storage string, const char *bytes, std::uint32_t length, Report report) noexcept
+/// Puts the given bytes at the end.
+template <class Element, class Report>
+void append_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_t length,
+                     Report report) noexcept
 {
     if (string.is_link())
         return report(notes::append_c_string_through_link);
-    const Source_Position source(string, Elements_Of<Plain_Elements<char>>{bytes, length});
-    if (!grow_text(string, std::uint64_t{string.count} + length, report))
-        return;
-    source.assign_to_gap(string, string.count);
-    string.count += length;
+    end_with_characters(string, string.count, bytes, length, report);
 }
 
 /// Puts a null behind the last character and leaves the count.

@@ -99,6 +99,32 @@ TYPED_TEST(Sorting, with_a_permutation_moves_the_indexes_as_the_plain_sort_does)
     });
 }
 
+/// Numbers that differ in their last bits only, beside one that is far away: nothing but whole numbers tells
+/// them apart.
+TYPED_TEST(Sorting, with_a_permutation_tells_near_numbers_apart)
+{
+    using E = TypeParam;
+    if constexpr (std::is_floating_point_v<E>) {
+        on_each_target([] {
+            std::mt19937 random(18);
+            for (uint32_t step : {1u, 2u, 40u}) {
+                std::vector<E> elements(1500, E(1));
+                for (uint32_t i = 0; i < elements.size(); ++i)
+                    elements[i] += static_cast<E>(i / step) * std::numeric_limits<E>::epsilon();
+                elements[7] = std::numeric_limits<E>::max();
+                std::shuffle(elements.begin(), elements.end(), random);
+                std::vector<uint32_t> indexes = marks(elements.size(), 3);
+                std::vector<E> expected = elements;
+                std::vector<uint32_t> expected_indexes = indexes;
+                reference::sort(expected, &expected_indexes, less_at);
+                ASSERT_TRUE(zeb::sort_with_permutation<E>(elements, indexes));
+                ASSERT_TRUE(same_bits(elements, expected));
+                ASSERT_EQ(indexes, expected_indexes);
+            }
+        });
+    }
+}
+
 /// An answer of 2 exchanges, whatever sense it makes; every other answer leaves the pair.
 TYPED_TEST(Sorting, by_a_function_asks_the_same_questions)
 {

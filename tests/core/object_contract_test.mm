@@ -9,6 +9,7 @@ namespace
 /// One object of every class of the framework that can be made by `init`.
 const char *const class_names[] = {
     "ZEB_Object", "ZEB_Stream", "ZEB_Error_Stream", "ZEB_Collection", "ZEB_File",
+    "ZEB_Date", "ZEB_Number_Format", "ZEB_Time_Stamp",
     "ZEB_Byte_Collection", "ZEB_Byte_Vector", "ZEB_Byte_Array",
     "ZEB_Double_Collection", "ZEB_Double_Vector", "ZEB_Double_Array",
     "ZEB_Float_Collection", "ZEB_Float_Vector", "ZEB_Float_Array",
@@ -80,7 +81,7 @@ TEST(Every_Copyable_Class, copies_into_an_object_of_its_own)
 
 - (id)init
 {
-    return [NSNull null];
+    return static_cast<id>([NSNull null]);
 }
 
 - (id)identity:(id)object

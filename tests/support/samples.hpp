@@ -3,8 +3,12 @@
 
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <string>
+#include <type_traits>
+#include <vector>
 
 namespace support
 {
@@ -62,5 +66,40 @@ inline bool are_same(id left, id right) { return [left isEqual:right]; }
 inline bool are_same(ZEB_String *left, ZEB_String *right) { return [left isEqual:right]; }
 inline bool are_same(ZEB_Wide_String *left, ZEB_Wide_String *right) { return [left isEqual:right]; }
 inline bool are_same(ZEB_Byte_Array *left, ZEB_Byte_Array *right) { return [left isEqual:right]; }
+
+/// Whether one element orders before the other in its family's own order.
+template <class Element>
+bool precedes(Element left, Element right)
+{
+    return left < right;
+}
+
+template <>
+inline bool precedes(ZEB_String *left, ZEB_String *right)
+{
+    return std::string([left char_data], [left count]) < std::string([right char_data], [right count]);
+}
+
+template <>
+inline bool precedes(ZEB_Wide_String *left, ZEB_Wide_String *right)
+{
+    return std::lexicographical_compare([left wide_char_data], [left wide_char_data] + [left count],
+                                        [right wide_char_data], [right wide_char_data] + [right count]);
+}
+
+template <>
+inline bool precedes(ZEB_Byte_Array *left, ZEB_Byte_Array *right)
+{
+    return std::memcmp([left byte_data], [right byte_data], 2) < 0;
+}
+
+/// Keeps elements that are objects alive.
+template <class Element>
+void keep(NSMutableArray *kept, const std::vector<Element> &elements)
+{
+    if constexpr (std::is_convertible_v<Element, id> && !std::is_same_v<Element, void *>)
+        for (const Element element : elements)
+            [kept addObject:element];
+}
 
 } // namespace support

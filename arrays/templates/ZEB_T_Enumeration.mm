@@ -1,0 +1,18 @@
+#import <Korvane_ZEB/ZEB_T_Enumeration.h>
+
+#import "arrays/ZEB_T_Storage_Private.h"
+
+#include "arrays/engine/enumeration.hpp"
+
+@implementation ZEB_T_Vector (Enumeration)
+
+- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState *)state
+                                  objects:(id *)buffer
+                                    count:(NSUInteger)room
+{
+    (void)buffer;
+    (void)room;
+    return zeb::hand_over_once(*state, data, count);
+}
+
+@end

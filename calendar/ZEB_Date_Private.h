@@ -1,0 +1,33 @@
+/*
+ * How the engine sees a date.
+ */
+#import <Korvane_ZEB/ZEB_Date.h>
+
+#include "calendar/engine/date_time.hpp"
+
+namespace zeb
+{
+
+/// The fields of a date; nil reads as one that was never set.
+inline Date_Time value_of(ZEB_Date *date)
+{
+    return date != nil ? Date_Time{date->date, date->julian_day, date->time} : unset_date_time;
+}
+
+inline void set_value(ZEB_Date *date, const Date_Time &value)
+{
+    date->date = value.date;
+    date->julian_day = value.julian_day;
+    date->time = value.time;
+}
+
+/// Lets `work` change the fields of a date.
+template <class Work>
+void change(ZEB_Date *date, Work work)
+{
+    Date_Time value = value_of(date);
+    work(value);
+    set_value(date, value);
+}
+
+} // namespace zeb

@@ -1,0 +1,89 @@
+#import <Korvane_ZEB/ZEB_Time_Stamp.h>
+
+#import <Korvane_ZEB/ZEB_Stream.h>
+
+#import "core/ZEB_Description_Stream_Private.h"
+
+#include "calendar/engine/date_hash.hpp"
+#include "calendar/engine/local_time.hpp"
+#include "core/engine/notice.hpp"
+
+@implementation ZEB_Time_Stamp
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return zeb::proprietary_software_notice;
+}
+
+- (id)init
+{
+    self = [super init];
+    [self update_to_current_time];
+    return self;
+}
+
+- (id)init_with_time:(uint64_t)second nanosecond:(uint64_t)nanosecond
+{
+    self = [super init];
+    [self set_time_value:second nanosecond:nanosecond];
+    return self;
+}
+
+- (id)copyWithZone:(NSZone *)zone
+{
+    return [[[self class] allocWithZone:zone] init_with_time:time.second nanosecond:time.nanosecond];
+}
+
+- (BOOL)isEqual:(id)other
+{
+    return [other isKindOfClass:[ZEB_Time_Stamp class]] && [self is_equal_to:other];
+}
+
+- (NSUInteger)hash
+{
+    return zeb::hash_of(time);
+}
+
+- (NSString *)description
+{
+    return zeb::description_of(self);
+}
+
+- (void)update_to_current_time
+{
+    time = zeb::current_time_value();
+}
+
+- (ZEB_Time_Value)time_value
+{
+    return time;
+}
+
+- (void)set_time_value:(uint64_t)second nanosecond:(uint64_t)nanosecond
+{
+    time = {second, nanosecond};
+}
+
+- (uint8_t)is_equal_to:(ZEB_Time_Stamp *)other
+{
+    return other != nil && time.second == other->time.second && time.nanosecond == other->time.nanosecond;
+}
+
+- (void)send_to_stream:(ZEB_Stream *)stream
+{
+    [stream write_unsigned_long:time.second];
+    [stream write_bytes:"." length:1];
+    [stream write_unsigned_long_with_format:time.nanosecond format:"%09lu"];
+}
+
+- (void)send_text_to_stream:(ZEB_Stream *)stream
+{
+    [self send_to_stream:stream];
+}
+
+- (void)send_contents_to_stream:(ZEB_Stream *)stream
+{
+    [self send_to_stream:stream];
+}
+
+@end

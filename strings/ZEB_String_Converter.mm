@@ -1,0 +1,78 @@
+#import <Korvane_ZEB/ZEB_String_Converter.h>
+
+#import <Korvane_ZEB/ZEB_NSString_Conversion.h>
+#import <Korvane_ZEB/ZEB_String_Text.h>
+
+#import "strings/ZEB_NSString_Conversion_Private.h"
+#import "strings/ZEB_Text_Private.h"
+
+#include "core/engine/notice.hpp"
+#include "strings/engine/transcoding.hpp"
+
+namespace
+{
+
+/// Encodes well-formed text without the platform; answers false, and has done nothing that counts, for
+/// any other.
+bool encode_directly(ZEB_String *target, ZEB_Wide_Char_Vector *wide)
+{
+    return zeb::set_to_utf8_of_utf16(
+        zeb::storage_of_array(target), zeb::text_of(wide),
+        zeb::Fix_Report { target, @selector(set_chars:count:) });
+}
+
+void convert(ZEB_String *target, ZEB_Wide_Char_Vector *wide, ZEB_Encoding_Type type)
+{
+    if (target == nil)
+        return;
+    if (zeb::text_of(wide).empty())
+        [target clear];
+    else if (!zeb::is_utf8(type) || !encode_directly(target, wide))
+        [target set_from_NSString:[wide NSString_value] type:type];
+}
+
+} // namespace
+
+@implementation ZEB_String_Converter
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return zeb::proprietary_software_notice;
+}
+
+- (ZEB_String *)target
+{
+    return target;
+}
+
+- (void)set_target:(ZEB_String *)string
+{
+    target = string;
+}
+
+- (void)set_from_wide_string:(ZEB_Wide_Char_Vector *)wide
+{
+    convert(target, wide, ZEB_ENCODING_UTF8);
+}
+
+- (void)copy_wide_string:(ZEB_Wide_Char_Vector *)wide
+{
+    convert(target, wide, ZEB_ENCODING_UTF8);
+}
+
+- (void)set_from_wide_string_with_encoding_type:(ZEB_Wide_Char_Vector *)wide type:(ZEB_Encoding_Type)type
+{
+    convert(target, wide, type);
+}
+
+- (void)copy_c_string:(const char *)bytes length:(uint32_t)length
+{
+    [target copy_c_string:bytes length:length];
+}
+
+- (void)set_contents_of_array:(ZEB_Char_Vector *)other
+{
+    [target set_contents_of_array:other];
+}
+
+@end

@@ -1,0 +1,86 @@
+/// Classes of 8-bit characters, and their case, as the C library knows them in the current locale.
+#pragma once
+
+#include <cctype>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+
+namespace zeb
+{
+
+/// The library is asked with the character as a signed value. Byte 255 is then the end-of-file code,
+/// which is in no class; the others below 0 stand for the same bytes as 256 more.
+inline int class_code(char character) noexcept
+{
+    const int code = static_cast<signed char>(character);
+    return code == EOF ? EOF : static_cast<unsigned char>(character);
+}
+
+inline bool is_space(char character) noexcept { return std::isspace(class_code(character)) != 0; }
+
+/// Turns capitals into their small letters, by the locale that is current when it is made: for the length
+/// of one operation.
+class Case_Folding
+{
+public:
+    char operator()(char character) const noexcept
+    {
+        const int code = class_code(character);
+        return is_upper(code) ? static_cast<char>(to_lower(code)) : character;
+    }
+
+    /// True when the 26 letters fold among themselves as they do in ASCII.
+    bool folds_ascii_letters_plainly() const noexcept
+    {
+        return are_upper('A') && become_a_to_z('A') && become_a_to_z('a');
+    }
+
+private:
+#if defined(__GLIBC__)
+    // The tables behind the library's functions: a comparison asks them for every character.
+    bool is_upper(int code) const noexcept { return (classes[code] & _ISupper) != 0; }
+    int to_lower(int code) const noexcept { return small_letters[code]; }
+    bool are_upper(int first) const noexcept
+    {
+        std::uint64_t common = ~std::uint64_t{0};
+        for (int i = 0; i < 26; i += 4) {
+            std::uint64_t four; // the last begins two sooner
+            std::memcpy(&four, classes + first + (i < 24 ? i : 22), sizeof four);
+            common &= four;
+        }
+        constexpr std::uint64_t wanted = std::uint64_t{_ISupper} * 0x0001000100010001;
+        return (common & wanted) == wanted;
+    }
+    bool become_a_to_z(int first) const noexcept
+    {
+        static constexpr __int32_t letters[] = {'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i',
+                                                'j', 'k', 'l', 'm', 'n', 'o', 'p', 'q', 'r',
+                                                's', 't', 'u', 'v', 'w', 'x', 'y', 'z'};
+        return std::memcmp(small_letters + first, letters, sizeof letters) == 0;
+    }
+
+    const unsigned short *classes = *__ctype_b_loc();
+    const __int32_t *small_letters = *__ctype_tolower_loc();
+#else
+    bool is_upper(int code) const noexcept { return std::isupper(code) != 0; }
+    int to_lower(int code) const noexcept { return std::tolower(code); }
+    /// Whether the 26 characters from `first` on are capitals, and whether their small letters are a to z.
+    bool are_upper(int first) const noexcept
+    {
+        for (int i = 0; i < 26; ++i)
+            if (!is_upper(first + i))
+                return false;
+        return true;
+    }
+    bool become_a_to_z(int first) const noexcept
+    {
+        for (int i = 0; i < 26; ++i)
+            if (to_lower(first + i) != 'a' + i)
+                return false;
+        return true;
+    }
+#endif
+};
+
+} // namespace zeb

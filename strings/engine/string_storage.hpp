@@ -1,0 +1,16 @@
+/// The storage of growable strings.
+#pragma once
+
+#include "arrays/engine/array_storage.hpp"
+#include "arrays/engine/element_kinds.hpp"
+
+namespace zeb
+{
+
+template <class Character>
+using Text_Storage = Array_Storage<Plain_Elements<Character>>;
+
+using Char_Storage = Text_Storage<char>;
+using Wide_Char_Storage = Text_Storage<std::uint32_t>;
+
+} // namespace zeb

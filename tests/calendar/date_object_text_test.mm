@@ -1,0 +1,134 @@
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#include "tests/reference/calendar_arithmetic.hpp"
+#include "tests/support/captured.hpp"
+#include "tests/support/diagnostic.hpp"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace
+{
+
+ZEB_String *string_of(const std::string &characters)
+{
+    return [[[ZEB_String alloc] init_as_copy_of_chars:characters.data()
+                                                count:static_cast<uint32_t>(characters.size())] autorelease];
+}
+
+std::string text_of(ZEB_String *string) { return {[string char_data], [string count]}; }
+
+ZEB_Date *date_of(ZEB_Gregorian_Date date, uint64_t second, uint64_t nanosecond)
+{
+    return [[[ZEB_Date alloc] init_with_date_and_time:date second:second nanosecond:nanosecond] autorelease];
+}
+
+/// 4 March 2021, 10:20:30.5, in a zone without summer time.
+class Date_Text : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        setenv("TZ", "UTC0", 1);
+        date = date_of({2021, 3, 4}, 37230, 500000000);
+    }
+    void TearDown() override { unsetenv("TZ"); }
+
+    ZEB_Date *date = nil;
+};
+
+} // namespace
+
+TEST_F(Date_Text, strftime_text_is_appended_by_either_format)
+{
+    ZEB_String *const string = string_of("on ");
+    [date append_strftime_text:string format:"%d.%m.%Y"];
+    [date append_strftime_text:string format:""];
+    [date append_strftime_text:string format:NULL];
+    EXPECT_EQ(text_of(string), "on 04.03.202103/04/2021 10:20:30");
+
+    ZEB_String *const pattern = string_of("%H:%M ");
+    [date append_strftime_text:pattern];
+    EXPECT_EQ(text_of(pattern), "%H:%M 10:20 ");
+    ZEB_String *const empty = string_of("");
+    [date append_strftime_text:empty];
+    EXPECT_EQ(text_of(empty), "");
+    [date append_strftime_text:nil];
+}
+
+TEST_F(Date_Text, slash_text_replaces_or_is_appended)
+{
+    ZEB_String *const string = string_of("before");
+    [date write_text:string];
+    [date append_text:string];
+    EXPECT_EQ(text_of(string), "3/4/2021 10:20:30.53/4/2021 10:20:30.5");
+    [date_of({2021, 3, 4}, 0, 500000000) write_text:string];
+    EXPECT_EQ(text_of(string), "3/4/2021 0.5");
+
+    ZEB_String *const link =
+        [[[ZEB_String alloc] init_as_link_to_char_vector:string range:ZEB_Index_Range{0, 1}] autorelease];
+    const auto refused = support::standard_error_of([&] { [date append_text:link]; });
+    EXPECT_EQ(refused, support::fix_line("append_c_string:length:", "ZEB_String",
+                                         "Cannot append c string through link, no append made."));
+}
+
+TEST_F(Date_Text, spaced_text_is_read_as_the_transcription_reads_it)
+{
+    const char *const texts[] = {"3/4/2021 10:20:30.5", " 13 / 32 / 1999", "2/29/1900 1:2", "", "x", "7",
+                                 "1/1/2000 -1:0:0"};
+    for (const char *const text : texts) {
+        [date assign_from_text:string_of(text)];
+        const zeb::Date_Time expected = reference::date_from_spaced_text(text);
+        EXPECT_EQ([date julian_day], expected.julian_day) << text;
+        EXPECT_EQ([date month], expected.date.month) << text;
+        EXPECT_EQ([date second], expected.time.second) << text;
+        EXPECT_EQ([date nanosecond], expected.time.nanosecond) << text;
+    }
+    [date assign_from_text:nil];
+    EXPECT_EQ([date year], reference::date_from_spaced_text("").date.year);
+}
+
+TEST_F(Date_Text, iso_8601_text_comes_back)
+{
+    ZEB_String *const string = string_of("");
+    [date append_iso8601_text:string];
+    [string append_char:'|'];
+    [date append_iso8601_date_text:string];
+    EXPECT_EQ(text_of(string), "2021-03-04T10:20:30.5|2021-03-04");
+
+    ZEB_Date *const read = date_of({1, 1, 1}, 1, 1);
+    EXPECT_EQ([read assign_from_iso8601_text:string_of("2021-02-29")], 0u);
+    EXPECT_EQ([read assign_from_iso8601_text:nil], 0u);
+    EXPECT_EQ([read year], 1);
+    EXPECT_EQ([read assign_from_iso8601_text:string], 21u);
+    EXPECT_TRUE([read isEqual:date]);
+
+    std::mt19937_64 random(8601);
+    for (int i = 0; i < 2000; ++i) {
+        ZEB_Date *const any =
+            date_of({static_cast<int>(random() % 9000), 1, static_cast<int>(random() % 400)},
+                    random() % 86400, random() % 1000000000);
+        ZEB_String *const text = string_of("");
+        [any append_iso8601_text:text];
+        ASSERT_EQ([read assign_from_iso8601_text:text], [text count]) << text_of(text);
+        ASSERT_TRUE([read isEqual:any]) << text_of(text);
+    }
+}
+
+TEST_F(Date_Text, a_stream_writes_it_by_its_own_date_format)
+{
+    ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
+    const auto written = support::standard_output_of([&] {
+        [stream write_object:date];
+        [stream set_date_format:"|%j|"];
+        [stream write_object_text:date];
+        [stream write_object_contents:date];
+        [stream set_date_format:""];
+        [stream write_object:date];
+        [stream set_date_format:NULL];
+        [stream write_object:date];
+    });
+    EXPECT_EQ(written, "03/04/2021 10:20:30|063||063|03/04/2021 10:20:30");
+    EXPECT_STREQ([[date description] UTF8String], "03/04/2021 10:20:30");
+}

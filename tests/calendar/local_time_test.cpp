@@ -1,0 +1,80 @@
+#include "calendar/engine/local_time.hpp"
+
+#include "tests/reference/calendar_arithmetic.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <limits>
+
+/// Local time in a zone of the test's choice.
+class Local_Time : public testing::Test
+{
+protected:
+    void SetUp() override { before = std::getenv("TZ") ? std::getenv("TZ") : ""; }
+    void TearDown() override { set_zone(before); }
+    static void set_zone(const std::string &zone)
+    {
+        if (zone.empty())
+            unsetenv("TZ");
+        else
+            setenv("TZ", zone.c_str(), 1);
+        tzset();
+    }
+
+private:
+    std::string before;
+};
+
+namespace
+{
+
+std::string formatted(const char *format, const zeb::Date_Time &value)
+{
+    char text[zeb::strftime_limit];
+    return {text, zeb::format_with_strftime(text, format, value)};
+}
+
+} // namespace
+
+TEST_F(Local_Time, the_zone_moves_the_clock_and_the_nanoseconds_stay)
+{
+    set_zone("AAA-3");
+    EXPECT_EQ(reference::slash_text(zeb::local_date_time(0, 5)), "1/1/1970 03:00:00.000000005");
+    setenv("TZ", "BBB5", 1); // noticed without a further call
+    const zeb::Date_Time value = zeb::local_date_time(0, 0);
+    EXPECT_EQ(reference::slash_text(value), "12/31/1969 19:00:00");
+    EXPECT_EQ(value.julian_day, 2440587);
+    // No year of the platform's reaches so far.
+    EXPECT_EQ(zeb::local_date_time(std::numeric_limits<std::time_t>::max(), 1).date.year, -4713);
+}
+
+TEST_F(Local_Time, now_lies_between_two_readings_of_the_clock)
+{
+    set_zone("AAA-3");
+    const zeb::Date_Time first = zeb::local_date_time(std::time(nullptr), 0);
+    const ZEB_Time_Value stamp = zeb::current_time_value();
+    zeb::Date_Time now = zeb::current_local_date_time();
+    EXPECT_LT(now.time.nanosecond, 1000000000U);
+    now.time.nanosecond = 0;
+    const zeb::Date_Time last = zeb::local_date_time(std::time(nullptr), 0);
+    EXPECT_TRUE(zeb::is_at_or_before(first, now) && zeb::is_at_or_before(now, last));
+    EXPECT_LT(stamp.nanosecond, 1000000000U);
+    EXPECT_EQ(stamp.nanosecond % 1000, 0U);
+    EXPECT_NEAR(static_cast<double>(stamp.second) + 3 * 3600, zeb::seconds_since_1970(last), 60.0);
+}
+
+TEST_F(Local_Time, strftime_text_is_completed_by_the_platform)
+{
+    set_zone("UTC0");
+    const zeb::Date_Time date = zeb::make_date_time({2021, 3, 4}, 37230, 0);
+    EXPECT_EQ(formatted("%Y-%m-%d %H:%M:%S %A %j", date), "2021-03-04 10:20:30 Thursday 063");
+    EXPECT_EQ(formatted("%d.%m.%Y", zeb::make_date_time({2021, 2, 31}, 0, 0)),
+              "03.03.2021"); // brought into range
+    EXPECT_EQ(formatted("%d %H", zeb::make_date_time({2021, 2, 1}, 90000, 0)), "02 01");
+    EXPECT_EQ(formatted("", date), "");
+    EXPECT_EQ(formatted(std::string(2047, 'x').c_str(), date).size(), 2047U);
+    EXPECT_EQ(formatted(std::string(2048, 'x').c_str(), date), ""); // does not fit
+    // Fields beyond the platform's years are formatted as they stand and break nothing.
+    formatted("%c", zeb::make_date_time({INT32_MIN, INT32_MIN, INT32_MIN}, UINT64_MAX, 0));
+}

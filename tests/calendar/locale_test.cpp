@@ -1,0 +1,125 @@
+#include "calendar/ZEB_Calendar_Functions.h"
+#include "calendar/ZEB_Number_Functions.h"
+#include "calendar/engine/date_text.hpp"
+#include "calendar/engine/number_format.hpp"
+#include "tests/reference/calendar.hpp"
+#include "tests/reference/number_scanning.hpp"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+/// What a locale with a decimal comma changes, and what it leaves alone.
+class Comma_Locale : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        for (const char *name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE.utf8", "fr_FR"})
+            if (std::setlocale(LC_NUMERIC, name) && *std::localeconv()->decimal_point == ',')
+                return;
+        if (!make_locale())
+            GTEST_SKIP() << "no locale with a decimal comma on this machine";
+    }
+    void TearDown() override
+    {
+        std::setlocale(LC_NUMERIC, "C");
+        unsetenv("LOCPATH");
+    }
+
+private:
+    /// Where none is installed the system's own compiler of locales may make one.
+    static bool make_locale()
+    {
+        const std::string folder = testing::TempDir() + "zeb_locales";
+        const std::string command = "mkdir -p '" + folder + "' && { test -d '" + folder +
+                                    "/de_DE.UTF-8' || localedef -i de_DE -f UTF-8 '" + folder +
+                                    "/de_DE.UTF-8'; } >/dev/null 2>&1";
+        if (std::system(command.c_str()) != 0)
+            return false;
+        setenv("LOCPATH", folder.c_str(), 1);
+        return std::setlocale(LC_NUMERIC, "de_DE.UTF-8") && *std::localeconv()->decimal_point == ',';
+    }
+};
+
+namespace
+{
+
+/// One text of every writer.
+std::vector<std::string> all_texts(double x)
+{
+    char buffer[128];
+    char *const start = buffer;
+    zeb::Number_Format_Result result{};
+    const zeb::Scientific_Rules rules{3, 1.5, 1.0};
+    const zeb::Date_Time date = zeb::make_date_time({2000, 1, 1}, 5, 250000000);
+    const std::function<char *()> writers[] = {
+        [&] { return ZC_pretty_format_double(buffer, x); },
+        [&] { return ZC_pretty_format_float(buffer, static_cast<float>(x)); },
+        [&] { return ZC_format_fixed_double(buffer, 3, x); },
+        [&] { return ZC_format_fraction_double(buffer, 3, x); },
+        [&] { return ZC_format_fixed_float(buffer, 3, static_cast<float>(x)); },
+        [&] { return ZC_format_scientific_double(buffer, 3, nullptr, nullptr, x, 1.5, 1.0); },
+        [&] { return zeb::format_value(buffer, rules, x, result); },
+        [&] { return zeb::format_fixed(buffer, 5, x, result); },
+        [&] { return ZC_pretty_format_gregorian_date_from_seconds(buffer, x); },
+        [&] { return zeb::write_slash_text(buffer, date); },
+        [&] { return ZC_format_iso8601_from_seconds(buffer, x); },
+    };
+    std::vector<std::string> texts;
+    for (const auto &writer : writers)
+        texts.emplace_back(start, writer());
+    return texts;
+}
+
+} // namespace
+
+TEST_F(Comma_Locale, writers_know_no_locale)
+{
+    for (const double x :
+         {0.5, -1234.5678, 1.5e-7, 1.000000000000005e18 /* a tie, left to the C library */, 1e300}) {
+        const std::vector<std::string> with_comma = all_texts(x);
+        const std::string locale = std::setlocale(LC_NUMERIC, nullptr);
+        std::setlocale(LC_NUMERIC, "C");
+        EXPECT_EQ(with_comma, all_texts(x));
+        std::setlocale(LC_NUMERIC, locale.c_str());
+    }
+}
+
+TEST_F(Comma_Locale, real_scanners_follow_the_c_library)
+{
+    double value = 0;
+    EXPECT_EQ(ZC_assign_double_from_char_c_array("1,5", 3, &value), 3U);
+    EXPECT_EQ(value, 1.5);
+    EXPECT_EQ(ZC_assign_double_from_char_c_array("1.5", 3, &value), 1U);
+    float single = 0;
+    EXPECT_EQ(ZC_assign_float_from_char_c_array("-2,25.", 6, &single), 5U);
+    EXPECT_EQ(single, -2.25F);
+    for (const std::string text : {"12", ",5", "1e5,5", "1,5e2x", ".5", "0x1,8p1"}) {
+        double expected = -7;
+        value = -7;
+        EXPECT_EQ(
+            ZC_assign_double_from_char_c_array(text.data(), static_cast<std::uint32_t>(text.size()), &value),
+            reference::scan_double(text, &expected));
+        EXPECT_EQ(value, expected) << text;
+    }
+}
+
+TEST_F(Comma_Locale, only_the_seconds_of_a_scanned_date_follow_the_c_library)
+{
+    for (const std::string text : {"1/2/2000 3:4:5,5", "1/2/2000 3:4:5.5", "1/2/2000 3:4:5", "1/2/2000,5"}) {
+        double seconds = -7, expected = -7;
+        const std::uint32_t length = static_cast<std::uint32_t>(text.size());
+        EXPECT_EQ(ZC_assign_seconds_from_gregorian_date_char_c_array(text.data(), length, &seconds),
+                  reference::assign_seconds(text.data(), length, &expected))
+            << text;
+        EXPECT_EQ(seconds, expected) << text;
+    }
+    EXPECT_EQ(zeb::read_spaced_text("1/2/2000 3:4:5.6", 16).time.nanosecond, 6U);
+    double seconds = 0;
+    EXPECT_EQ(ZC_assign_seconds_from_iso8601_char_c_array("1970-01-01T00:00:01.5", 21, &seconds), 21U);
+    EXPECT_EQ(seconds, 1.5);
+}

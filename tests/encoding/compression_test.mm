@@ -1,0 +1,87 @@
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#include "tests/support/captured.hpp"
+#include "tests/support/diagnostic.hpp"
+
+#include <gtest/gtest.h>
+
+using support::fix_line;
+using support::standard_error_of;
+
+namespace
+{
+
+ZEB_String *text(const std::string &characters)
+{
+    return [[[ZEB_String alloc] init_as_copy_of_chars:characters.data()
+                                                count:static_cast<uint32_t>(characters.size())] autorelease];
+}
+
+ZEB_Byte_Array *bytes(const std::string &characters)
+{
+    return [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
+                                                    count:static_cast<uint32_t>(characters.size())] autorelease];
+}
+
+const std::string contents = std::string(40000, 'x') + "tail";
+
+} // namespace
+
+TEST(Compression, every_pair_of_containers_takes_and_gives_the_same)
+{
+    ZEB_String *const as_text = text("");
+    ZEB_Byte_Array *const as_bytes = bytes("");
+    ZEB_Byte_Array *const from_text = bytes("");
+    EXPECT_EQ(ZC_compress_string_to_string(text(contents), as_text), 0);
+    EXPECT_EQ(ZC_compress_bytes_to_bytes(bytes(contents), as_bytes), 0);
+    EXPECT_EQ(ZC_compress_string_to_bytes(text(contents), from_text), 0);
+    EXPECT_TRUE([as_bytes isEqual:from_text]);
+
+    ZEB_String *const out = text("kept ");
+    EXPECT_EQ(ZC_decompress_string_to_string(as_text, out, 0), 0);
+    EXPECT_TRUE([out isEqual:text("kept " + contents)]);
+    [as_bytes insert_byte:9 at_index:0];
+    ZEB_String *const behind = text("");
+    EXPECT_EQ(ZC_decompress_bytes_to_string(as_bytes, behind, 1), 0);
+    EXPECT_TRUE([behind isEqual:text(contents)]);
+    ZEB_Byte_Array *const plain = bytes("");
+    EXPECT_EQ(ZC_decompress_bytes_to_bytes(from_text, plain), 0);
+    EXPECT_TRUE([plain isEqual:bytes(contents)]);
+    // A container may be its own destination.
+    EXPECT_EQ(ZC_decompress_bytes_to_bytes(from_text, from_text), 0);
+    EXPECT_EQ([from_text count], [as_bytes count] - 1 + contents.size());
+}
+
+TEST(Compression, nothing_gives_nothing)
+{
+    ZEB_String *const out = text("kept");
+    EXPECT_EQ(ZC_compress_string_to_string(text(""), out), 0);
+    EXPECT_EQ(ZC_decompress_string_to_string(text("abc"), out, 3), 0);
+    EXPECT_EQ(ZC_decompress_bytes_to_string(bytes("abc"), out, 4), 0);
+    EXPECT_TRUE([out isEqual:text("kept")]);
+}
+
+TEST(Compression, a_link_refuses_once_and_before_anything_is_done)
+{
+    ZEB_String *const owner = text("abc");
+    ZEB_String *const link = [ZEB_String link_to_chars:[owner char_data] count:3];
+    int32_t status = 0;
+    EXPECT_EQ(standard_error_of([&] { status = ZC_compress_string_to_string(text(contents), link); }),
+              fix_line("append_chars:count:", "ZEB_String", "Cannot append array through link, no append made."));
+    EXPECT_EQ(status, -1);
+    EXPECT_EQ([link count], 3u);
+}
+
+TEST(Compression, tells_the_known_states)
+{
+    const struct {
+        int32_t status;
+        const char *line;
+    } rows[] = {
+        {-6, "zlib version mismatch.\n"}, {-5, ""}, {-4, "out of memory.\n"},
+        {-3, "invalid or incomplete deflate data.\n"}, {-2, "invalid compression level.\n"},
+        {-1, "General error.\n"}, {0, ""}, {1, ""}, {-7, ""},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(standard_error_of([&] { print_zlib_error(row.status); }), std::string("zlib error: ") + row.line);
+}

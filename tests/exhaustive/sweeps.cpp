@@ -1,0 +1,162 @@
+#include "tests/exhaustive/sweeps.hpp"
+
+#include "calendar/ZEB_Calendar_Functions.h"
+#include "calendar/ZEB_Number_Functions.h"
+#include "tests/reference/calendar.hpp"
+#include "tests/reference/number_text.hpp"
+
+#include <cmath>
+#include <cstring>
+
+namespace sweeps
+{
+namespace
+{
+
+constexpr std::uint64_t all_32_bit_values = std::uint64_t{1} << 32;
+
+// A well mixed number out of a counter.
+std::uint64_t mixed(std::uint64_t value)
+{
+    value += 0x9E3779B97F4A7C15;
+    value = (value ^ value >> 30) * 0xBF58476D1CE4E5B9;
+    value = (value ^ value >> 27) * 0x94D049BB133111EB;
+    return value ^ value >> 31;
+}
+
+bool same(ZEB_Gregorian_Date a, ZEB_Gregorian_Date b)
+{
+    return a.year == b.year && a.month == b.month && a.day == b.day;
+}
+
+std::string date_of_day(std::uint64_t index)
+{
+    const std::int32_t day = static_cast<std::int32_t>(static_cast<std::uint32_t>(index));
+    if (same(ZC_map_julian_day_to_gregorian_date(day), reference::date_from_julian_day(day)))
+        return "";
+    return "day " + std::to_string(day);
+}
+
+// Days -1 to 33 of the months -20 to 33 of the years -9999 to 9999.
+constexpr std::uint64_t swept_days = 35, swept_months = 54, swept_years = 19999;
+
+std::string day_of_date(std::uint64_t index)
+{
+    const ZEB_Gregorian_Date date{static_cast<std::int32_t>(index / swept_days / swept_months) - 9999,
+                                  static_cast<std::int32_t>(index / swept_days % swept_months) - 20,
+                                  static_cast<std::int32_t>(index % swept_days) - 1};
+    if (ZC_map_gregorian_date_to_julian_day(date) == reference::julian_day(date))
+        return "";
+    return std::to_string(date.year) + "-" + std::to_string(date.month) + "-" + std::to_string(date.day);
+}
+
+// The text, its end, and an untouched byte after it.
+template <typename Writer, typename Value>
+bool writes(Writer writer, Value value, const char *expected, std::size_t length)
+{
+    char text[40];
+    std::memset(text, '#', sizeof text);
+    return writer(text, value) == text + length && std::memcmp(text, expected, length + 1) == 0 &&
+           text[length + 1] == '#';
+}
+
+std::string unsigned_text(std::uint64_t index)
+{
+    const std::uint32_t value = static_cast<std::uint32_t>(index);
+    char expected[16];
+    const char *end = reference::unsigned_digits(expected, value);
+    if (writes(ZC_pretty_format_unsigned, value, expected, static_cast<std::size_t>(end - expected)))
+        return "";
+    return std::to_string(value);
+}
+
+std::string float_text(std::uint64_t index)
+{
+    const std::uint32_t bits = static_cast<std::uint32_t>(index);
+    float value;
+    std::memcpy(&value, &bits, sizeof value);
+    const std::string expected = reference::pretty_float(value);
+    if (writes(ZC_pretty_format_float, value, expected.c_str(), expected.size()))
+        return "";
+    return "float with bits " + std::to_string(bits) + ", expected " + expected;
+}
+
+double random_bits(std::uint64_t random)
+{
+    double value;
+    std::memcpy(&value, &random, sizeof value);
+    return value;
+}
+
+// Up to three steps in either direction.
+double step_around(double value, std::uint64_t random)
+{
+    const double direction = random & 4 ? INFINITY : -INFINITY;
+    for (std::uint64_t i = random & 3; i > 0; --i)
+        value = std::nextafter(value, direction);
+    return value;
+}
+
+// Doubles dense where a writer could go wrong, one kind after the other.
+double double_at(std::uint64_t index)
+{
+    const std::uint64_t random = mixed(index), more = mixed(random);
+    const double unit = static_cast<double>(random >> 11) * 0x1p-53; // 0 to below 1
+    const double whole = static_cast<double>(random >> (11 + more % 53));
+    switch (index % 8) {
+    case 0:
+        return random_bits(random);
+    case 1:
+        return std::pow(10.0, unit * 10.0 - 4.0);
+    case 2:
+        return step_around(std::pow(10.0, static_cast<double>(random % 633) - 324.0), more);
+    case 3:
+        return step_around(random & 8 ? 1.0 : 0.0001, more) * (random & 16 ? 1.0 : 1.0 + unit * 1e-9);
+    case 4: // half a unit of the last decimal
+        return step_around((std::floor(unit * 1e9) + 0.5) / std::pow(10.0, static_cast<double>(7 + more % 6)),
+                           more >> 8);
+    case 5: // half a unit of the 15th digit, exact
+        return (std::floor(1e14 + unit * 8e14) + 0.5) * std::pow(10.0, static_cast<double>(more % 3));
+    case 6:
+        return step_around(whole * std::pow(10.0, static_cast<double>(more % 40) - 20.0), more >> 8);
+    default:
+        return whole / static_cast<double>(std::uint64_t{1} << more % 60);
+    }
+}
+
+std::string double_text(std::uint64_t index)
+{
+    const double value = mixed(~index) & 1 ? double_at(index) : -double_at(index);
+    const std::string expected = reference::pretty_double(value);
+    if (writes(ZC_pretty_format_double, value, expected.c_str(), expected.size()))
+        return "";
+    char text[40];
+    std::snprintf(text, sizeof text, "%.17g", value);
+    return std::string(text) + ", expected " + expected;
+}
+
+} // namespace
+
+const std::vector<Sweep> &all_sweeps()
+{
+    static const std::vector<Sweep> sweeps{
+        {"date_of_day", all_32_bit_values, date_of_day},
+        {"day_of_date", swept_days * swept_months * swept_years, day_of_date},
+        {"unsigned_text", all_32_bit_values, unsigned_text},
+        {"float_text", all_32_bit_values, float_text},
+        {"double_text", 128000000, double_text},
+    };
+    return sweeps;
+}
+
+std::string first_difference(const Sweep &sweep, std::uint64_t first, std::uint64_t last)
+{
+    for (std::uint64_t index = first; index < last; ++index) {
+        std::string difference = sweep.difference(index);
+        if (!difference.empty())
+            return difference;
+    }
+    return "";
+}
+
+} // namespace sweeps

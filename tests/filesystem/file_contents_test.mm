@@ -1,0 +1,139 @@
+#include "tests/support/captured.hpp"
+#include "tests/support/files.hpp"
+#include "tests/support/scratch_folder.hpp"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace support;
+
+namespace
+{
+
+ZEB_Byte_Array *bytes(const std::string &characters)
+{
+    return [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
+                                                    count:static_cast<uint32_t>(characters.size())] autorelease];
+}
+
+std::string text_of_bytes(ZEB_Byte_Vector *vector)
+{
+    return {reinterpret_cast<const char *>([vector byte_data]), [vector count]};
+}
+
+} // namespace
+
+class File_Contents : public testing::Test
+{
+protected:
+    Scratch_Folder folder;
+    const std::string path = folder / "data";
+};
+
+TEST_F(File_Contents, are_written_and_read_as_they_are_or_compressed)
+{
+    const std::string contents = std::string(50000, 'a') + '\0' + "end";
+    for (const int compressed : {0, 1}) {
+        ZEB_File *file = entry(path);
+        [file set_contents_compressed:compressed];
+        ASSERT_EQ([file write_contents:contents.data() length:static_cast<uint32_t>(contents.size())], 1u);
+        EXPECT_EQ(file_text(path).size() < 1000, compressed == 1);
+        [file refresh_status];
+        ZEB_Byte_Array *const back = bytes("what was there goes");
+        [file read_contents:back];
+        EXPECT_EQ(text_of_bytes(back), contents);
+        [back clear];
+        [file load_contents:back];
+        EXPECT_EQ(text_of_bytes(back), contents);
+    }
+}
+
+TEST_F(File_Contents, failures_to_read_are_told_and_leave_nothing)
+{
+    put_file(folder / "empty", "");
+    put_file(folder / "plain", "not a zlib stream");
+    const auto read = [&](ZEB_File *file) {
+        ZEB_Byte_Array *const target = bytes("old");
+        const std::string line = standard_error_of([&] { [file read_contents:target]; });
+        EXPECT_EQ([target count], 0u);
+        return line;
+    };
+    EXPECT_EQ(read(entry(path)), "Error opening file: " + path + "\n");
+    EXPECT_EQ(read(entry(folder / "empty")), "Error, zero content size for file: " + (folder / "empty") + "\n");
+    EXPECT_EQ(read(entry(folder.path)), "Error reading contents of file: " + folder.path + "\n");
+    ZEB_File *const plain = entry(folder / "plain");
+    [plain set_contents_compressed:1];
+    EXPECT_EQ(read(plain), "Error: Decompress failed while reading contents of file: " + (folder / "plain") + "\n");
+    [plain set_report_errors:0];
+    EXPECT_EQ(read(plain), "");
+}
+
+TEST_F(File_Contents, a_file_that_shrank_is_told_and_reads_as_zero_behind_its_end)
+{
+    put_file(path, "twelve bytes");
+    ZEB_File *const file = entry(path);
+    put_file(path, "six by");
+    ZEB_Byte_Array *const target = bytes("");
+    EXPECT_EQ(standard_error_of([&] { [file read_contents:target]; }),
+              "Warning: Discrepancy in actual length read 6 v.s. content size 12 while reading contents of file: " +
+                  path + "\n");
+    EXPECT_EQ(text_of_bytes(target), std::string("six by") + std::string(6, '\0'));
+}
+
+TEST_F(File_Contents, failures_to_write_are_told)
+{
+    const std::string nowhere = folder / "missing/data";
+    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([entry(nowhere) write_contents:"x" length:1], 0u); }),
+              "Error opening file: " + nowhere + "\n");
+    if (access("/dev/full", W_OK) == 0) {
+        EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([entry("/dev/full") write_contents:"x" length:1], 0u); }),
+                  "Error writing contents to file: /dev/full\n");
+    }
+    // A path with a null inside is no path of the platform's.
+    EXPECT_EQ(standard_error_of([&] {
+                  EXPECT_EQ([entry(path + std::string("\0x", 2)) write_contents:"x" length:1], 0u);
+              }),
+              "Error opening file: " + path + std::string("\0x", 2) + "\n");
+    EXPECT_EQ(access(path.c_str(), F_OK), -1);
+}
+
+TEST_F(File_Contents, backstore_sets_aside_and_restore_brings_back)
+{
+    put_file(path, "first");
+    put_file(path + "~", "older");
+    ZEB_File *const file = entry(path);
+    [file set_log_actions:1];
+    EXPECT_EQ(standard_output_of([&] { EXPECT_EQ([file backstore], 1u); }), "Backstored file: " + path + "\n");
+    EXPECT_EQ(text_of([file path]), path + std::string("~\0", 2));
+    EXPECT_EQ(file_text(path + "~"), "first");
+    [file refresh_status];
+    EXPECT_EQ([file exists], 1);
+    EXPECT_EQ([file size], 5u);
+
+    ZEB_File *const own = entry(path);
+    [own set_log_actions:1];
+    EXPECT_EQ(standard_output_of([&] { EXPECT_EQ([own restore], 1u); }), "Restored file: " + path + "\n");
+    EXPECT_EQ(file_text(path), "first");
+    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([own restore], 0u); }), "Error restoring file: " + path + "\n");
+    EXPECT_EQ(text_of([own path]), path);
+    const std::string missing = folder / "missing";
+    ZEB_File *const none = entry(missing);
+    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([none backstore], 0u); }),
+              "Error backstoring file: " + missing + "\n");
+    EXPECT_EQ(text_of([none path]), missing);
+}
+
+TEST_F(File_Contents, paths_may_be_longer_than_a_thousand_bytes)
+{
+    std::string deep = folder.path;
+    for (int i = 0; i < 12; ++i) {
+        deep += "/" + std::string(120, 'd');
+        ASSERT_EQ(mkdir(deep.c_str(), 0700), 0);
+    }
+    ZEB_File *const file = entry(deep + "/file");
+    EXPECT_EQ([file write_contents:"x" length:1], 1u);
+    EXPECT_EQ([file backstore], 1u);
+    EXPECT_EQ(file_text(deep + "/file~"), "x");
+}

@@ -1,0 +1,70 @@
+#include "tests/support/files.hpp"
+#include "tests/support/scratch_folder.hpp"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace support;
+
+TEST(File_Status, is_what_the_platform_says)
+{
+    const Scratch_Folder folder;
+    const std::string path = folder / "file";
+    put_file(path, "12345");
+    chmod(path.c_str(), 0751);
+    symlink(path.c_str(), (folder / "link").c_str());
+    struct stat found;
+    ASSERT_EQ(stat(path.c_str(), &found), 0);
+    for (ZEB_File *const file : {entry(path), entry(folder / "link")}) {
+        EXPECT_EQ([file exists], 1);
+        EXPECT_EQ([file kind], ZEB_File_Kind{ZEB_FILE_KIND_REGULAR});
+        EXPECT_EQ([file size], 5u);
+        const uint8_t bits[] = {[file owner_read],  [file owner_write],  [file owner_execute],
+                                [file group_read],  [file group_write],  [file group_execute],
+                                [file other_read],  [file other_write],  [file other_execute]};
+        unsigned mode = 0;
+        for (const uint8_t bit : bits)
+            mode = mode * 2 + bit;
+        EXPECT_EQ(mode, 0751u);
+        EXPECT_EQ([file modification_time].second, static_cast<uint64_t>(found.st_mtime));
+        EXPECT_EQ([file access_time].second, static_cast<uint64_t>(found.st_atime));
+        EXPECT_EQ([file status_change_time].second, static_cast<uint64_t>(found.st_ctime));
+        EXPECT_EQ([file uid], found.st_uid);
+        EXPECT_EQ([file can_read] + [file can_write] + [file can_execute], 3);
+    }
+    EXPECT_EQ([entry(folder.path) kind], ZEB_File_Kind{ZEB_FILE_KIND_DIRECTORY});
+    EXPECT_EQ([entry("/dev/null") kind], ZEB_File_Kind{ZEB_FILE_KIND_OTHER});
+}
+
+TEST(File_Status, of_nothing_clears_existence_and_size_alone)
+{
+    const Scratch_Folder folder;
+    const std::string path = folder / "file";
+    put_file(path, "12345");
+    ZEB_File *const file = entry(path);
+    unlink(path.c_str());
+    EXPECT_EQ([file refresh_status], 1u);
+    EXPECT_EQ([file exists], 0);
+    EXPECT_EQ([file size], 0u);
+    EXPECT_EQ([file kind], ZEB_File_Kind{ZEB_FILE_KIND_REGULAR});
+}
+
+TEST(File_Status, details_are_loaded_when_wanted)
+{
+    const Scratch_Folder folder;
+    put_file(folder / "file", "1");
+    chmod((folder / "file").c_str(), 0777);
+    ZEB_File *const file = [[[ZEB_File alloc] init] autorelease];
+    [file set_load_details:0];
+    [file set_path:text(folder / "file")];
+    [file refresh_status];
+    EXPECT_EQ([file size], 1u);
+    EXPECT_EQ([file other_execute], 0);
+    EXPECT_EQ([file uid], getuid());
+    ZEB_File *const copied = [[file copy] autorelease];
+    EXPECT_EQ([copied size], 1u);
+    EXPECT_EQ([copied load_details], 0);
+    EXPECT_EQ(text_of([copied path]), folder / "file");
+}

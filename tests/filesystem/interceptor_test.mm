@@ -1,0 +1,132 @@
+#include "tests/support/captured.hpp"
+#include "tests/support/files.hpp"
+#include "tests/support/scratch_folder.hpp"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+#include <vector>
+
+using namespace support;
+
+/// Decides always the same, and answers 1 when it acts.
+@interface Recording_Interceptor : ZEB_Object <ZEB_File_Interceptor> {
+@public
+    uint32_t decision;
+    std::vector<uint32_t> *asked;
+    uint32_t acted;
+}
+@end
+
+@implementation Recording_Interceptor
+
+- (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file
+{
+    (void)file;
+    asked->push_back(action);
+    return decision;
+}
+
+#define ACT(signature)                                                                                     \
+    -(uint32_t)signature                                                                                   \
+    {                                                                                                      \
+        return ++acted;                                                                                    \
+    }
+
+ACT(intercept_refresh_status : (ZEB_File *)file)
+ACT(intercept_create_file : (ZEB_File *)file)
+ACT(intercept_create_directory : (ZEB_File *)file)
+ACT(intercept_create_parent_directories : (ZEB_File *)file)
+ACT(intercept_remove : (ZEB_File *)file)
+ACT(intercept_read_contents : (ZEB_File *)file destination : (ZEB_Byte_Array *)destination)
+ACT(intercept_write_contents : (ZEB_File *)file bytes : (const void *)bytes length : (uint32_t)length)
+ACT(intercept_copy_to : (ZEB_File *)file destination : (ZEB_String *)destination)
+ACT(intercept_move_to : (ZEB_File *)file destination : (ZEB_String *)destination)
+ACT(intercept_backstore : (ZEB_File *)file)
+
+@end
+
+namespace
+{
+
+struct Outcome {
+    uint32_t refreshed, written, backstored;
+    uint32_t acted;
+    std::string contents, read, path;
+};
+
+/// Refreshes, writes, reads and backstores an entry under one decision.
+Outcome outcome_of(uint32_t decision)
+{
+    const Scratch_Folder folder;
+    const std::string path = folder / "file";
+    put_file(path, "old");
+    std::vector<uint32_t> asked;
+    Recording_Interceptor *const interceptor = [[[Recording_Interceptor alloc] init] autorelease];
+    interceptor->decision = decision;
+    interceptor->asked = &asked;
+    ZEB_File *const file = entry(path);
+    [file set_interceptor:interceptor];
+    ZEB_Byte_Array *const target = [ZEB_Byte_Array array_with_capacity:0];
+    [target append_byte:'k'];
+    Outcome outcome;
+    outcome.refreshed = [file refresh_status];
+    interceptor->acted = 0;
+    outcome.written = [file write_contents:"new" length:3];
+    outcome.contents = file_text(path);
+    interceptor->acted = 0;
+    [file read_contents:target];
+    outcome.read = std::string(reinterpret_cast<const char *>([target byte_data]), [target count]);
+    interceptor->acted = 0;
+    outcome.backstored = [file backstore];
+    outcome.acted = interceptor->acted;
+    outcome.path = text_of([file path]).substr(path.size());
+    EXPECT_EQ(asked, (std::vector<uint32_t>{ZEB_FILE_REFRESH_STATUS, ZEB_FILE_WRITE_CONTENTS,
+                                            ZEB_FILE_READ_CONTENTS, ZEB_FILE_BACKSTORE}));
+    return outcome;
+}
+
+const std::string suffix("~\0", 2);
+
+} // namespace
+
+TEST(Interceptor, code_0_refuses)
+{
+    const Outcome outcome = outcome_of(0);
+    EXPECT_EQ(outcome.refreshed + outcome.written + outcome.backstored + outcome.acted, 0u);
+    EXPECT_EQ(outcome.contents, "old");
+    EXPECT_EQ(outcome.read, "k");
+    EXPECT_EQ(outcome.path, "");
+}
+
+TEST(Interceptor, code_2_acts_in_the_entry_s_place)
+{
+    const Outcome outcome = outcome_of(2);
+    EXPECT_EQ(outcome.refreshed, 1u);
+    EXPECT_EQ(outcome.written, 1u);
+    EXPECT_EQ(outcome.contents, "old");
+    EXPECT_EQ(outcome.read, "k");
+    EXPECT_EQ(outcome.acted, 1u);
+    EXPECT_EQ(outcome.backstored, 1u);
+    EXPECT_EQ(outcome.path, suffix);
+}
+
+TEST(Interceptor, code_3_acts_and_lets_the_entry_act_but_for_refresh_and_read)
+{
+    const Outcome outcome = outcome_of(3);
+    EXPECT_EQ(outcome.refreshed, 1u);
+    EXPECT_EQ(outcome.contents, "new");
+    EXPECT_EQ(outcome.read, "k");
+    EXPECT_EQ(outcome.acted, 1u);
+    EXPECT_EQ(outcome.backstored, 1u);
+    EXPECT_EQ(outcome.path, suffix);
+}
+
+TEST(Interceptor, any_other_code_lets_the_entry_act)
+{
+    const Outcome outcome = outcome_of(1);
+    EXPECT_EQ(outcome.contents, "new");
+    EXPECT_EQ(outcome.read, "new");
+    EXPECT_EQ(outcome.acted, 0u);
+    EXPECT_EQ(outcome.path, suffix);
+}

@@ -1,0 +1,305 @@
+/// Text between the platform's strings and the framework's, against the plain chain of platform calls.
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#include "tests/reference/strings.hpp"
+#include "tests/strings/random_text.hpp"
+#include "tests/support/captured.hpp"
+#include "tests/support/diagnostic.hpp"
+
+#include <gtest/gtest.h>
+
+using support::fix_line;
+using support::standard_error_of;
+
+namespace
+{
+
+using Units = std::vector<uint32_t>;
+
+ZEB_String *string_of(const std::string &text)
+{
+    return [[[ZEB_String alloc] init_as_copy_of_chars:text.data()
+                                                count:static_cast<uint32_t>(text.size())] autorelease];
+}
+
+std::string text_of(ZEB_Char_Vector *string) { return {[string char_data], [string count]}; }
+
+Units units_of(ZEB_Wide_Char_Vector *string)
+{
+    return {[string wide_char_data], [string wide_char_data] + [string count]};
+}
+
+ZEB_Wide_String *wide_of(const Units &units)
+{
+    return [[[ZEB_Wide_String alloc] init_as_copy_of_wide_chars:units.data()
+                                                          count:static_cast<uint32_t>(units.size())]
+        autorelease];
+}
+
+NSString *decoded_by_platform(const std::string &bytes, NSStringEncoding encoding = NSUTF8StringEncoding)
+{
+    NSData *const data = [[[NSData alloc] initWithBytes:bytes.data() length:bytes.size()] autorelease];
+    return [[[NSString alloc] initWithData:data encoding:encoding] autorelease];
+}
+
+/// Both roads of a conversion, into targets with one and the same past.
+class Bridge : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        to_wide = [[ZEB_Wide_String_Converter alloc] init];
+        to_chars = [[ZEB_String_Converter alloc] init];
+        wide = [[ZEB_Wide_String alloc] init];
+        platform_wide = [[ZEB_Wide_String alloc] init];
+        chars = [[ZEB_String alloc] init];
+        platform_chars = [[ZEB_String alloc] init];
+        [to_wide set_target:wide];
+        [to_chars set_target:chars];
+    }
+
+    void TearDown() override
+    {
+        for (id object :
+             {(id)to_wide, (id)to_chars, (id)wide, (id)platform_wide, (id)chars, (id)platform_chars})
+            [object release];
+    }
+
+    void expect_same_decoding(const std::string &utf8)
+    {
+        if (utf8.empty())
+            return;
+        [to_wide set_from_bytes:utf8.data() length:static_cast<uint32_t>(utf8.size()) type:ZEB_ENCODING_UTF8];
+        [platform_wide set_from_NSString:decoded_by_platform(utf8)];
+        ASSERT_EQ(units_of(wide), units_of(platform_wide)) << testing::PrintToString(utf8);
+        ASSERT_EQ([wide capacity], [platform_wide capacity]);
+    }
+
+    void expect_same_encoding(const Units &units)
+    {
+        if (units.empty())
+            return;
+        const std::vector<unichar> halves(units.begin(), units.end());
+        ZEB_Wide_String *const source =
+            [ZEB_Wide_String link_to_wide_chars:const_cast<uint32_t *>(units.data())
+                                          count:static_cast<uint32_t>(units.size())];
+        [to_chars set_from_wide_string:source];
+        NSString *const text = [NSString stringWithCharacters:halves.data() length:halves.size()];
+        [platform_chars set_from_NSString:text type:ZEB_ENCODING_UTF8];
+        ASSERT_EQ(text_of(chars), text_of(platform_chars)) << testing::PrintToString(units);
+        ASSERT_EQ([chars capacity], [platform_chars capacity]);
+    }
+
+    ZEB_Wide_String_Converter *to_wide;
+    ZEB_String_Converter *to_chars;
+    ZEB_Wide_String *wide, *platform_wide;
+    ZEB_String *chars, *platform_chars;
+};
+
+/// Drains what piled up, every so often.
+class Draining
+{
+public:
+    ~Draining() { [pool drain]; }
+    void step()
+    {
+        if (++steps % 4096 != 0)
+            return;
+        [pool drain];
+        pool = [[NSAutoreleasePool alloc] init];
+    }
+
+private:
+    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+    unsigned steps = 0;
+};
+
+} // namespace
+
+TEST_F(Bridge, every_scalar_value_comes_over_as_the_platform_brings_it)
+{
+    Draining pool;
+    uint32_t other = 'a';
+    for (uint32_t code_point = 0; code_point <= 0x10FFFF; ++code_point) {
+        if (code_point >= 0xD800 && code_point < 0xE000)
+            continue;
+        const std::string utf8 = reference::utf8_of(code_point);
+        const Units units = reference::utf16_of(code_point);
+        expect_same_decoding(utf8);
+        expect_same_decoding(utf8 + reference::utf8_of(other));
+        expect_same_encoding(units);
+        Units pair = units;
+        pair.push_back(other);
+        expect_same_encoding(pair);
+        other = (other * 33 + code_point) % 0xD800;
+        pool.step();
+        if (HasFatalFailure())
+            return;
+    }
+}
+
+TEST_F(Bridge, texts_of_any_form_come_over_as_the_platform_brings_them)
+{
+    Draining pool;
+    std::mt19937 random(1);
+    for (unsigned turn = 0; turn < 20000; ++turn) {
+        std::string utf8;
+        Units units;
+        for (size_t length = random() % 40; length > 0; --length) {
+            const uint32_t code_point =
+                random() % 3 == 0 ? zeb_test::draw_code_point(random) : random() % 128;
+            utf8 += reference::utf8_of(code_point);
+            for (uint32_t unit : reference::utf16_of(code_point))
+                units.push_back(unit);
+        }
+        if (turn % 2 == 0 && !utf8.empty()) {
+            utf8[random() % utf8.size()] = zeb_test::utf8_alphabet[random() % zeb_test::utf8_alphabet.size()];
+            units[random() % units.size()] = 0xD800 + random() % 0x800;
+        }
+        if (turn % 3 == 0)
+            utf8 = zeb_test::draw_text(random, 1 + random() % 5, zeb_test::utf8_alphabet);
+        expect_same_decoding(utf8);
+        expect_same_encoding(units);
+        pool.step();
+        if (HasFatalFailure())
+            return;
+    }
+}
+
+TEST_F(Bridge, platform_strings_of_every_unicode_text_survive_the_way_there_and_back)
+{
+    std::mt19937 random(2);
+    for (unsigned turn = 0; turn < 300; ++turn) {
+        std::vector<unichar> halves{'x'};
+        for (size_t length = random() % 60; length > 0; --length)
+            for (uint32_t unit : reference::utf16_of(zeb_test::draw_code_point(random)))
+                halves.push_back(static_cast<unichar>(unit));
+        NSString *const text = [NSString stringWithCharacters:halves.data() length:halves.size()];
+        ZEB_String *const narrow = [ZEB_String string_with_NSString:text type:ZEB_ENCODING_UTF8];
+        EXPECT_TRUE([[narrow NSString_utf8_value] isEqualToString:text]);
+        EXPECT_EQ([narrow capacity], [narrow count]);
+        [wide set_from_NSString:text];
+        EXPECT_EQ(units_of(wide), Units(halves.begin(), halves.end()));
+        EXPECT_TRUE([[wide NSString_value] isEqualToString:text]);
+        EXPECT_TRUE([[wide NSMutableString_value] isEqualToString:text]);
+    }
+}
+
+TEST_F(Bridge, encoding_types_choose_the_platform_s_encodings)
+{
+    NSString *const text = [NSString stringWithUTF8String:"a\xC3\xA9z"];
+    const NSStringEncoding encodings[] = {NSASCIIStringEncoding, NSASCIIStringEncoding, NSUTF8StringEncoding,
+                                          NSUnicodeStringEncoding, NSUTF8StringEncoding};
+    ZEB_Wide_String *const source = [[[ZEB_Wide_String alloc] init_with_NSString:text] autorelease];
+    for (ZEB_Encoding_Type type = 0; type < 5; ++type) {
+        NSData *const data = [text dataUsingEncoding:encodings[type] allowLossyConversion:YES];
+        const std::string bytes(static_cast<const char *>([data bytes]), [data length]);
+        [chars set_from_NSString:text type:type];
+        EXPECT_EQ(text_of(chars), bytes) << type;
+        [to_chars set_from_wide_string_with_encoding_type:source type:type];
+        EXPECT_EQ(text_of(chars), bytes) << type;
+        NSString *const decoded = decoded_by_platform(bytes, encodings[type]);
+        EXPECT_TRUE([[chars NSString_value_with_encoding_type:type] isEqualToString:decoded]);
+        EXPECT_TRUE([[chars NSMutableString_value_with_encoding_type:type] isEqualToString:decoded]);
+        [to_wide set_from_string_with_encoding_type:chars type:type];
+        [platform_wide set_from_NSString:decoded];
+        EXPECT_EQ(units_of(wide), units_of(platform_wide)) << type;
+    }
+    [chars set_from_NSString:text type:5];
+    EXPECT_EQ([chars count], 0u);
+    EXPECT_EQ([string_of("a") NSString_value_with_encoding_type:5], nil);
+    [to_wide set_from_string_with_encoding_type:string_of("a") type:5];
+    EXPECT_EQ([wide count], 0u);
+}
+
+TEST_F(Bridge, nothing_and_odd_text_give_what_the_platform_gives)
+{
+    EXPECT_EQ([[ZEB_String string_with_NSString:nil type:2] count], 0u);
+    EXPECT_EQ([[ZEB_String string_with_NSString:@"" type:2] capacity], 0u);
+    ZEB_Wide_String *const of_nil = [[[ZEB_Wide_String alloc] init_with_NSString:nil] autorelease];
+    EXPECT_EQ([of_nil count], 0u);
+    EXPECT_TRUE([[wide NSString_value] isEqualToString:@""]);
+    EXPECT_TRUE([[wide NSMutableString_value] isEqualToString:@""]);
+    EXPECT_TRUE([[chars NSString_value] isEqualToString:@""]);
+    EXPECT_EQ([string_of("\xC3") NSString_utf8_value], nil);
+
+    ZEB_String *const with_null = string_of(std::string("a\0b", 3));
+    EXPECT_EQ([[with_null NSString_value] length], 3u);
+    [to_wide copy_string:with_null];
+    EXPECT_EQ(units_of(wide), (Units{'a', 0, 'b'}));
+    [to_chars copy_wide_string:wide];
+    EXPECT_EQ(text_of(chars), text_of(with_null));
+
+    EXPECT_EQ([[wide_of({0x1F600}) NSString_value] characterAtIndex:0], 0xF600);
+    [to_wide set_from_string:string_of("")];
+    EXPECT_EQ([wide count], 0u);
+    [to_chars set_from_wide_string:wide];
+    EXPECT_EQ([chars count], 0u);
+    [to_wide set_target:nil];
+    [to_wide set_from_string:with_null];
+    EXPECT_EQ([to_wide target], nil);
+    [to_chars copy_c_string:"xy" length:2];
+    EXPECT_EQ(text_of(chars), "xy");
+    [to_chars set_contents_of_array:with_null];
+    EXPECT_EQ(text_of(chars), text_of(with_null));
+}
+
+TEST_F(Bridge, links_are_detached_by_8_bit_text_and_refuse_32_bit_text)
+{
+    char viewed[] = "viewed";
+    uint32_t units[] = {'v', 'w'};
+    const auto char_link = [&] { return [ZEB_String link_to_chars:viewed count:6]; };
+    ZEB_Wide_String *const wide_link = [ZEB_Wide_String link_to_wide_chars:units count:2];
+
+    for (const uint32_t unit : {uint32_t{'a'}, uint32_t{0xE9}}) {
+        ZEB_String *const link = char_link();
+        [to_chars set_target:link];
+        [to_chars set_from_wide_string:wide_of({unit})];
+        EXPECT_EQ(text_of(link), reference::utf8_of(unit));
+        EXPECT_EQ([link link_marker], 0u);
+        EXPECT_EQ([link capacity], 16u);
+    }
+    ZEB_String *const emptied = char_link();
+    [emptied set_from_NSString:nil type:2];
+    EXPECT_EQ([emptied count], 0u);
+    EXPECT_EQ([emptied link_marker], 10000u);
+    EXPECT_STREQ(viewed, "viewed");
+
+    const std::string refusal = fix_line("set_from_NSString:", "ZEB_Wide_String",
+                                         "Cannot update length through link, no adjustment made.");
+    [to_wide set_target:wide_link];
+    for (const char *text : {"abc", "\xC3\xA9", "\xFF", "\xEF\xBB\xBFz"}) {
+        EXPECT_EQ(standard_error_of([&] { [to_wide set_from_string:string_of(text)]; }), refusal) << text;
+        EXPECT_EQ(units_of(wide_link), (Units{'v', 'w'}));
+    }
+    EXPECT_EQ(standard_error_of([&] { [wide_link set_from_NSString:@"abc"]; }), refusal);
+    EXPECT_EQ(standard_error_of([&] { [to_wide set_from_string:string_of("")]; }), "");
+    EXPECT_EQ([wide_link count], 0u);
+}
+
+TEST(Standard_Directories, are_the_platform_s_with_a_null_behind)
+{
+    ZEB_String *const path = string_of("old");
+    const auto expect_path = [&](NSString *expected) {
+        EXPECT_EQ(text_of(path), expected != nil ? [expected UTF8String] : "");
+        ASSERT_GT([path capacity], [path count]);
+        const uint32_t end = [path count];
+        EXPECT_EQ([path char_at_index:end], '\0');
+    };
+    [ZEB_String set_to_home_directory:path];
+    expect_path(NSHomeDirectory());
+    [ZEB_String set_to_library_directory:path];
+    expect_path(
+        [NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSUserDomainMask, YES) objectAtIndex:0]);
+    [ZEB_String set_to_documents_directory:path];
+    expect_path(
+        [NSSearchPathForDirectoriesInDomains(NSDocumentDirectory, NSUserDomainMask, YES) objectAtIndex:0]);
+    [ZEB_String set_to_home_directory_of_user:path user_name:string_of("root")];
+    expect_path(NSHomeDirectoryForUser(@"root"));
+    for (ZEB_String *user :
+         {string_of("no such user"), string_of("\xFF"), string_of(""), (ZEB_String *)nil}) {
+        [path copy_c_string:"old" length:3];
+        [ZEB_String set_to_home_directory_of_user:path user_name:user];
+        expect_path(nil);
+    }
+}

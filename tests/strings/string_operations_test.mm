@@ -1,0 +1,160 @@
+/// That each operation of the string classes hands its own fields and arguments to the engine.
+#import <Korvane_ZEB/Korvane_ZEB.h>
+#import <Korvane_ZEB/ZEB_String_Views.hpp>
+
+#include "tests/support/captured.hpp"
+#include "tests/support/diagnostic.hpp"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using support::fix_line;
+using support::standard_error_of;
+
+namespace
+{
+
+ZEB_String *string_of(std::string_view text)
+{
+    ZEB_String *const string = [[[ZEB_String alloc] init] autorelease];
+    [string copy_c_string:text.data() length:static_cast<uint32_t>(text.size())];
+    return string;
+}
+
+ZEB_Wide_String *wide_of(std::u32string_view units)
+{
+    ZEB_Wide_String *const string = [[[ZEB_Wide_String alloc] init] autorelease];
+    for (char32_t unit : units)
+        [string append_wide_char:unit];
+    return string;
+}
+
+} // namespace
+
+TEST(String_Operations, search_and_scan)
+{
+    ZEB_String *const abc = string_of("abc");
+    EXPECT_EQ([abc index_of_substring:"b" length:1], 1u);
+    EXPECT_EQ([abc index_of_substring:"bc" length:2], ZEB_NOT_FOUND);
+    EXPECT_EQ([abc index_of_substring:"abc" length:3], ZEB_NOT_FOUND);
+    EXPECT_EQ([string_of("  -3 x") index_of_number_start], 2u);
+    EXPECT_EQ([string_of("12 apples") number_prefix_length], 2u);
+    EXPECT_EQ([string_of("x = 4.2e1  ") index_of_number_end], 8u);
+    EXPECT_EQ([string_of("12E5") index_of_last_non_number], 2u);
+    EXPECT_EQ([wide_of(U"abc") index_of_char:'c'], 2u);
+    EXPECT_EQ([wide_of(U"abc") index_of_char:'d'], ZEB_NOT_FOUND);
+    const uint32_t b[] = {'b', 'c'};
+    EXPECT_EQ([wide_of(U"abcd") index_of_substring:b length:2], 1u);
+    EXPECT_EQ([wide_of(U"abc") index_of_substring:b length:2], ZEB_NOT_FOUND);
+}
+
+TEST(String_Operations, compare_the_three_ways)
+{
+    const struct {
+        std::string_view left, right;
+        ZEB_Comparison plain, folded;
+    } rows[] = {{"ab", "abc", 2, 2}, {"abc", "ab", 3, 3},    {"ABC", "abd", 2, 2}, {"abc", "ABC", 3, 1},
+                {"\xE9", "a", 3, 2}, {"same", "same", 1, 1}, {"", "", 1, 1}};
+    for (const auto &row : rows) {
+        ZEB_String *const left = string_of(row.left);
+        ZEB_String *const right = string_of(row.right);
+        EXPECT_EQ([left compare:right], row.plain);
+        EXPECT_EQ([left is_less:right], row.plain == 2);
+        EXPECT_EQ([left is_equal:right], row.plain == 1);
+        EXPECT_EQ([left compare_ignoring_case:right], row.folded);
+        EXPECT_EQ([left is_equal_ignoring_case:right], row.folded == 1);
+    }
+    EXPECT_EQ([wide_of(U"\U00010000") compare:wide_of(U"A")], 3u);
+    EXPECT_EQ([wide_of(U"A") is_less:wide_of(U"AB")], 1);
+    EXPECT_EQ([wide_of(U"A") is_equal:wide_of(U"A")], 1);
+    EXPECT_EQ([wide_of(U"A") is_equal:wide_of(U"B")], 0);
+    ZEB_String *const none = nil;
+    EXPECT_EQ([string_of("") is_equal:none], 0);
+    EXPECT_EQ([string_of("") is_equal_ignoring_case:none], 0);
+    EXPECT_EQ([string_of("a") compare:none], 3u);
+}
+
+TEST(String_Operations, copy_and_append_8_bit_characters)
+{
+    ZEB_Wide_String *const wide = [[[ZEB_Wide_String alloc] init] autorelease];
+    [wide copy_c_string:"\x41\xE9" length:2];
+    EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9}));
+    EXPECT_EQ([wide capacity], 16u);
+    [wide append_chars:"z" length:1];
+    [wide append_c_string:"y" length:1];
+    EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9, 'z', 'y'}));
+    [wide copy_chars:"0123456789abcdef" length:16];
+    EXPECT_EQ([wide capacity], 32u);
+    ZEB_String *const narrow = string_of("0123456789abcde");
+    EXPECT_EQ([narrow capacity], 16u);
+    EXPECT_EQ(zeb::view(narrow), "0123456789abcde");
+    [ZEB_Wide_String set_growth_seed:3];
+    ZEB_Wide_String *const seeded = wide_of(U"");
+    [seeded copy_c_string:"abc" length:3];
+    EXPECT_EQ([seeded capacity], 6u);
+    [ZEB_Wide_String set_growth_seed:16];
+}
+
+TEST(String_Operations, refuse_on_links_under_their_own_names)
+{
+    uint32_t units[] = {0x1F600};
+    char byte = 'a';
+    ZEB_Wide_String *const wide = [ZEB_Wide_String link_to_wide_chars:units count:1];
+    ZEB_String *const narrow = [ZEB_String link_to_chars:&byte count:1];
+    const auto expect = [](const char *selector, const char *named, const char *note, auto work) {
+        EXPECT_EQ(standard_error_of(work), fix_line(selector, named, note));
+    };
+    const char *const no_copy = "Cannot copy c string through link, no copy made.";
+    const char *const no_append = "Cannot append c string through link, no append made.";
+    expect("copy_c_string:length:", "ZEB_String", no_copy, [&] { [narrow copy_c_string:"x" length:1]; });
+    expect("append_c_string:length:", "ZEB_String", no_append, [&] { [narrow append_c_string:"" length:0]; });
+    expect("append_null_terminator", "ZEB_String",
+           "Cannot append null terminator through link, no append made.",
+           [&] { [narrow append_null_terminator]; });
+    expect("copy_c_string:length:", "ZEB_Wide_String", no_copy, [&] { [wide copy_c_string:"" length:0]; });
+    expect("copy_chars:length:", "ZEB_Wide_String", no_copy, [&] { [wide copy_chars:"x" length:1]; });
+    expect("append_c_string:length:", "ZEB_Wide_String", no_append,
+           [&] { [wide append_c_string:"x" length:1]; });
+    expect("append_chars:length:", "ZEB_Wide_String", no_append, [&] { [wide append_chars:"x" length:1]; });
+    expect("set_code_points_from_utf8:", "ZEB_Wide_String",
+           "Cannot update length through link, no adjustment made.",
+           [&] { EXPECT_EQ([wide set_code_points_from_utf8:string_of("x")], 0); });
+    expect("split_to_surrogate_pairs", "ZEB_Wide_String",
+           "Cannot update capacity through link, no adjustment made.",
+           [&] { [wide split_to_surrogate_pairs]; });
+    EXPECT_EQ(zeb::view(wide), U"\U0001F600");
+    EXPECT_EQ(zeb::view(narrow), "a");
+}
+
+TEST(String_Operations, turn_utf8_into_code_points_and_back)
+{
+    ZEB_String *const utf8 = string_of("a\xC3\xA9\xF0\x9F\x98\x80");
+    ZEB_Wide_String *const wide = wide_of(U"kept");
+    EXPECT_EQ([utf8 is_valid_utf8], 1);
+    EXPECT_EQ([string_of("\xC3") is_valid_utf8], 0);
+    EXPECT_EQ([wide set_code_points_from_utf8:string_of("xyz\xC3")], 0);
+    EXPECT_EQ(zeb::view(wide), U"kept");
+    EXPECT_EQ([wide set_code_points_from_utf8:utf8], 1);
+    EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
+    ZEB_String *const back = string_of("kept");
+    EXPECT_EQ([wide write_code_points_as_utf8:back], 1);
+    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
+    [wide split_to_surrogate_pairs];
+    EXPECT_EQ(zeb::view(wide), (std::u32string{'a', 0xE9, 0xD83D, 0xDE00}));
+    EXPECT_EQ([wide write_code_points_as_utf8:back], 0);
+    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
+    [wide join_surrogate_pairs];
+    EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
+}
+
+TEST(String_Views, are_live_and_empty_without_a_string)
+{
+    ZEB_String *const string = string_of("abc");
+    const std::string_view view = zeb::view(string);
+    [string char_data][1] = 'X';
+    EXPECT_EQ(view, "aXc");
+    EXPECT_EQ(static_cast<const void *>(view.data()), [string char_data]);
+    EXPECT_TRUE(zeb::view(static_cast<ZEB_String *>(nil)).empty());
+    EXPECT_TRUE(zeb::view(static_cast<ZEB_Wide_String *>(nil)).empty());
+}

@@ -1,0 +1,169 @@
+#include "strings/engine/utf.hpp"
+
+#include "strings/engine/text_kernels.hpp"
+#include "strings/engine/text_loops.hpp"
+
+#include "tests/arrays/random_elements.hpp"
+#include "tests/reference/strings.hpp"
+#include "tests/strings/random_text.hpp"
+
+#include <gtest/gtest.h>
+
+using namespace zeb_test;
+
+namespace
+{
+
+using Units = std::vector<uint32_t>;
+
+/// One text in the three forms.
+struct Text {
+    std::string utf8 = {};
+    Units utf16 = {};
+    Units code_points = {};
+
+    void append(uint32_t code_point)
+    {
+        utf8 += reference::utf8_of(code_point);
+        for (uint32_t unit : reference::utf16_of(code_point))
+            utf16.push_back(unit);
+        code_points.push_back(code_point);
+    }
+};
+
+void expect_all_conversions(const Text &text)
+{
+    ASSERT_TRUE(zeb::is_valid_utf8(text.utf8));
+    Units units(zeb::utf16_length_of_utf8(text.utf8));
+    ASSERT_TRUE(zeb::utf16_from_utf8(text.utf8, units.data()));
+    ASSERT_EQ(units, text.utf16);
+    units.resize(zeb::code_point_count_of_utf8(text.utf8));
+    ASSERT_TRUE(zeb::code_points_from_utf8(text.utf8, units.data()));
+    ASSERT_EQ(units, text.code_points);
+
+    std::string utf8(zeb::utf8_length_of_utf16(text.utf16), ' ');
+    ASSERT_TRUE(zeb::utf8_from_utf16(text.utf16, utf8.data()));
+    ASSERT_EQ(utf8, text.utf8);
+    utf8.assign(zeb::utf8_length_of_code_points(text.code_points), ' ');
+    ASSERT_TRUE(zeb::utf8_from_code_points(text.code_points, utf8.data()));
+    ASSERT_EQ(utf8, text.utf8);
+
+    units = text.utf16;
+    units.resize(zeb::join_surrogate_pairs(units));
+    ASSERT_EQ(units, text.code_points);
+    const size_t pairs = zeb::count_of_pairs(units);
+    units.resize(units.size() + pairs);
+    zeb::split_to_surrogate_pairs(units.data(), text.code_points.size(), pairs);
+    ASSERT_EQ(units, text.utf16);
+}
+
+} // namespace
+
+TEST(Unicode_Forms, hold_every_scalar_value_alone_and_beside_others)
+{
+    uint32_t before = 'a';
+    for (uint32_t code_point = 0; code_point <= 0x10FFFF; ++code_point) {
+        if (code_point >= 0xD800 && code_point < 0xE000)
+            continue;
+        Text alone, pair;
+        alone.append(code_point);
+        expect_all_conversions(alone);
+        if (code_point % 16 == 0 || code_point < 0x900) {
+            pair.append(before);
+            pair.append(code_point);
+            expect_all_conversions(pair);
+        }
+        before = before * 31 % 0xD800;
+    }
+}
+
+TEST(Unicode_Forms, hold_runs_of_any_mixture)
+{
+    on_each_target([] {
+        std::mt19937 random(6);
+        for (unsigned turn = 0; turn < 500; ++turn) {
+            Text text;
+            while (random() % 12 != 0) {
+                const size_t run = random() % 4 == 0 ? random() % 150 : 1;
+                for (size_t i = 0; i < run; ++i)
+                    text.append(run == 1 ? draw_code_point(random) : random() % 128);
+            }
+            expect_all_conversions(text);
+        }
+    });
+}
+
+TEST(Unicode_Forms, are_well_formed_as_the_table_of_byte_ranges_has_it)
+{
+    const auto expect_same = [](const std::string &text) {
+        const bool valid = reference::is_valid_utf8(text);
+        ASSERT_EQ(zeb::is_valid_utf8(text), valid);
+        // In a block of their exact size, for the sanitizer to watch.
+        const std::unique_ptr<uint32_t[]> units(new uint32_t[zeb::utf16_length_of_utf8(text)]);
+        ASSERT_EQ(zeb::utf16_from_utf8(text, units.get()), valid);
+        const std::unique_ptr<uint32_t[]> points(new uint32_t[zeb::code_point_count_of_utf8(text)]);
+        ASSERT_EQ(zeb::code_points_from_utf8(text, points.get()), valid);
+    };
+    for (unsigned first = 0; first < 256; ++first)
+        for (unsigned second = 0; second < 256; ++second)
+            expect_same({static_cast<char>(first), static_cast<char>(second)});
+    const size_t size = utf8_alphabet.size();
+    for (size_t i = 0; i < size * size * size * size; ++i)
+        expect_same({utf8_alphabet[i % size], utf8_alphabet[i / size % size],
+                     utf8_alphabet[i / size / size % size], utf8_alphabet[i / size / size / size]});
+    std::mt19937 random(7);
+    for (unsigned turn = 0; turn < 20000; ++turn) {
+        std::string text;
+        for (size_t length = random() % 30; length > 0; --length)
+            text += reference::utf8_of(draw_code_point(random));
+        if (!text.empty())
+            text[random() % text.size()] = utf8_alphabet[random() % size];
+        expect_same(text);
+    }
+}
+
+TEST(Unicode_Forms, refuse_what_is_no_character)
+{
+    char room[16];
+    const Units lone[] = {{0xD800},      {0xDC00},         {'a', 0xDBFF},
+                          {0xD800, 'a'}, {0xDC00, 0xD800}, {0xD800, 0xD800, 0xDC00}};
+    for (const Units &units : lone) {
+        EXPECT_FALSE(zeb::utf8_from_utf16(units, room));
+        EXPECT_FALSE(zeb::are_code_points(units));
+        EXPECT_FALSE(zeb::utf8_from_code_points(units, room));
+    }
+    for (const uint32_t none : {0x110000u, 0xDFFFu, UINT32_MAX}) {
+        EXPECT_FALSE(zeb::are_code_points(Units{'a', none}));
+        EXPECT_FALSE(zeb::utf8_from_code_points(Units{'a', none}, room));
+    }
+    // Of a UTF-16 element only the low half counts; as a code point it is what it is.
+    EXPECT_TRUE(zeb::utf8_from_utf16(Units{0xABCD0041}, room));
+    EXPECT_EQ(room[0], 'A');
+    Units mixed{0xD800, 0x110000, 0x1F600, 'x', 0xDC00, 0xD83D};
+    Units joined = mixed;
+    EXPECT_EQ(zeb::join_surrogate_pairs(joined), mixed.size());
+    EXPECT_EQ(joined, mixed);
+    mixed.resize(mixed.size() + zeb::count_of_pairs(mixed));
+    zeb::split_to_surrogate_pairs(mixed.data(), mixed.size() - 1, 1);
+    EXPECT_EQ(mixed, (Units{0xD800, 0x110000, 0xD83D, 0xDE00, 'x', 0xDC00, 0xD83D}));
+}
+
+TEST(Text_Kernels, do_what_the_plain_loops_do)
+{
+    on_each_target([] {
+        std::mt19937 random(8);
+        for (size_t count : lengths()) {
+            Units units = draw_elements<uint32_t>(random, count, Draw::Any_Bits);
+            for (uint32_t &unit : units)
+                unit >>= random() % 32;
+            std::vector<uint16_t> halves(count), expected_halves(count);
+            zeb::kernels::narrow(units.data(), count, halves.data());
+            zeb::plain::narrow(units.data(), count, expected_halves.data());
+            ASSERT_EQ(halves, expected_halves);
+            Units widened(count);
+            std::copy(halves.begin(), halves.end(), reinterpret_cast<uint16_t *>(widened.data()));
+            zeb::kernels::widen_in_place(widened.data(), count);
+            ASSERT_EQ(widened, Units(halves.begin(), halves.end()));
+        }
+    });
+}

@@ -2,8 +2,8 @@
 /// loops, ranges and standard algorithms run over them without a message per element. For C++20 users.
 #pragma once
 
-#include <Korvane_ZEB/ZEB_Byte_Span.hpp>
 #include <Korvane_ZEB/ZEB_Byte_Array_Span.hpp>
+#include <Korvane_ZEB/ZEB_Byte_Span.hpp>
 #include <Korvane_ZEB/ZEB_Char_Span.hpp>
 #include <Korvane_ZEB/ZEB_Double_Span.hpp>
 #include <Korvane_ZEB/ZEB_Float_Span.hpp>

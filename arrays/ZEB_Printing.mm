@@ -2,6 +2,8 @@
 
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_Number_Functions.h>
+#import <Korvane_ZEB/ZEB_String.h>
+#import <Korvane_ZEB/ZEB_String_Converter.h>
 #import <Korvane_ZEB/ZEB_Wide_String.h>
 
 #include <inttypes.h>
@@ -34,14 +36,20 @@ void print_element(ZEB_Stream *stream, char element)
     print_element(stream, int32_t{static_cast<signed char>(element)});
 }
 
-void print_element(ZEB_Stream *stream, int32_t element) { [stream write_int_with_format:element format:"%d"]; }
+void print_element(ZEB_Stream *stream, int32_t element)
+{
+    [stream write_int_with_format:element format:"%d"];
+}
 
 void print_element(ZEB_Stream *stream, uint32_t element)
 {
     print_number(stream, ZC_pretty_format_unsigned, element);
 }
 
-void print_element(ZEB_Stream *stream, float element) { print_number(stream, ZC_pretty_format_float, element); }
+void print_element(ZEB_Stream *stream, float element)
+{
+    print_number(stream, ZC_pretty_format_float, element);
+}
 
 void print_element(ZEB_Stream *stream, double element)
 {
@@ -60,7 +68,16 @@ void print_element(ZEB_Stream *stream, id element) { [stream write_object:elemen
 
 void print_element(ZEB_Stream *stream, ZEB_String *element) { [stream write_string:element]; }
 
-void print_element(ZEB_Stream *stream, ZEB_Wide_String *element) { [stream write_object:element]; }
+void print_element(ZEB_Stream *stream, ZEB_Wide_String *element)
+{
+    ZEB_String *const text = [[ZEB_String alloc] init];
+    ZEB_String_Converter *const converter = [[ZEB_String_Converter alloc] init];
+    [converter set_target:text];
+    [converter set_from_wide_string:element];
+    [stream write_string:text];
+    [converter release];
+    [text release];
+}
 
 void print_element(ZEB_Stream *stream, ZEB_Byte_Array *element) { [stream write_object:element]; }
 

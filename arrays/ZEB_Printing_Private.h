@@ -1,5 +1,6 @@
 /*
- * How elements are printed: numbers in decimal, without needless digits.
+ * How elements are printed: numbers in decimal, without needless digits; strings as their text, 32-bit
+ * ones as UTF-8; other objects as they write themselves.
  */
 #import <Korvane_ZEB/ZEB_Stream.h>
 

@@ -51,7 +51,7 @@ zeb_family(NAME String WORD string PHRASE "8-bit strings" ELEMENT "ZEB_String *"
 zeb_family(NAME Wide_String WORD wide_string PHRASE "32-bit strings" ELEMENT "ZEB_Wide_String *"
            KIND "Held_Objects<Wide_String_Policy>" KIND_STATE "vector->held_count"
            VECTOR_FIELDS "uint32_t held_count;" FORWARD "@class ZEB_Stream, ZEB_Wide_String;"
-           WRITE "[stream write_object:element]")
+           WRITE "zeb::print_element(stream, element)")
 
 zeb_family(NAME Byte_Array WORD byte_array PHRASE "byte arrays" ELEMENT "ZEB_Byte_Array *"
            KIND "Held_Objects<Byte_Array_Policy>" KIND_STATE "vector->held_count"

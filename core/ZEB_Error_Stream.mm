@@ -27,10 +27,7 @@ void put_on_standard_error(ZEB_Char_Span text)
         fwrite(text.char_c_array, 1, text.length, stderr);
 }
 
-ZEB_Char_Span name_span(const char *name)
-{
-    return {name, static_cast<uint32_t>(strlen(name))};
-}
+ZEB_Char_Span name_span(const char *name) { return {name, static_cast<uint32_t>(strlen(name))}; }
 
 /// The runtime's own texts of both names are what the platform's name services answer; they are static,
 /// so a diagnostic makes no object, also when it tells that memory is short.

@@ -19,15 +19,15 @@
 ZEB_EXPORT
 @interface ZEB_Stream : ZEB_Object {
     ZEB_PROTECTED
-    const char *char_format;           /* "%c" */
-    const char *int_format;            /* "%d" */
-    const char *unsigned_format;       /* "%u" */
-    const char *float_format;          /* "%g" */
-    const char *double_format;         /* "%g" */
-    const char *character_code_format; /* "'\%03X'" */
-    const char *unsigned_long_format;  /* "%lu" */
-    const char *hex_format;            /* "%08X" */
-    const char *date_format;           /* "%m/%d/%Y %H:%M:%S", for strftime */
+    const char *char_format;            /* "%c" */
+    const char *int_format;             /* "%d" */
+    const char *unsigned_format;        /* "%u" */
+    const char *float_format;           /* "%g" */
+    const char *double_format;          /* "%g" */
+    const char *character_code_format;  /* "'\%03X'" */
+    const char *unsigned_long_format;   /* "%lu" */
+    const char *hex_format;             /* "%08X" */
+    const char *date_format;            /* "%m/%d/%Y %H:%M:%S", for strftime */
     ZEB_Char_Span list_open_delimiter;  /* "{" */
     ZEB_Char_Span list_close_delimiter; /* "}" */
     ZEB_Char_Span list_separator;       /* ", " */

@@ -156,10 +156,9 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 - (void)ZEB_send_delimited_list:(ZEB_Collection *)list
 {
     ZEB_Stream *const stream = self;
-    zeb::write_delimited_list(
-        [list count], {list_open_delimiter, list_close_delimiter, list_separator},
-        [=](ZEB_Char_Span delimiter) { zeb::put(stream, delimiter); },
-        [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
+    zeb::write_delimited_list([list count], { list_open_delimiter, list_close_delimiter, list_separator },
+                              [=](ZEB_Char_Span delimiter) { zeb::put(stream, delimiter); },
+                              [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
 }
 
 - (void)ZEB_send_list:(ZEB_Collection *)list

@@ -73,7 +73,12 @@ enum {
 
 /* What a file-system entry is. */
 typedef uint32_t ZEB_File_Kind;
-enum { ZEB_FILE_KIND_OTHER = 0, ZEB_FILE_KIND_REGULAR = 1, ZEB_FILE_KIND_LINK = 2, ZEB_FILE_KIND_DIRECTORY = 3 };
+enum {
+    ZEB_FILE_KIND_OTHER = 0,
+    ZEB_FILE_KIND_REGULAR = 1,
+    ZEB_FILE_KIND_LINK = 2,
+    ZEB_FILE_KIND_DIRECTORY = 3
+};
 
 /* The units of calendar arithmetic; codes 7 to 10 name no unit. */
 typedef int32_t ZEB_Time_Unit;

@@ -20,11 +20,14 @@ zeb::Byte_Run bytes_from(Array *source, uint32_t offset)
             static_cast<uint32_t>(elements.size() - offset)};
 }
 
-zeb::Fix_Report report_for(ZEB_String *destination) { return {destination, @selector(append_chars:count:)}; }
+zeb::Fix_Report report_for(ZEB_String *destination)
+{
+    return { destination, @selector(append_chars:count:) };
+}
 
 zeb::Fix_Report report_for(ZEB_Byte_Array *destination)
 {
-    return {destination, @selector(append_bytes:count:)};
+    return { destination, @selector(append_bytes:count:) };
 }
 
 template <class From, class Into>

@@ -108,8 +108,8 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
     uid = status.uid;
     gid = status.gid;
     const zeb::Access_Rights before{can_read != 0, can_write != 0, can_execute != 0};
-    const zeb::Access_Rights rights = zeb::effective_rights(status, uid == zeb::process_user(),
-                                                            gid == zeb::process_group(), before);
+    const zeb::Access_Rights rights =
+        zeb::effective_rights(status, uid == zeb::process_user(), gid == zeb::process_group(), before);
     set_rights(rights, can_read, can_write, can_execute);
 }
 

@@ -41,8 +41,8 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
     }
     memset([target byte_data] + count, 0, length - count);
     if (count != size)
-        zeb::tell_discrepancy(file, messages::warning_length_read, count, messages::against_content_size, size,
-                              messages::while_reading);
+        zeb::tell_discrepancy(file, messages::warning_length_read, count, messages::against_content_size,
+                              size, messages::while_reading);
     return true;
 }
 
@@ -72,17 +72,17 @@ bool write_out(ZEB_File *file, zeb::Open_File &output, const void *bytes, uint32
         return false;
     }
     if (count != length)
-        zeb::tell_discrepancy(file, messages::warning_length_written, count, messages::against_specified_length,
-                              length, messages::while_writing);
+        zeb::tell_discrepancy(file, messages::warning_length_written, count,
+                              messages::against_specified_length, length, messages::while_writing);
     return true;
 }
 
 bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes, uint32_t length)
 {
     // The link only reads; its maker takes what could also be written.
-    ZEB_Byte_Array *const source = [[ZEB_Byte_Array alloc]
-        init_as_link_to_bytes:static_cast<uint8_t *>(const_cast<void *>(bytes))
-                        count:length];
+    ZEB_Byte_Array *const source =
+        [[ZEB_Byte_Array alloc] init_as_link_to_bytes:static_cast<uint8_t *>(const_cast<void *>(bytes))
+                                                count:length];
     ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
     const int32_t status = ZC_compress_bytes_to_bytes(source, stored);
     bool is_written = false;
@@ -102,8 +102,8 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
 
 - (uint32_t)take_contents_into:(ZEB_Byte_Array *)destination
 {
-    const bool is_read = contents_compressed ? read_compressed(self, destination, size)
-                                             : read_into(self, destination, size);
+    const bool is_read =
+        contents_compressed ? read_compressed(self, destination, size) : read_into(self, destination, size);
     if (!is_read)
         [destination clear];
     return is_read ? 1 : 0;

@@ -22,9 +22,9 @@ enum {
 
 /** What an interceptor decides; any other value lets the entry act. */
 enum {
-    ZEB_INTERCEPT_REFUSE = 0,      /* the action does nothing and answers 0 */
-    ZEB_INTERCEPT_ACT = 2,         /* the interceptor acts, and its answer is the action's */
-    ZEB_INTERCEPT_ACT_AND_RUN = 3  /* the interceptor acts, then the entry (not on refresh and read) */
+    ZEB_INTERCEPT_REFUSE = 0,     /* the action does nothing and answers 0 */
+    ZEB_INTERCEPT_ACT = 2,        /* the interceptor acts, and its answer is the action's */
+    ZEB_INTERCEPT_ACT_AND_RUN = 3 /* the interceptor acts, then the entry (not on refresh and read) */
 };
 
 /**

@@ -33,8 +33,7 @@ ZEB_Char_Span visible_path(ZEB_String *path)
 }
 
 Platform_Path::Platform_Path(ZEB_String *path, const char *suffix)
-    : text([path char_data],
-           is_whole_path([path char_data], [path count]) ? visible_path(path).length : 0,
+    : text([path char_data], is_whole_path([path char_data], [path count]) ? visible_path(path).length : 0,
            is_whole_path([path char_data], [path count]) ? suffix : "")
 {
 }

@@ -32,8 +32,7 @@ inline constexpr Char_Span replace_occurrences_through_link =
 inline constexpr Char_Span allocate_failed = span_of("Runtime error in allocate macro");
 inline constexpr Char_Span reallocate_failed = span_of("Runtime error in reallocate macro");
 
-inline constexpr Char_Span removal_range_reversed =
-    span_of("End index is less than start index in removal.");
+inline constexpr Char_Span removal_range_reversed = span_of("End index is less than start index in removal.");
 inline constexpr Char_Span find_on_unknown_comparison =
     span_of("Warning: Ordered find stopped on unknown comparison.");
 inline constexpr Char_Span insert_on_unknown_comparison =

@@ -154,8 +154,8 @@ void set_contents(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report 
 {
     if (array.is_link()) {
         const std::uint64_t wanted = grown_capacity(0, elements.count, array.growth_seed);
-        replace_with_copy(Vector_Storage<Kind>(array), elements.source, elements.first, elements.count, wanted,
-                          array.capacity, report);
+        replace_with_copy(Vector_Storage<Kind>(array), elements.source, elements.first, elements.count,
+                          wanted, array.capacity, report);
         return;
     }
     const Source_Position<Kind> source(array, elements);

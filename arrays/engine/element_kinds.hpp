@@ -37,7 +37,8 @@ struct Plain_Elements {
     static constexpr bool holds_objects = false;
     static constexpr bool zero_filled = false;
 
-    struct Fresh {};
+    struct Fresh {
+    };
     Plain_Elements fresh(Fresh &) const noexcept { return {}; }
     void take(Fresh) const noexcept {}
 
@@ -86,7 +87,8 @@ struct Counted_References {
 
     std::uint32_t mode;
 
-    struct Fresh {};
+    struct Fresh {
+    };
     Counted_References fresh(Fresh &) const noexcept { return *this; }
     void take(Fresh) const noexcept {}
 

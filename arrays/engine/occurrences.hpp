@@ -64,10 +64,9 @@ std::uint32_t replace_objects(Array_Storage<Kind> array, std::span<typename Kind
 /// were. A link refuses; an empty pattern has no occurrence. Where memory is short, that is reported and
 /// nothing changes. Both runs may be the array's own elements.
 template <class Kind, class Report>
-std::uint32_t replace_all_occurrences(Array_Storage<Kind> array,
-                                      std::span<typename Kind::Element const> pattern,
-                                      std::span<typename Kind::Element const> replacement,
-                                      Report report) noexcept
+std::uint32_t
+replace_all_occurrences(Array_Storage<Kind> array, std::span<typename Kind::Element const> pattern,
+                        std::span<typename Kind::Element const> replacement, Report report) noexcept
 {
     if constexpr (Kind::is_plain) {
         return replace_occurrences(array, {pattern, replacement}, report);

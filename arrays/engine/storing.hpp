@@ -3,10 +3,10 @@
 
 #include "arrays/engine/array_notes.hpp"
 #include "arrays/engine/array_storage.hpp"
+#include "arrays/engine/copied_run.hpp"
 #include "arrays/engine/fill.hpp"
 #include "arrays/engine/permutation.hpp"
 #include "arrays/engine/replace.hpp"
-#include "arrays/engine/copied_run.hpp"
 
 #include <utility>
 
@@ -39,7 +39,8 @@ private:
 /// Stores `element` into the range, both ends included; a range that starts after its end fills nothing,
 /// and what of it lies past the last element is left out.
 template <class Kind>
-void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename Kind::Element element) noexcept
+void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range,
+                     typename Kind::Element element) noexcept
 {
     if constexpr (Kind::is_plain) {
         fill_range(vector.elements(), range, element);

@@ -93,7 +93,8 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 - (void)transpose_rows:(uint32_t)rows columns:(uint32_t)columns;
 
 /** 1 when both hold the same elements in the same order, else 0: compared as memory, or with a collection
-    of any class by value, as `==` has it. Objects that an array holds are compared by contents. Nothing equals nil. */
+    of any class by value, as `==` has it. Objects that an array holds are compared by contents. Nothing
+   equals nil. */
 - (uint8_t)is_equal_to_vector:(ZEB_T_Vector *)other;
 - (uint8_t)is_equal_to_collection:(ZEB_T_Collection *)other;
 

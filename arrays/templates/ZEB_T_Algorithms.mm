@@ -2,8 +2,8 @@
 
 #import <Korvane_ZEB/ZEB_UInt_Array.h>
 
-#import "arrays/ZEB_T_Storage_Private.h"
 #import "arrays/ZEB_Printing_Private.h"
+#import "arrays/ZEB_T_Storage_Private.h"
 
 #include "arrays/engine/extrema.hpp"
 #include "arrays/engine/occurrences.hpp"
@@ -190,8 +190,8 @@ std::span<uint32_t> indexes_of(ZEB_UInt_Array *indexes) { return {[indexes uint_
 
 - (BOOL)isEqual:(id)other
 {
-    return self == other ||
-           ([other isKindOfClass:[ZEB_T_Vector class]] && zeb::equals_as_vector<Kind>(read(self), read(other)));
+    return self == other || ([other isKindOfClass:[ZEB_T_Vector class]] &&
+                             zeb::equals_as_vector<Kind>(read(self), read(other)));
 }
 
 - (NSUInteger)hash

@@ -76,9 +76,9 @@ Elements elements_of(ZEB_T_Vector *vector)
 {
     self = [super init_unlinked];
     if (self != nil)
-        capacity = zeb::start(storage_of_vector(self), length,
-                              zeb::grown_capacity(0, length, zeb::ZEB_T_growth_seed),
-                              zeb::Fix_Report{self, _cmd});
+        capacity =
+            zeb::start(storage_of_vector(self), length,
+                       zeb::grown_capacity(0, length, zeb::ZEB_T_growth_seed), zeb::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -184,8 +184,9 @@ Elements elements_of(ZEB_T_Vector *vector)
 
 - (void)copy_vector:(ZEB_T_Vector *)other capacity:(uint32_t)room
 {
-    zeb::replace_with_copy(storage_of_vector(self), zeb::Source::of_another_array, [other TT_word_data],
-                           [other count], room, capacity, zeb::Fix_Report{self, _cmd});
+    zeb::replace_with_copy(
+        storage_of_vector(self), zeb::Source::of_another_array, [other TT_word_data], [other count], room,
+        capacity, zeb::Fix_Report { self, _cmd });
 }
 
 - (void)copy_TT_word:(ZEB_T_Element)element

@@ -1,3 +1,4 @@
+#import "arrays/ZEB_Printing_Private.h"
 #import "arrays/ZEB_T_Storage_Private.h"
 
 #import <Korvane_ZEB/ZEB_Stream.h>
@@ -140,8 +141,9 @@ uint32_t default_length = 16;
 - (void)copy_vector:(ZEB_T_Vector *)other capacity:(uint32_t)capacity
 {
     uint32_t room;
-    zeb::replace_with_copy(storage_of_vector(self), zeb::Source::of_another_array, [other TT_word_data],
-                           [other count], capacity, room, zeb::Fix_Report{self, _cmd});
+    zeb::replace_with_copy(
+        storage_of_vector(self), zeb::Source::of_another_array, [other TT_word_data], [other count], capacity,
+        room, zeb::Fix_Report { self, _cmd });
 }
 
 - (uint32_t)count

@@ -32,8 +32,9 @@ bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elemen
     }
     const std::uint64_t length = std::uint64_t{buffer.count} + record_count_size + size;
     // A string may be its own buffer; growth then moves what is to be appended.
-    const Source_Position source(buffer, Elements_Of<Plain_Elements<char>>{
-                                             static_cast<const char *>(elements), static_cast<uint32_t>(size)});
+    const Source_Position source(
+        buffer,
+        Elements_Of<Plain_Elements<char>>{static_cast<const char *>(elements), static_cast<uint32_t>(size)});
     if (!grow(buffer, length, report))
         return false;
     std::memcpy(buffer.data + buffer.count, &count, record_count_size);
@@ -44,7 +45,8 @@ bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elemen
 
 /// Appends the record of plain elements, in this machine's byte order.
 template <class Element, class Report>
-void encode_plain(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer buffer, Report report) noexcept
+void encode_plain(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer buffer,
+                  Report report) noexcept
 {
     append_record(buffer, vector.count, vector.data, std::uint64_t{vector.count} * sizeof(Element), report);
 }

@@ -1,6 +1,8 @@
 /// Values in the byte order of another machine.
 #pragma once
 
+#include "arrays/engine/kernel_lanes.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -17,23 +19,11 @@ constexpr std::uint32_t swap_bytes(std::uint32_t value) noexcept { return __buil
 
 constexpr std::uint64_t swap_bytes(std::uint64_t value) noexcept { return __builtin_bswap64(value); }
 
-/// The unsigned integer whose bytes are a value of `size` bytes.
-template <std::size_t size>
-struct Word_Of_Size;
-template <>
-struct Word_Of_Size<4> {
-    using Type = std::uint32_t;
-};
-template <>
-struct Word_Of_Size<8> {
-    using Type = std::uint64_t;
-};
-
 /// Any 4- or 8-byte value with its bytes reversed.
 template <class Value>
 Value swap_value(Value value) noexcept
 {
-    typename Word_Of_Size<sizeof(Value)>::Type word;
+    Bits_Lane<Value> word;
     std::memcpy(&word, &value, sizeof word);
     word = swap_bytes(word);
     std::memcpy(&value, &word, sizeof word);
@@ -44,7 +34,7 @@ Value swap_value(Value value) noexcept
 template <class Value>
 void copy_swapped(Value *values, const char *bytes, std::size_t n) noexcept
 {
-    using Word = typename Word_Of_Size<sizeof(Value)>::Type;
+    using Word = Bits_Lane<Value>;
     for (std::size_t i = 0; i < n; ++i) {
         Word word;
         std::memcpy(&word, bytes + i * sizeof word, sizeof word);

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "arrays/engine/editing.hpp"
+#include "arrays/engine/set_aside.hpp"
 #include "encoding/engine/zlib_loops.hpp"
-
-#include <cstring>
 
 namespace zeb
 {
@@ -35,16 +34,6 @@ struct Array_Sink {
     }
 };
 
-/// Whether the source lies in the array's own block, which growth would move under it.
-template <class Element>
-bool overlaps(Array_Storage<Plain_Elements<Element>> array, Byte_Run source) noexcept
-{
-    const std::less<> before;
-    const char *const first = reinterpret_cast<const char *>(array.data);
-    return array.data != nullptr && !before(source.bytes, first) &&
-           before(source.bytes, first + array.capacity);
-}
-
 /// Runs `work` (compress or decompress) from `source` into the end of `array`. A link refuses as an append
 /// does, before anything is done, and -1 is answered. A source within the array's own block is copied
 /// first.
@@ -58,20 +47,13 @@ std::int32_t run_zlib(Byte_Run source, Array_Storage<Plain_Elements<Element>> ar
         report(notes::append_array_through_link);
         return -1;
     }
-    void *copy = nullptr;
-    if (overlaps(array, source)) {
-        copy = reallocate(nullptr, source.length);
-        if (copy == nullptr) {
-            report(notes::reallocate_failed);
-            return zlib_out_of_memory;
-        }
-        std::memcpy(copy, source.bytes, source.length);
-        source.bytes = static_cast<const char *>(copy);
+    const Set_Aside<char> bytes({source.bytes, source.length}, array.data, array.capacity);
+    if (bytes.failed()) {
+        report(notes::reallocate_failed);
+        return zlib_out_of_memory;
     }
     Array_Sink<Element, Report> sink{array, report};
-    const std::int32_t status = work(source.bytes, source.length, sink.output());
-    release(copy);
-    return status;
+    return work(bytes.elements().data(), source.length, sink.output());
 }
 
 } // namespace zeb

@@ -25,7 +25,8 @@ bool append_row(Series *series, Line line)
         return false;
     const uint32_t at = date_length + 1;
     double value;
-    const uint32_t value_length = ZC_assign_double_from_char_c_array(line.text + at, line.length - at, &value);
+    const uint32_t value_length =
+        ZC_assign_double_from_char_c_array(line.text + at, line.length - at, &value);
     if (value_length == 0 || at + value_length != line.length)
         return false;
     [[series instants] append_double:instant];

@@ -33,9 +33,9 @@ bool begins_with_header(const uint8_t *bytes, uint32_t length)
 bool decode_record(ZEB_Byte_Array *contents, uint32_t &at, uint8_t needs_swap, ZEB_Double_Array *values)
 {
     char *const rest = reinterpret_cast<char *>([contents byte_data]) + at;
-    const uint32_t size =
-        [values ZEB_decode_binary_contents:[ZEB_String link_to_chars:rest count:[contents count] - at]
-                                needs_swap:needs_swap];
+    const uint32_t size = [values ZEB_decode_binary_contents:[ZEB_String link_to_chars:rest
+                                                                                 count:[contents count] - at]
+                                                  needs_swap:needs_swap];
     at += size;
     return size != 0;
 }

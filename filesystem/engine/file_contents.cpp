@@ -34,7 +34,10 @@ bool move_all(std::size_t size, std::size_t &count, Move move) noexcept
 
 } // namespace
 
-Open_File Open_File::for_reading(const char *path) noexcept { return Open_File(::open(path, O_RDONLY | O_CLOEXEC)); }
+Open_File Open_File::for_reading(const char *path) noexcept
+{
+    return Open_File(::open(path, O_RDONLY | O_CLOEXEC));
+}
 
 Open_File Open_File::for_writing(const char *path) noexcept
 {

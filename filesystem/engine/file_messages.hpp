@@ -18,8 +18,7 @@ inline constexpr Char_Span error_writing = span_of("Error writing contents to fi
 inline constexpr Char_Span warning_length_read = span_of("Warning: Discrepancy in actual length read ");
 inline constexpr Char_Span against_content_size = span_of(" v.s. content size ");
 inline constexpr Char_Span while_reading = span_of(" while reading contents of file: ");
-inline constexpr Char_Span warning_length_written =
-    span_of("Warning: Discrepancy in actual length written ");
+inline constexpr Char_Span warning_length_written = span_of("Warning: Discrepancy in actual length written ");
 inline constexpr Char_Span against_specified_length = span_of(" v.s. specified length ");
 inline constexpr Char_Span while_writing = span_of(" while writing contents to file: ");
 

@@ -1,6 +1,6 @@
 /// Every operation of object arrays, in every ownership mode, with the references counted.
-#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
 #import <Korvane_ZEB/Korvane_ZEB.h>
+#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
 
 #include <gtest/gtest.h>
 
@@ -186,7 +186,8 @@ TEST(Ownership, raw_blocks_are_borrowed)
     id run[] = {object, object};
     ZEB_Object_Array *const copied = [[ZEB_Object_Array alloc] init_as_copy_of_objects:run count:2];
     ZEB_Object_Array *const link = [[ZEB_Object_Array alloc] init_as_link_to_objects:run count:2];
-    EXPECT_EQ([copied ownership_mode] + [link ownership_mode], uint32_t{ZEB_OWNERSHIP_BORROWS});
+    EXPECT_EQ(
+        [copied ownership_mode] + [link ownership_mode], uint32_t { ZEB_OWNERSHIP_BORROWS });
     EXPECT_EQ([[[[ZEB_Object_Vector alloc] init] autorelease] ownership_mode],
               uint32_t{ZEB_OWNERSHIP_RETAINS});
     EXPECT_EQ([object retainCount], 1u);

@@ -1,4 +1,4 @@
-#include "arrays/engine/removal.hpp"
+#include "arrays/engine/removing.hpp"
 #include "arrays/engine/replace.hpp"
 
 #include "tests/arrays/random_elements.hpp"
@@ -141,12 +141,19 @@ TEST(Removal_Of_A_Range, closes_the_gap)
                     with_one = expected;
                     with_one.insert(with_one.begin() + start, 77);
                 }
-                std::vector<int32_t> ours = all;
-                ours.resize(zeb::remove_range(std::span(ours), {start, end}));
-                EXPECT_EQ(ours, expected) << count << ' ' << start << ' ' << end;
-                ours = all;
-                ours.resize(zeb::replace_range(std::span(ours), {start, end}, 77));
-                EXPECT_EQ(ours, with_one) << count << ' ' << start << ' ' << end;
+                const auto silent = [](ZEB_Char_Span) {};
+                const auto changed = [&](auto change) {
+                    std::vector<int32_t> ours = all;
+                    int32_t *data = ours.data();
+                    uint32_t length = count, marker = 0;
+                    change(zeb::Vector_Storage<zeb::Plain_Elements<int32_t>>{data, length, marker, {}});
+                    ours.resize(length);
+                    return ours;
+                };
+                const ZEB_Index_Range range{start, end};
+                EXPECT_EQ(changed([&](auto vector) { zeb::remove_range(vector, range, silent); }), expected);
+                EXPECT_EQ(changed([&](auto vector) { zeb::replace_range(vector, range, 77, silent); }),
+                          with_one);
             }
         }
     }

@@ -132,7 +132,10 @@ protected:
 
     using Elements = zeb::Elements_Of<Kind>;
 
-    zeb::Array_Storage<Kind> storage() { return {{data, count, marker, family.kind()}, capacity, model.seed}; }
+    zeb::Array_Storage<Kind> storage()
+    {
+        return {{data, count, marker, family.kind()}, capacity, model.seed};
+    }
 
     std::vector<int> values()
     {
@@ -287,7 +290,8 @@ protected:
     std::mt19937 random{20240229};
 };
 
-using Families = testing::Types<Plain_Array, Counted_Array<zeb::retains>, Counted_Array<zeb::adopts>, Held_Array>;
+using Families =
+    testing::Types<Plain_Array, Counted_Array<zeb::retains>, Counted_Array<zeb::adopts>, Held_Array>;
 TYPED_TEST_SUITE(Storage_Walk, Families);
 
 constexpr int step_count = 20000;

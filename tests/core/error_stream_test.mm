@@ -23,8 +23,9 @@ TEST(Error_Stream, each_diagnostic_is_one_line_and_one_count)
     ZEB_Byte_Array *const object = [ZEB_Byte_Array array_with_capacity:0];
     const SEL selector = @selector(insert_byte:at_index:);
     const uint32_t before = [stream warning_count];
-    EXPECT_EQ(standard_error_of([&] { [stream need_to_overload:selector object:object note:note]; }),
-              diagnostic("Need to overload selector: ", "insert_byte:at_index:", "ZEB_Byte_Array", "Two words"));
+    EXPECT_EQ(
+        standard_error_of([&] { [stream need_to_overload:selector object:object note:note]; }),
+        diagnostic("Need to overload selector: ", "insert_byte:at_index:", "ZEB_Byte_Array", "Two words"));
     EXPECT_EQ(standard_error_of([&] { [stream need_to_implement:selector object:object note:no_note]; }),
               diagnostic("Need to implement selector: ", "insert_byte:at_index:", "ZEB_Byte_Array", ""));
     EXPECT_EQ(standard_error_of([&] { [stream need_to_fix_algorithm:selector object:object note:note]; }),
@@ -42,7 +43,8 @@ TEST(Error_Stream, counts_also_what_it_does_not_print)
     [stream set_verbose:0];
     EXPECT_EQ([ZEB_Error_Stream shared_error_stream_if_verbose], nil);
     [stream reset_warning_count];
-    EXPECT_EQ(standard_error_of([&] { [stream need_to_implement:@selector(init) object:stream note:note]; }), "");
+    EXPECT_EQ(standard_error_of([&] { [stream need_to_implement:@selector(init) object:stream note:note]; }),
+              "");
     EXPECT_EQ([stream warning_count], 1u);
     [stream increment_warning_count];
     EXPECT_EQ([stream warning_count], 2u);

@@ -10,8 +10,13 @@ TEST(Scan_Format, widens_the_first_double_conversion_without_a_length)
         const char *given;
         const char *widened;
     } rows[] = {
-        {"%g", "%lg"},       {"%lf", "%lf"},          {"x %5e y", "x %5le y"}, {"%d %%g %f", "%d %%g %lf"},
-        {"%*g %G", "%*lg %G"}, {"no conversion", "no conversion"}, {"%", "%"},
+        {"%g", "%lg"},
+        {"%lf", "%lf"},
+        {"x %5e y", "x %5le y"},
+        {"%d %%g %f", "%d %%g %lf"},
+        {"%*g %G", "%*lg %G"},
+        {"no conversion", "no conversion"},
+        {"%", "%"},
     };
     for (const auto &row : rows) {
         char widened[32];

@@ -46,7 +46,8 @@ TEST(Binary_Header, is_recognised_in_both_byte_orders_and_else_not)
     ZEB_write_binary_header(header);
     const uint32_t words[] = {0x50AB40CD, 0, 2, 4, 2, 1, 1};
     EXPECT_EQ(bytes_of(header), "ZEB_EXTERNAL_BINARY_FORMAT_V1000" +
-                                    std::string(reinterpret_cast<const char *>(words), sizeof words) + "1111");
+                                    std::string(reinterpret_cast<const char *>(words), sizeof words) +
+                                    "1111");
     const auto needs_swap = [](ZEB_Char_Vector *text) {
         uint8_t answer = 9;
         ZEB_read_binary_header(text, &answer);
@@ -137,9 +138,9 @@ void expect_round_trip(Make make, Put put, const char *named, uint32_t width)
     [back set_link_marker:0];
 }
 
-#define EXPECT_ROUND_TRIP(Array, element, Element, width)                                                  \
-    expect_round_trip<Array>([] { return [Array array_with_capacity:0]; },                                 \
-                             [](Array *array, uint32_t i) { [array element:Sample<Element>::at(i)]; },     \
+#define EXPECT_ROUND_TRIP(Array, element, Element, width)                                                    \
+    expect_round_trip<Array>([] { return [Array array_with_capacity:0]; },                                   \
+                             [](Array *array, uint32_t i) { [array element:Sample<Element>::at(i)]; },       \
                              #Array, width)
 
 TEST(Binary_Contents, every_family_comes_back_the_same)
@@ -191,11 +192,12 @@ TEST(Binary_Contents, object_references_leave_no_trace)
 
 TEST(Binary_Contents, a_buffer_may_be_its_own_record_and_a_link_refuses)
 {
-    ZEB_String *const text = [[[ZEB_String alloc] init_as_copy_of_chars:"0123456789abcd" count:14] autorelease];
+    ZEB_String *const text = [[[ZEB_String alloc] init_as_copy_of_chars:"0123456789abcd"
+                                                                  count:14] autorelease];
     [text ZEB_encode_binary_contents:text];
     const uint32_t count = 14;
-    EXPECT_EQ(bytes_of(text), "0123456789abcd" + std::string(reinterpret_cast<const char *>(&count), 4) +
-                                  "0123456789abcd");
+    EXPECT_EQ(bytes_of(text),
+              "0123456789abcd" + std::string(reinterpret_cast<const char *>(&count), 4) + "0123456789abcd");
     ZEB_String *const link = link_behind(text, 3);
     EXPECT_EQ(standard_error_of([&] { [text ZEB_encode_binary_contents:link]; }),
               fix_line("ZEB_encode_binary_contents:", "ZEB_String",

@@ -19,8 +19,9 @@ ZEB_String *text(const std::string &characters)
 
 ZEB_Byte_Array *bytes(const std::string &characters)
 {
-    return [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
-                                                    count:static_cast<uint32_t>(characters.size())] autorelease];
+    return
+        [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
+                                                 count:static_cast<uint32_t>(characters.size())] autorelease];
 }
 
 const std::string contents = std::string(40000, 'x') + "tail";
@@ -66,8 +67,9 @@ TEST(Compression, a_link_refuses_once_and_before_anything_is_done)
     ZEB_String *const owner = text("abc");
     ZEB_String *const link = [ZEB_String link_to_chars:[owner char_data] count:3];
     int32_t status = 0;
-    EXPECT_EQ(standard_error_of([&] { status = ZC_compress_string_to_string(text(contents), link); }),
-              fix_line("append_chars:count:", "ZEB_String", "Cannot append array through link, no append made."));
+    EXPECT_EQ(
+        standard_error_of([&] { status = ZC_compress_string_to_string(text(contents), link); }),
+        fix_line("append_chars:count:", "ZEB_String", "Cannot append array through link, no append made."));
     EXPECT_EQ(status, -1);
     EXPECT_EQ([link count], 3u);
 }
@@ -78,10 +80,17 @@ TEST(Compression, tells_the_known_states)
         int32_t status;
         const char *line;
     } rows[] = {
-        {-6, "zlib version mismatch.\n"}, {-5, ""}, {-4, "out of memory.\n"},
-        {-3, "invalid or incomplete deflate data.\n"}, {-2, "invalid compression level.\n"},
-        {-1, "General error.\n"}, {0, ""}, {1, ""}, {-7, ""},
+        {-6, "zlib version mismatch.\n"},
+        {-5, ""},
+        {-4, "out of memory.\n"},
+        {-3, "invalid or incomplete deflate data.\n"},
+        {-2, "invalid compression level.\n"},
+        {-1, "General error.\n"},
+        {0, ""},
+        {1, ""},
+        {-7, ""},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(standard_error_of([&] { print_zlib_error(row.status); }), std::string("zlib error: ") + row.line);
+        EXPECT_EQ(standard_error_of([&] { print_zlib_error(row.status); }),
+                  std::string("zlib error: ") + row.line);
 }

@@ -14,8 +14,9 @@ namespace
 
 ZEB_Byte_Array *bytes(const std::string &characters)
 {
-    return [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
-                                                    count:static_cast<uint32_t>(characters.size())] autorelease];
+    return
+        [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
+                                                 count:static_cast<uint32_t>(characters.size())] autorelease];
 }
 
 std::string text_of_bytes(ZEB_Byte_Vector *vector)
@@ -61,11 +62,13 @@ TEST_F(File_Contents, failures_to_read_are_told_and_leave_nothing)
         return line;
     };
     EXPECT_EQ(read(entry(path)), "Error opening file: " + path + "\n");
-    EXPECT_EQ(read(entry(folder / "empty")), "Error, zero content size for file: " + (folder / "empty") + "\n");
+    EXPECT_EQ(read(entry(folder / "empty")),
+              "Error, zero content size for file: " + (folder / "empty") + "\n");
     EXPECT_EQ(read(entry(folder.path)), "Error reading contents of file: " + folder.path + "\n");
     ZEB_File *const plain = entry(folder / "plain");
     [plain set_contents_compressed:1];
-    EXPECT_EQ(read(plain), "Error: Decompress failed while reading contents of file: " + (folder / "plain") + "\n");
+    EXPECT_EQ(read(plain),
+              "Error: Decompress failed while reading contents of file: " + (folder / "plain") + "\n");
     [plain set_report_errors:0];
     EXPECT_EQ(read(plain), "");
 }
@@ -76,9 +79,10 @@ TEST_F(File_Contents, a_file_that_shrank_is_told_and_reads_as_zero_behind_its_en
     ZEB_File *const file = entry(path);
     put_file(path, "six by");
     ZEB_Byte_Array *const target = bytes("");
-    EXPECT_EQ(standard_error_of([&] { [file read_contents:target]; }),
-              "Warning: Discrepancy in actual length read 6 v.s. content size 12 while reading contents of file: " +
-                  path + "\n");
+    EXPECT_EQ(
+        standard_error_of([&] { [file read_contents:target]; }),
+        "Warning: Discrepancy in actual length read 6 v.s. content size 12 while reading contents of file: " +
+            path + "\n");
     EXPECT_EQ(text_of_bytes(target), std::string("six by") + std::string(6, '\0'));
 }
 
@@ -92,9 +96,8 @@ TEST_F(File_Contents, failures_to_write_are_told)
                   "Error writing contents to file: /dev/full\n");
     }
     // A path with a null inside is no path of the platform's.
-    EXPECT_EQ(standard_error_of([&] {
-                  EXPECT_EQ([entry(path + std::string("\0x", 2)) write_contents:"x" length:1], 0u);
-              }),
+    EXPECT_EQ(standard_error_of(
+                  [&] { EXPECT_EQ([entry(path + std::string("\0x", 2)) write_contents:"x" length:1], 0u); }),
               "Error opening file: " + path + std::string("\0x", 2) + "\n");
     EXPECT_EQ(access(path.c_str(), F_OK), -1);
 }
@@ -105,7 +108,8 @@ TEST_F(File_Contents, backstore_sets_aside_and_restore_brings_back)
     put_file(path + "~", "older");
     ZEB_File *const file = entry(path);
     [file set_log_actions:1];
-    EXPECT_EQ(standard_output_of([&] { EXPECT_EQ([file backstore], 1u); }), "Backstored file: " + path + "\n");
+    EXPECT_EQ(standard_output_of([&] { EXPECT_EQ([file backstore], 1u); }),
+              "Backstored file: " + path + "\n");
     EXPECT_EQ(text_of([file path]), path + std::string("~\0", 2));
     EXPECT_EQ(file_text(path + "~"), "first");
     [file refresh_status];
@@ -116,7 +120,8 @@ TEST_F(File_Contents, backstore_sets_aside_and_restore_brings_back)
     [own set_log_actions:1];
     EXPECT_EQ(standard_output_of([&] { EXPECT_EQ([own restore], 1u); }), "Restored file: " + path + "\n");
     EXPECT_EQ(file_text(path), "first");
-    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([own restore], 0u); }), "Error restoring file: " + path + "\n");
+    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([own restore], 0u); }),
+              "Error restoring file: " + path + "\n");
     EXPECT_EQ(text_of([own path]), path);
     const std::string missing = folder / "missing";
     ZEB_File *const none = entry(missing);

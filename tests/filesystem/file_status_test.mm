@@ -19,11 +19,11 @@ TEST(File_Status, is_what_the_platform_says)
     ASSERT_EQ(stat(path.c_str(), &found), 0);
     for (ZEB_File *const file : {entry(path), entry(folder / "link")}) {
         EXPECT_EQ([file exists], 1);
-        EXPECT_EQ([file kind], ZEB_File_Kind{ZEB_FILE_KIND_REGULAR});
+        EXPECT_EQ([file kind], ZEB_File_Kind { ZEB_FILE_KIND_REGULAR });
         EXPECT_EQ([file size], 5u);
-        const uint8_t bits[] = {[file owner_read],  [file owner_write],  [file owner_execute],
-                                [file group_read],  [file group_write],  [file group_execute],
-                                [file other_read],  [file other_write],  [file other_execute]};
+        const uint8_t bits[] = {[file owner_read], [file owner_write], [file owner_execute],
+                                [file group_read], [file group_write], [file group_execute],
+                                [file other_read], [file other_write], [file other_execute]};
         unsigned mode = 0;
         for (const uint8_t bit : bits)
             mode = mode * 2 + bit;
@@ -34,8 +34,8 @@ TEST(File_Status, is_what_the_platform_says)
         EXPECT_EQ([file uid], found.st_uid);
         EXPECT_EQ([file can_read] + [file can_write] + [file can_execute], 3);
     }
-    EXPECT_EQ([entry(folder.path) kind], ZEB_File_Kind{ZEB_FILE_KIND_DIRECTORY});
-    EXPECT_EQ([entry("/dev/null") kind], ZEB_File_Kind{ZEB_FILE_KIND_OTHER});
+    EXPECT_EQ([entry(folder.path) kind], ZEB_File_Kind { ZEB_FILE_KIND_DIRECTORY });
+    EXPECT_EQ([entry("/dev/null") kind], ZEB_File_Kind { ZEB_FILE_KIND_OTHER });
 }
 
 TEST(File_Status, of_nothing_clears_existence_and_size_alone)
@@ -48,7 +48,7 @@ TEST(File_Status, of_nothing_clears_existence_and_size_alone)
     EXPECT_EQ([file refresh_status], 1u);
     EXPECT_EQ([file exists], 0);
     EXPECT_EQ([file size], 0u);
-    EXPECT_EQ([file kind], ZEB_File_Kind{ZEB_FILE_KIND_REGULAR});
+    EXPECT_EQ([file kind], ZEB_File_Kind { ZEB_FILE_KIND_REGULAR });
 }
 
 TEST(File_Status, details_are_loaded_when_wanted)

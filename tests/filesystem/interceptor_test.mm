@@ -27,11 +27,8 @@ using namespace support;
     return decision;
 }
 
-#define ACT(signature)                                                                                     \
-    -(uint32_t)signature                                                                                   \
-    {                                                                                                      \
-        return ++acted;                                                                                    \
-    }
+#define ACT(signature)                                                                                       \
+    -(uint32_t)signature { return ++acted; }
 
 ACT(intercept_refresh_status : (ZEB_File *)file)
 ACT(intercept_create_file : (ZEB_File *)file)

@@ -9,6 +9,8 @@ gcc_headers=$(g++ -print-file-name=include)
 clang=(-fobjc-runtime=gcc -idirafter "$gcc_headers")
 strict=(-fsyntax-only -Wall -Wextra -Werror "-I$include")
 failed=0
+stamp=$list.passed
+"$(dirname "$0")/unchanged_since.sh" "$stamp" "$include" && exit 0
 
 compiles() { # COMPILER... < source on standard input
     "$@" - || { echo "not alone: <Korvane_ZEB/$name> with: $*"; failed=1; }
@@ -36,4 +38,5 @@ while read -r path; do
 done < "$list"
 gcc -x c -std=c11 -pedantic "${strict[@]}" - <<<'#include <Korvane_ZEB/Korvane_ZEB_C.h>' || failed=1
 grep -En '^#(import|include) "' $(cat "$list") && { echo "quoted includes in public headers"; failed=1; }
+[ $failed -eq 0 ] && touch "$stamp"
 exit $failed

@@ -148,6 +148,19 @@ TEST(String_Operations, turn_utf8_into_code_points_and_back)
     EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
 }
 
+TEST(String_Operations, serve_as_keys_of_a_dictionary)
+{
+    NSMutableDictionary *const table = [NSMutableDictionary dictionary];
+    ZEB_String *const key = string_of("key");
+    ZEB_Wide_String *const wide_key = wide_of(U"\U0001F511");
+    [table setObject:@"narrow" forKey:(id)key];
+    [table setObject:@"wide" forKey:(id)wide_key];
+    [key append_c_string:"s" length:1]; // the table keeps a copy
+    EXPECT_TRUE([[table objectForKey:string_of("key")] isEqual:@"narrow"]);
+    EXPECT_TRUE([[table objectForKey:wide_of(U"\U0001F511")] isEqual:@"wide"]);
+    EXPECT_EQ([table objectForKey:string_of("keys")], nil);
+}
+
 TEST(String_Views, are_live_and_empty_without_a_string)
 {
     ZEB_String *const string = string_of("abc");

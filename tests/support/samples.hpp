@@ -1,4 +1,5 @@
-/// Elements of every family, and what is to be told of them. Sample `i` differs from every other `i` below 100.
+/// Elements of every family, and what is to be told of them. Sample `i` differs from every other `i` below
+/// 100.
 #pragma once
 
 #import <Korvane_ZEB/Korvane_ZEB.h>

@@ -1,5 +1,5 @@
-#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
 #import <Korvane_ZEB/Korvane_ZEB.h>
+#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
 
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
@@ -55,9 +55,9 @@ Numbers numbers_of(ZEB_T_Vector *vector)
 {
     Numbers found;
     for (const Element &element : zeb::elements(vector))
-        found.push_back(static_cast<uint32_t>(
-            std::find_if(samples().begin(), samples().end(), [&](Element s) { return are_same(s, element); }) -
-            samples().begin()));
+        found.push_back(static_cast<uint32_t>(std::find_if(samples().begin(), samples().end(),
+                                                           [&](Element s) { return are_same(s, element); }) -
+                                              samples().begin()));
     return found;
 }
 
@@ -99,9 +99,8 @@ TEST(ZEB_T_Algorithms, ordered_operations_find_and_insert)
 
     ZEB_T_Array *const one = array_of({5});
     uint32_t answer = 9;
-    EXPECT_EQ(standard_error_of([&] {
-                  answer = [one ordered_index_of_TT_word:samples()[5] comparison:answer_nothing];
-              }),
+    EXPECT_EQ(standard_error_of(
+                  [&] { answer = [one ordered_index_of_TT_word:samples()[5] comparison:answer_nothing]; }),
               fix_line("ordered_index_of_TT_word:comparison:", "ZEB_T_Array",
                        "Warning: Ordered find stopped on unknown comparison."));
     EXPECT_EQ(answer, ZEB_NOT_FOUND);
@@ -162,9 +161,13 @@ TEST(ZEB_T_Algorithms, ranges_are_removed_and_replaced_and_must_not_be_reversed)
     [array remove_range:ZEB_Index_Range{2, 4294967295u}];
     EXPECT_EQ(numbers_of(array), (Numbers{0, 8}));
     const char *const reversed = "End index is less than start index in removal.";
-    EXPECT_EQ(standard_error_of([&] { [array remove_range:ZEB_Index_Range{2, 1}]; }),
+    EXPECT_EQ(standard_error_of([&] {
+                  [array remove_range:ZEB_Index_Range{2, 1}];
+              }),
               fix_line("remove_range:", "ZEB_T_Array", reversed));
-    EXPECT_EQ(standard_error_of([&] { [array replace_range:ZEB_Index_Range{1, 0} with_TT_word:samples()[1]]; }),
+    EXPECT_EQ(standard_error_of([&] {
+                  [array replace_range:ZEB_Index_Range{1, 0} with_TT_word:samples()[1]];
+              }),
               fix_line("replace_range:with_TT_word:", "ZEB_T_Array", reversed));
     EXPECT_EQ(numbers_of(array), (Numbers{0, 8}));
 }
@@ -185,7 +188,9 @@ TEST(ZEB_T_Algorithms, order_is_changed_as_told)
     ZEB_T_Array *const other = array_of({5, 6, 7});
     [other apply_inverse_permutation:indexes({2, 0, 1})];
     EXPECT_EQ(numbers_of(other), (Numbers{6, 7, 5}));
-    EXPECT_EQ(standard_error_of([&] { [other apply_permutation:indexes({0, 3, 1})]; }),
+    EXPECT_EQ(standard_error_of([&] {
+                  [other apply_permutation:indexes({0, 3, 1})];
+              }),
               fix_line("apply_permutation:", "ZEB_T_Array",
                        "Permutation names an element outside the array, no change made."));
     EXPECT_EQ(numbers_of(other), (Numbers{6, 7, 5}));

@@ -78,9 +78,9 @@ TEST(ZEB_T_Storage, initialisers_give_the_counts_and_capacities_they_promise)
     EXPECT_EQ([copied capacity], 5u);
     expect_samples(copied, {0, 1, 2, 3, 4});
     EXPECT_EQ([[model duplicate] capacity], 16u);
-    expect_samples([model duplicate], {0, 1, 2, 3, 4});
-    ZEB_T_Array *const of_run =
-        [[[ZEB_T_Array alloc] init_as_copy_of_TT_words:[model TT_word_data] count:5] autorelease];
+    expect_samples([model duplicate], { 0, 1, 2, 3, 4 });
+    ZEB_T_Array *const of_run = [[[ZEB_T_Array alloc] init_as_copy_of_TT_words:[model TT_word_data]
+                                                                         count:5] autorelease];
     EXPECT_EQ([of_run capacity], 16u);
     expect_samples(of_run, {0, 1, 2, 3, 4});
 }
@@ -170,9 +170,9 @@ TEST(ZEB_T_Storage, a_link_refuses_whatever_would_change_its_block_or_count)
                    [&] { [link set_length:1]; });
     expect_refusal(link, "extend_length_by:", "Cannot update capacity through link, no adjustment made.",
                    [&] { [link extend_length_by:1]; });
-    expect_refusal(link, "ensure_capacity_greater_than:",
-                   "Cannot modify capacity through link, no adjustment made.",
-                   [&] { [link ensure_capacity_greater_than:1]; });
+    expect_refusal(
+        link, "ensure_capacity_greater_than:", "Cannot modify capacity through link, no adjustment made.",
+        [&] { [link ensure_capacity_greater_than:1]; });
     expect_refusal(link, "ensure_room_for:", "Cannot update capacity through link, no adjustment made.",
                    [&] { [link ensure_room_for:1]; });
     expect_refusal(link, "copy_TT_word:", "Cannot copy element through link, no copy made.",

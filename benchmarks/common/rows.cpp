@@ -27,6 +27,7 @@ struct Result {
     double amount;
     double goal = 0;
     double limit_goal = 0;
+    std::string goal_peer; // empty for the best one
     std::vector<Contender> contenders;
 };
 
@@ -106,7 +107,7 @@ public:
 private:
     static void print(const std::string &name, const Result &row)
     {
-        double ours = 0, peer = 0, limit = 0;
+        double ours = 0, peer = 0, limit = 0, other = 0; // other: the peer of the goal
         std::string peer_name;
         for (const Contender &contender : row.contenders) {
             const double seconds = median(contender.seconds);
@@ -114,6 +115,8 @@ private:
                 ours = seconds;
             if (contender.role == 'l')
                 limit = seconds;
+            if (contender.role == 'p' && contender.name == row.goal_peer)
+                other = seconds;
             if (contender.role == 'p' && seconds > 0 && (peer == 0 || seconds < peer)) {
                 peer = seconds;
                 peer_name = contender.name;
@@ -122,10 +125,13 @@ private:
         if (ours == 0)
             return;
         const std::string peer_cell = peer == 0 ? "" : peer_name + " " + measured(row, peer);
+        std::string ratio_cell =
+            peer == 0 ? "" : ratio(peer / ours, row.goal_peer.empty() ? row.goal : 0, "%.2f", 1);
+        if (other > 0)
+            ratio_cell += "; " + row.goal_peer + " " + ratio(other / ours, row.goal, "%.2f", 1);
         const std::string limit_cell = limit == 0 ? "" : measured(row, limit);
         std::printf("| %s | %s | %s | %s | %s | %s |\n", name.c_str(), measured(row, ours).c_str(),
-                    peer_cell.c_str(), peer == 0 ? "" : ratio(peer / ours, row.goal, "%.2f", 1).c_str(),
-                    limit_cell.c_str(),
+                    peer_cell.c_str(), ratio_cell.c_str(), limit_cell.c_str(),
                     limit == 0 ? "" : ratio(limit / ours, row.limit_goal, "%.0f %%", 100).c_str());
     }
 };
@@ -162,13 +168,19 @@ Row::Row(std::string row, Measure measure, double amount, std::function<void()> 
     : name(std::move(row)), prepare(std::move(prepared))
 {
     table().order.push_back(name);
-    table().rows[name] = {measure, amount, 0, 0, {}};
+    table().rows[name] = {measure, amount, 0, 0, {}, {}};
 }
 
 Row &Row::goal(double times_the_best_peer)
 {
     table().rows[name].goal = times_the_best_peer;
     return *this;
+}
+
+Row &Row::goal_over(const std::string &peer, double times)
+{
+    table().rows[name].goal_peer = peer;
+    return goal(times);
 }
 
 Row &Row::limit_goal(double share_of_the_limit)

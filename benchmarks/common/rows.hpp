@@ -38,6 +38,8 @@ public:
 
     /// What the best peer's time, divided by the framework's, should reach.
     Row &goal(double times_the_best_peer);
+    /// What the time of one peer in particular, divided by the framework's, should reach.
+    Row &goal_over(const std::string &peer, double times);
     /// What the limit's time, divided by the framework's, should reach.
     Row &limit_goal(double share_of_the_limit);
 

@@ -69,11 +69,11 @@ void add_rows(const std::string &name, const std::string &utf8, double goal)
     const std::size_t n = utf8.size() < 1024 ? 1000 : 1;
     const double amount = static_cast<double>(utf8.size() * n);
     Row decoding("8-bit to 32-bit, " + name, Measure::Bytes, amount);
-    decoding.goal(goal)
+    decoding.goal_over("platform", goal)
         .framework(times(n, [=] { [to_wide set_from_string:chars]; }))
         .peer("platform", times(n, [=] { decode_by_platform(chars, wide); }));
     Row encoding("32-bit to 8-bit, " + name, Measure::Bytes, amount);
-    encoding.goal(goal)
+    encoding.goal_over("platform", goal)
         .framework(times(n, [=] { [to_chars set_from_wide_string:wide]; }))
         .peer("platform", times(n, [=] { encode_by_platform(wide, back); }));
 #if ZEB_HAS_QT

@@ -6,7 +6,7 @@ guards=$(cd "$(dirname "$0")" && pwd)
 cd "$1" || exit 1
 include=$2
 failed=0
-stamp=$include/engine_is_plain.passed
+stamp=$include/../engine_is_plain.passed
 "$guards/unchanged_since.sh" "$stamp" . && exit 0
 headers=$(find . -path ./build -prune -o -path '*/engine/*.hpp' -print)
 sources=$(find . -path ./build -prune -o -path '*/engine/*.cpp' -print)

@@ -89,13 +89,22 @@ bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<K
     return true;
 }
 
+/// The append of an element that does not find its slot ready. Kept out of line, so that the one that
+/// does is nothing but two tests and a store.
+template <class Kind, class Report>
+[[gnu::noinline, gnu::cold]] void append_with_growth(Array_Storage<Kind> array,
+                                                     typename Kind::Element element, Report report) noexcept
+{
+    if (array.is_link())
+        return report(notes::append_element_through_link);
+    insert_with_room(array, array.count, Elements_Of<Kind>{&element, 1}, array.count, report);
+}
+
 template <class Kind, class Report>
 inline void append_element(Array_Storage<Kind> array, typename Kind::Element element, Report report) noexcept
 {
-    if (array.is_link()) [[unlikely]]
-        return report(notes::append_element_through_link);
-    if (!grow(array, array.count, report) || !open_up_to(array, array.count + 1, report)) [[unlikely]]
-        return;
+    if (array.is_link() || array.count >= array.capacity || !Kind::is_plain) [[unlikely]]
+        return append_with_growth(array, element, report);
     array.kind.assign(array.data + array.count, &element, 1);
     ++array.count;
 }

@@ -26,6 +26,12 @@ inline constexpr std::uint64_t greatest_capacity = UINT32_MAX;
 /// The smallest seed × 2^k that is at least `count`. Seed 0 counts as 1.
 std::uint64_t proper_capacity(std::uint32_t count, std::uint32_t seed) noexcept;
 
+/// A capacity as a field holds it: one that does not fit is the greatest.
+constexpr std::uint32_t capacity_in_32_bits(std::uint64_t capacity) noexcept
+{
+    return static_cast<std::uint32_t>(capacity < greatest_capacity ? capacity : greatest_capacity);
+}
+
 /// Growth's rule: the capacity itself when it exceeds `needed`; else raised to the seed, then doubled
 /// while it does not exceed `needed`. The answer may not fit in 32 bits; such a block cannot be had.
 std::uint64_t grown_capacity(std::uint32_t capacity, std::uint64_t needed, std::uint32_t seed) noexcept;

@@ -138,7 +138,7 @@ Elements elements_of(ZEB_T_Vector *vector)
 
 - (uint32_t)proper_capacity
 {
-    return static_cast<uint32_t>(zeb::proper_capacity(count, zeb::ZEB_T_growth_seed));
+    return zeb::capacity_in_32_bits(zeb::proper_capacity(count, zeb::ZEB_T_growth_seed));
 }
 
 - (void)trim_allocation

@@ -64,7 +64,9 @@ void fill(Lane *lanes, std::size_t count, Lane value)
 template <class D>
 HWY_INLINE hn::Vec<D> reversed(D d, hn::Vec<D> vector)
 {
-    if constexpr (sizeof(hn::TFromD<D>) > 1) {
+    if constexpr (HWY_TARGET == HWY_SCALAR) {
+        return vector;
+    } else if constexpr (sizeof(hn::TFromD<D>) > 1) {
         return hn::Reverse(d, vector);
     } else {
         // Bytes turn within blocks of sixteen, then the blocks turn.

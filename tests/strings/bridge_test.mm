@@ -16,6 +16,13 @@ namespace
 
 using Units = std::vector<uint32_t>;
 
+// Every code point is looked at; under a sanitizer, which makes the platform slow, one in a few.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr uint32_t code_point_step = 13;
+#else
+constexpr uint32_t code_point_step = 1;
+#endif
+
 ZEB_String *string_of(const std::string &text)
 {
     return [[[ZEB_String alloc] init_as_copy_of_chars:text.data()
@@ -120,7 +127,7 @@ TEST_F(Bridge, every_scalar_value_comes_over_as_the_platform_brings_it)
 {
     Draining pool;
     uint32_t other = 'a';
-    for (uint32_t code_point = 0; code_point <= 0x10FFFF; ++code_point) {
+    for (uint32_t code_point = 0; code_point <= 0x10FFFF; code_point += code_point_step) {
         if (code_point >= 0xD800 && code_point < 0xE000)
             continue;
         const std::string utf8 = reference::utf8_of(code_point);

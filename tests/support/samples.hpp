@@ -94,13 +94,13 @@ inline bool precedes(ZEB_Byte_Array *left, ZEB_Byte_Array *right)
     return std::memcmp([left byte_data], [right byte_data], 2) < 0;
 }
 
-/// Keeps elements that are objects alive.
+/// Keeps elements that are objects alive for good.
 template <class Element>
-void keep(NSMutableArray *kept, const std::vector<Element> &elements)
+void keep(const std::vector<Element> &elements)
 {
     if constexpr (std::is_convertible_v<Element, id> && !std::is_same_v<Element, void *>)
         for (const Element element : elements)
-            [kept addObject:element];
+            [element retain];
 }
 
 } // namespace support

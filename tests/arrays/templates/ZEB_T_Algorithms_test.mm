@@ -25,12 +25,11 @@ using Numbers = std::vector<uint32_t>;
 /// Samples that stay the same objects, so that references can be told apart; they ascend by their number.
 const std::vector<Element> &samples()
 {
-    static NSMutableArray *const kept = [[NSMutableArray alloc] init];
     static const std::vector<Element> made = [] {
         std::vector<Element> all;
         for (uint32_t i = 0; i < 10; ++i)
             all.push_back(support::Sample<Element>::at(i));
-        support::keep(kept, all);
+        support::keep(all);
         std::sort(all.begin(), all.end(), support::precedes<Element>);
         return all;
     }();

@@ -25,15 +25,16 @@ using Numbers = std::vector<uint32_t>;
 /// Samples that stay the same objects, so that references can be told apart; they ascend by their number.
 const std::vector<Element> &samples()
 {
-    static const std::vector<Element> made = [] {
+    // Never ended: what it holds is to be reachable when leaks are looked for.
+    static const auto *const made = new std::vector<Element>([] {
         std::vector<Element> all;
         for (uint32_t i = 0; i < 10; ++i)
             all.push_back(support::Sample<Element>::at(i));
         support::keep(all);
         std::sort(all.begin(), all.end(), support::precedes<Element>);
         return all;
-    }();
-    return made;
+    }());
+    return *made;
 }
 
 ZEB_T_Array *array_of(const Numbers &numbers)

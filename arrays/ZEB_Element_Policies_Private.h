@@ -18,6 +18,11 @@ struct Object_Policy {
     static void release(id object) { [object release]; }
 };
 
+/// Gives an object that an array holds the room for the contents of another; false where there is no memory.
+bool make_room_in(ZEB_String *object, ZEB_String *source);
+bool make_room_in(ZEB_Wide_String *object, ZEB_Wide_String *source);
+bool make_room_in(ZEB_Byte_Array *object, ZEB_Byte_Array *source);
+
 /// Strings and byte arrays, which an array of them makes, fills and ends. They are equal, and ordered, by
 /// their elements, read as unsigned.
 struct Contents_Policy {
@@ -39,6 +44,7 @@ protected:
 struct String_Policy : Contents_Policy {
     using Element = ZEB_String *;
     static ZEB_String *make() { return [[ZEB_String alloc] init]; }
+    static bool make_room(ZEB_String *object, ZEB_String *source) { return make_room_in(object, source); }
     static bool precedes(ZEB_String *left, ZEB_String *right)
     {
         return orders_before<uint8_t>([left char_data], [left count], [right char_data], [right count]);
@@ -48,6 +54,10 @@ struct String_Policy : Contents_Policy {
 struct Wide_String_Policy : Contents_Policy {
     using Element = ZEB_Wide_String *;
     static ZEB_Wide_String *make() { return [[ZEB_Wide_String alloc] init]; }
+    static bool make_room(ZEB_Wide_String *object, ZEB_Wide_String *source)
+    {
+        return make_room_in(object, source);
+    }
     static bool precedes(ZEB_Wide_String *left, ZEB_Wide_String *right)
     {
         return orders_before<uint32_t>([left wide_char_data], [left count], [right wide_char_data],
@@ -58,6 +68,10 @@ struct Wide_String_Policy : Contents_Policy {
 struct Byte_Array_Policy : Contents_Policy {
     using Element = ZEB_Byte_Array *;
     static ZEB_Byte_Array *make() { return [[ZEB_Byte_Array alloc] init]; }
+    static bool make_room(ZEB_Byte_Array *object, ZEB_Byte_Array *source)
+    {
+        return make_room_in(object, source);
+    }
     static bool precedes(ZEB_Byte_Array *left, ZEB_Byte_Array *right)
     {
         return orders_before<uint8_t>([left byte_data], [left count], [right byte_data], [right count]);

@@ -8,17 +8,25 @@
 namespace zeb
 {
 
-/// A copy of a run of objects, kept as the array keeps its own.
+/// A copy of a run of objects, or several copies one after the other, kept as the array keeps its own.
 template <class Kind>
 class Copied_Run
 {
 public:
     template <class Report>
-    Copied_Run(Kind kind, std::span<typename Kind::Element const> run, Report report) noexcept
+    Copied_Run(Kind kind, std::span<typename Kind::Element const> run, Report report,
+               std::uint32_t times = 1) noexcept
         : storage{data, count, marker, kind.fresh(state)}
     {
         const auto n = static_cast<std::uint32_t>(run.size());
-        was_had = start_as_copy(storage, Source::of_another_array, run.data(), n, n, report) == n;
+        was_had = start(storage, n * times, n * times, report) == n * times;
+        for (std::uint32_t i = 0; was_had && i < times; ++i) {
+            was_had = kind.prepare(data + i * n, run.data(), n);
+            if (was_had)
+                kind.assign_shared(data + i * n, run.data(), n);
+            else
+                report(notes::allocate_failed);
+        }
     }
 
     ~Copied_Run() { finish(storage); }
@@ -28,6 +36,9 @@ public:
 
     bool is_had() const noexcept { return was_had; }
     std::span<typename Kind::Element const> get() const noexcept { return {data, count}; }
+
+    /// The slots themselves: whatever is put there ends with the run.
+    typename Kind::Element *slots() noexcept { return data; }
 
 private:
     typename Kind::Element *data = nullptr;

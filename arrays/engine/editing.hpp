@@ -37,6 +37,12 @@ public:
             elements.source = Source::of_another_array;
     }
 
+    /// Prepares the slots from `at` on for the source, before anything moved.
+    bool prepare(Array_Storage<Kind> array, std::uint32_t at) const noexcept
+    {
+        return array.kind.prepare(array.data + at, own ? array.data + index : elements.first, elements.count);
+    }
+
     /// Assigns the source to the slots that were opened at `at`, after the gap was made there.
     void assign_to_gap(Array_Storage<Kind> array, std::uint32_t at) const noexcept
     {
@@ -81,6 +87,10 @@ bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<K
     const std::uint64_t count = std::uint64_t{array.count} + elements.count;
     if (!grow(array, needed, report) || !open_up_to(array, static_cast<std::uint32_t>(count), report))
         return false;
+    if (!source.prepare(array, array.count)) {
+        report(notes::reallocate_failed);
+        return false;
+    }
     const std::uint32_t index = std::min(at, array.count);
     if (index < array.count)
         array.kind.open_gap(array.data, array.count, index, elements.count);
@@ -172,6 +182,8 @@ void set_contents(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report 
         return;
     if (elements.count > array.count && !open_up_to(array, elements.count, report, notes::allocate_failed))
         return;
+    if (!source.prepare(array, 0))
+        return report(notes::allocate_failed);
     source.assign_to_front(array);
     if (elements.count < array.count)
         array.kind.close(array.data, elements.count, array.count);
@@ -186,6 +198,8 @@ void copy_element(Array_Storage<Kind> array, typename Kind::Element element, Rep
         return report(notes::copy_element_through_link);
     if (!grow(array, 1, report) || (array.count == 0 && !open_up_to(array, 1, report)))
         return;
+    if (!array.kind.prepare(array.data, &element, 1))
+        return report(notes::reallocate_failed);
     array.kind.assign(array.data, &element, 1);
     if (array.count > 1)
         array.kind.close(array.data, 1, array.count);

@@ -1,11 +1,13 @@
 /// How an array keeps an element: plainly, as a counted reference, or as an object of its own.
 ///
-/// A kind knows six moves, from which every array operation is made. `data` is the array's block, and the
+/// A kind knows seven moves, from which every array operation is made. `data` is the array's block, and the
 /// live elements are those below the count.
 ///
 ///     open       slots become live: undefined values, no object, or an empty object
 ///     close      slots stop being live: what they hold is dropped
-///     assign     live slots take the elements of a source (which may lie in the same block, further up)
+///     prepare    live slots get the room for a source's contents; where that cannot be had, nothing changed
+///     assign     live slots take the elements of a source (which may lie in the same block, further up);
+///                after `prepare` this cannot fail
 ///     open_gap   live elements move up; the slots in between are as freshly opened
 ///     close_gap  live elements are dropped and those after them move down
 ///     destroy    the array ends, or its block is cut: drops what the slots from an index on still hold
@@ -43,6 +45,7 @@ struct Plain_Elements {
     void take(Fresh) const noexcept {}
 
     bool open(Element *, std::uint32_t, std::uint32_t) const noexcept { return true; }
+    bool prepare(Element *, Element const *, std::uint32_t) const noexcept { return true; }
     void close(Element *, std::uint32_t, std::uint32_t) const noexcept {}
     void destroy(Element *, std::uint32_t, std::uint32_t) const noexcept {}
 
@@ -112,6 +115,8 @@ struct Counted_References {
             drop(data[i]);
     }
 
+    bool prepare(Element *, Element const *, std::uint32_t) const noexcept { return true; }
+
     /// The source's references are the caller's: mode 1 takes them over.
     void assign(Element *slots, Element const *source, std::uint32_t n) const noexcept
     {
@@ -159,7 +164,8 @@ private:
 };
 
 /// Objects that the array makes itself, one for a slot, and keeps past the count for reuse. Storing an
-/// element copies its contents into the slot's object. `Policy` makes, copies, compares and ends them.
+/// element copies its contents into the slot's object. `Policy` makes, copies, compares and ends them, and
+/// makes the room that a copy takes.
 template <class Policy>
 struct Held_Objects {
     using Element = typename Policy::Element;
@@ -203,6 +209,14 @@ struct Held_Objects {
             data[i] = Element{};
         }
         held = std::min(held, from);
+    }
+
+    bool prepare(Element *slots, Element const *source, std::uint32_t n) const noexcept
+    {
+        for (std::uint32_t i = 0; i < n; ++i)
+            if (slots[i] != source[i] && !Policy::make_room(slots[i], source[i]))
+                return false;
+        return true;
     }
 
     void assign(Element *slots, Element const *source, std::uint32_t n) const noexcept

@@ -4,8 +4,10 @@
 #include "arrays/engine/copied_run.hpp"
 #include "arrays/engine/editing.hpp"
 #include "arrays/engine/replace_occurrences.hpp"
+#include "arrays/engine/scratch.hpp"
 
 #include <span>
+#include <utility>
 
 namespace zeb
 {
@@ -13,49 +15,98 @@ namespace zeb
 namespace occurrences_detail
 {
 
-/// Puts the replacement in the place of one occurrence, of `length` elements at `at`; the block has room.
-template <class Kind, class Report>
-void replace_one(Array_Storage<Kind> array, std::uint32_t at, std::uint32_t length,
-                 std::span<typename Kind::Element const> replacement, Report report) noexcept
+/// Where the occurrences of a run start, the length of that run, and of what comes in its place.
+struct Occurrences {
+    std::span<const std::uint32_t> starts;
+    std::uint32_t pattern_length;
+    std::uint32_t replacement_length;
+};
+
+/// Exchanges each occurrence for the next elements of `fresh`, which are not longer, and closes the gaps.
+/// The slots past the new count are left with what was dropped.
+template <class Element>
+void exchange_from_front(Element *data, std::uint32_t count, Occurrences found, Element *fresh) noexcept
 {
-    const auto r = static_cast<std::uint32_t>(replacement.size());
-    const std::uint32_t shared = std::min(length, r);
-    array.kind.assign_shared(array.data + at, replacement.data(), shared);
-    if (r > length)
-        insert_with_room(array, at + shared,
-                         Elements_Of<Kind>{replacement.data() + shared, r - shared, Source::of_another_array},
-                         array.count, report);
-    else if (r < length)
-        take_out(Vector_Storage<Kind>(array), at + shared, length - shared);
+    std::uint32_t read = 0;
+    std::uint32_t written = 0;
+    const auto keep_until = [&](std::uint32_t end) {
+        while (read < end)
+            std::swap(data[written++], data[read++]);
+    };
+    for (const std::uint32_t start : found.starts) {
+        keep_until(start);
+        for (std::uint32_t i = 0; i < found.replacement_length; ++i)
+            std::swap(data[written++], *fresh++);
+        read += found.pattern_length;
+    }
+    keep_until(count);
 }
 
-/// Objects are replaced one occurrence after the other. Both runs are copied first: what they name may be
-/// among the elements that change.
+/// The same for longer replacements: the slots up to `new_count` are open.
+template <class Element>
+void exchange_from_back(Element *data, std::uint32_t count, std::uint32_t new_count, Occurrences found,
+                        Element *fresh) noexcept
+{
+    std::uint32_t read = count;
+    std::uint32_t written = new_count;
+    fresh += found.starts.size() * found.replacement_length;
+    for (std::size_t left = found.starts.size(); left != 0; --left) {
+        const std::uint32_t end = found.starts[left - 1] + found.pattern_length;
+        while (read > end)
+            std::swap(data[--written], data[--read]);
+        for (std::uint32_t i = 0; i < found.replacement_length; ++i)
+            std::swap(data[--written], *--fresh);
+        read -= found.pattern_length;
+    }
+}
+
+/// Exchanges the occurrences for `fresh`, which holds what comes in their place; false, after a report, where
+/// the array cannot grow.
+template <class Kind, class Report>
+bool exchange(Array_Storage<Kind> array, std::uint32_t new_count, Occurrences found,
+              typename Kind::Element *fresh, Report report) noexcept
+{
+    if (new_count <= array.count) {
+        exchange_from_front(array.data, array.count, found, fresh);
+        array.kind.close(array.data, new_count, array.count);
+    } else {
+        if (!grow(array, new_count, report, notes::allocate_failed) ||
+            !open_up_to(array, new_count, report, notes::allocate_failed))
+            return false;
+        exchange_from_back(array.data, array.count, new_count, found, fresh);
+    }
+    array.count = new_count;
+    return true;
+}
+
+/// Objects that stay keep their identity; what is dropped ends with the copies that were made of the
+/// replacement. Both runs may be among the elements that change.
 template <class Kind, class Report>
 std::uint32_t replace_objects(Array_Storage<Kind> array, std::span<typename Kind::Element const> pattern,
                               std::span<typename Kind::Element const> replacement, Report report) noexcept
 {
-    const typename Kind::Equality equal;
     const std::span<typename Kind::Element const> elements = array.elements();
-    const std::uint32_t found = count_occurrences(elements, pattern, equal);
-    if (found == 0)
+    if (elements.size() < pattern.size())
         return 0;
-    const Copied_Run<Kind> from(array.kind, pattern, report);
-    const Copied_Run<Kind> to(array.kind, replacement, report);
+    const Scratch<std::uint32_t> starts(elements.size() / pattern.size());
+    std::uint32_t found = 0;
+    if (starts.get() != nullptr)
+        for_each_occurrence(
+            elements, pattern, [&](std::uint32_t start) { starts.get()[found++] = start; },
+            typename Kind::Equality());
     const std::uint64_t count =
-        std::uint64_t{array.count} - found * pattern.size() + std::uint64_t{found} * replacement.size();
-    const auto larger = std::max<std::uint64_t>(count, array.count);
-    if (!from.is_had() || !to.is_had() || !grow(array, larger, report, notes::allocate_failed) ||
-        !open_up_to(array, static_cast<std::uint32_t>(larger), report, notes::allocate_failed))
+        elements.size() - std::uint64_t{found} * pattern.size() + std::uint64_t{found} * replacement.size();
+    if (starts.get() == nullptr || count > UINT32_MAX)
+        report(notes::allocate_failed);
+    if (found == 0 || count > UINT32_MAX)
         return 0;
-    std::uint32_t at = 0;
-    for (std::uint32_t left = found; left != 0; --left) {
-        const std::span<typename Kind::Element const> now = array.elements();
-        at = find_occurrence(now, from.get(), at, equal);
-        replace_one(array, at, static_cast<std::uint32_t>(pattern.size()), to.get(), report);
-        at += static_cast<std::uint32_t>(replacement.size());
-    }
-    return found;
+    const Occurrences occurrences{{starts.get(), found},
+                                  static_cast<std::uint32_t>(pattern.size()),
+                                  static_cast<std::uint32_t>(replacement.size())};
+    Copied_Run<Kind> fresh(array.kind, replacement, report, found);
+    const bool exchanged = fresh.is_had() && exchange(array, static_cast<std::uint32_t>(count), occurrences,
+                                                      fresh.slots(), report);
+    return exchanged ? found : 0;
 }
 
 } // namespace occurrences_detail

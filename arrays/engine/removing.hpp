@@ -70,6 +70,8 @@ void replace_range(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename 
 {
     if (is_reversed(range, report) || range.start >= vector.count)
         return;
+    if (!vector.kind.prepare(vector.data + range.start, &element, 1))
+        return report(notes::allocate_failed);
     vector.kind.assign(vector.data + range.start, &element, 1);
     take_out(vector, range.start + 1, std::min(range.end, vector.count - 1) - range.start);
 }

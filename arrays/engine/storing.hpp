@@ -13,8 +13,8 @@
 namespace zeb
 {
 
-/// One element that goes into several slots. The first takes over the caller's reference, where the kind
-/// takes it; the others take references of their own.
+/// One element that goes into several slots, each of them prepared first. The first takes over the caller's
+/// reference, where the kind takes it; the others take references of their own.
 template <class Kind>
 class Repeated_Element
 {
@@ -22,6 +22,11 @@ public:
     Repeated_Element(Vector_Storage<Kind> vector, typename Kind::Element element) noexcept
         : vector(vector), element(element)
     {
+    }
+
+    bool prepare(std::uint32_t index) const noexcept
+    {
+        return vector.kind.prepare(vector.data + index, &element, 1);
     }
 
     void store(std::uint32_t index) noexcept
@@ -37,38 +42,50 @@ private:
 };
 
 /// Stores `element` into the range, both ends included; a range that starts after its end fills nothing,
-/// and what of it lies past the last element is left out.
-template <class Kind>
-void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range,
-                     typename Kind::Element element) noexcept
+/// and what of it lies past the last element is left out. Where an object cannot take the contents, that is
+/// reported, and nothing changes.
+template <class Kind, class Report>
+void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename Kind::Element element,
+                     Report report) noexcept
 {
     if constexpr (Kind::is_plain) {
         fill_range(vector.elements(), range, element);
     } else {
         Repeated_Element<Kind> repeated(vector, element);
-        for (std::uint32_t i = range.start; i <= range.end && i < vector.count; ++i)
+        const std::uint64_t end = std::min(std::uint64_t{range.end} + 1, std::uint64_t{vector.count});
+        for (std::uint32_t i = range.start; i < end; ++i)
+            if (!repeated.prepare(i))
+                return report(notes::allocate_failed);
+        for (std::uint32_t i = range.start; i < end; ++i)
             repeated.store(i);
     }
 }
 
-/// Stores `element` everywhere.
-template <class Kind>
-void fill_with(Vector_Storage<Kind> vector, typename Kind::Element element) noexcept
+/// Stores `element` everywhere, under the same conditions.
+template <class Kind, class Report>
+void fill_with(Vector_Storage<Kind> vector, typename Kind::Element element, Report report) noexcept
 {
     if (vector.count != 0)
-        fill_range_with(vector, {0, vector.count - 1}, element);
+        fill_range_with(vector, {0, vector.count - 1}, element, report);
 }
 
-/// Stores `replacement` over every element equal to `element`, and answers how many those were.
-template <class Kind>
+/// Stores `replacement` over every element equal to `element`, and answers how many those were. Where an
+/// object cannot take the contents, that is reported, nothing changes, and the answer is 0.
+template <class Kind, class Report>
 std::uint32_t replace_every(Vector_Storage<Kind> vector, typename Kind::Element element,
-                            typename Kind::Element replacement) noexcept
+                            typename Kind::Element replacement, Report report) noexcept
 {
     if constexpr (Kind::is_plain) {
         return replace_equal(vector.elements(), element, replacement);
     } else {
         const typename Kind::Equality equal;
         Repeated_Element<Kind> repeated(vector, replacement);
+        for (std::uint32_t i = 0; i < vector.count; ++i) {
+            if (equal(vector.data[i], element) && !repeated.prepare(i)) {
+                report(notes::allocate_failed);
+                return 0;
+            }
+        }
         std::uint32_t replaced = 0;
         std::uint32_t last = vector.count;
         for (std::uint32_t i = 0; i < vector.count; ++i) {
@@ -102,17 +119,24 @@ Permutation_Outcome permute_plain(Vector_Storage<Kind> vector, std::span<const s
 
 /// Entries may repeat, so that objects are stored anew rather than moved.
 template <class Kind, class Report>
-Permutation_Outcome permute_objects(Vector_Storage<Kind> vector, std::span<const std::uint32_t> permutation,
-                                    Permutation_Way way, Report report) noexcept
+void permute_objects(Vector_Storage<Kind> vector, std::span<const std::uint32_t> permutation,
+                     Permutation_Way way, Report report) noexcept
 {
     const Copied_Run<Kind> copy(vector.kind, vector.elements(), report);
-    const std::size_t used = std::min(copy.get().size(), permutation.size());
-    for (std::uint32_t i = 0; i < used; ++i) {
-        const std::uint32_t from = way == Permutation_Way::forward ? permutation[i] : i;
-        const std::uint32_t to = way == Permutation_Way::forward ? i : permutation[i];
-        vector.kind.assign_shared(vector.data + to, copy.get().data() + from, 1);
-    }
-    return Permutation_Outcome::Applied;
+    if (!copy.is_had())
+        return;
+    const auto used = static_cast<std::uint32_t>(std::min(copy.get().size(), permutation.size()));
+    const auto slot = [&](std::uint32_t i) {
+        return vector.data + (way == Permutation_Way::forward ? i : permutation[i]);
+    };
+    const auto source = [&](std::uint32_t i) {
+        return copy.get().data() + (way == Permutation_Way::forward ? permutation[i] : i);
+    };
+    for (std::uint32_t i = 0; i < used; ++i)
+        if (!vector.kind.prepare(slot(i), source(i), 1))
+            return report(notes::allocate_failed);
+    for (std::uint32_t i = 0; i < used; ++i)
+        vector.kind.assign_shared(slot(i), source(i), 1);
 }
 
 } // namespace storing_detail

@@ -90,6 +90,11 @@ std::uint32_t start_as_copy(Vector_Storage<Kind> storage, Source source,
                             Report report) noexcept
 {
     const std::uint32_t room = start(storage, n, capacity, report);
+    if (!storage.kind.prepare(storage.data, elements, storage.count)) {
+        report(notes::allocate_failed);
+        finish(storage);
+        return 0;
+    }
     assign_from(source, storage.kind, storage.data, elements, storage.count);
     return room;
 }

@@ -92,17 +92,17 @@ std::span<uint32_t> indexes_of(ZEB_UInt_Array *indexes) { return {[indexes uint_
 
 - (void)fill_with_TT_word:(ZEB_T_Element)element
 {
-    zeb::fill_with(storage_of_vector(self), element);
+    zeb::fill_with(storage_of_vector(self), element, zeb::Fix_Report{self, _cmd});
 }
 
 - (void)fill_range:(ZEB_Index_Range)range with_TT_word:(ZEB_T_Element)element
 {
-    zeb::fill_range_with(storage_of_vector(self), range, element);
+    zeb::fill_range_with(storage_of_vector(self), range, element, zeb::Fix_Report{self, _cmd});
 }
 
 - (uint32_t)replace_every_TT_word:(ZEB_T_Element)element with:(ZEB_T_Element)replacement
 {
-    return zeb::replace_every(storage_of_vector(self), element, replacement);
+    return zeb::replace_every(storage_of_vector(self), element, replacement, zeb::Fix_Report{self, _cmd});
 }
 
 - (void)remove_every_TT_word:(ZEB_T_Element)element

@@ -125,19 +125,20 @@ bool may_decode(Array_Storage<Kind> array, std::uint32_t size, Report report) no
     return !array.is_link() && size != 0;
 }
 
-/// Gives a growable array the room and the count of a record; false, after a report, where it cannot be.
-template <class Kind, class Report>
-bool take_record_count(Array_Storage<Kind> array, std::uint32_t count, Report report) noexcept
+/// What is said when an array cannot take a record's elements.
+template <class Kind>
+Char_Span failure_of_room(Array_Storage<Kind> array) noexcept
 {
-    const Char_Span failure = array.data == nullptr ? notes::allocate_failed : notes::reallocate_failed;
-    if (count != 0 && !grow(array, count, report, failure))
-        return false;
-    if (count < array.count)
-        array.kind.close(array.data, count, array.count);
-    else if (!open_up_to(array, count, report, failure))
-        return false;
-    array.count = count;
-    return true;
+    return array.data == nullptr ? notes::allocate_failed : notes::reallocate_failed;
+}
+
+/// Gives a growable array the room for the elements of a record; false, after a report, where it cannot be.
+template <class Kind, class Report>
+bool make_record_room(Array_Storage<Kind> array, std::uint32_t count, Report report) noexcept
+{
+    const Char_Span failure = failure_of_room(array);
+    return (count == 0 || grow(array, count, report, failure)) &&
+           (count <= array.count || open_up_to(array, count, report, failure));
 }
 
 /// Replaces an array's elements by those of the record at the source. Answers how many bytes the record
@@ -148,11 +149,33 @@ std::uint32_t decode_plain(Array_Storage<Plain_Elements<Element>> array, Record_
                            Report report) noexcept
 {
     const std::uint32_t size = record_size(source, sizeof(Element));
-    if (!may_decode(array, size, report) ||
-        !take_record_count(array, read_count(source.bytes, source.needs_swap), report))
+    if (!may_decode(array, size, report))
         return 0;
+    const std::uint32_t count = read_count(source.bytes, source.needs_swap);
+    if (!make_record_room(array, count, report))
+        return 0;
+    array.count = count;
     copy_elements(array.data, source.bytes + record_count_size, array.count, source.needs_swap);
     return size;
+}
+
+/// Gives each of the objects the room for its own record; false, after a report, where it cannot be.
+template <class Policy, class Storage_Of, class Report>
+bool make_nested_room(Array_Storage<Held_Objects<Policy>> array, Record_Source source, Storage_Of storage_of,
+                      Report report) noexcept
+{
+    std::uint32_t consumed = record_count_size;
+    const std::uint32_t count = read_count(source.bytes, source.needs_swap);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const auto object = storage_of(array.data[i]);
+        const Record_Source nested = behind(source, consumed);
+        const std::uint32_t size = record_size(nested, sizeof(*object.data));
+        if (!may_decode(object, size, report) ||
+            !make_record_room(object, read_count(nested.bytes, nested.needs_swap), report))
+            return false;
+        consumed += size;
+    }
+    return true;
 }
 
 /// The same for an array of objects, each of which takes its own record.
@@ -162,16 +185,15 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
 {
     using Nested = typename decltype(storage_of(typename Policy::Element()))::Element;
     const std::uint32_t size = nested_record_size(source, sizeof(Nested));
-    if (!may_decode(array, size, report) ||
-        !take_record_count(array, read_count(source.bytes, source.needs_swap), report))
+    if (!may_decode(array, size, report))
         return 0;
+    const std::uint32_t count = read_count(source.bytes, source.needs_swap);
+    if (!make_record_room(array, count, report) || !make_nested_room(array, source, storage_of, report))
+        return 0;
+    array.count = count;
     std::uint32_t consumed = record_count_size;
-    for (const typename Policy::Element object : array.elements()) {
-        const std::uint32_t nested = decode_plain(storage_of(object), behind(source, consumed), report);
-        if (nested == 0)
-            return 0;
-        consumed += nested;
-    }
+    for (const typename Policy::Element object : array.elements())
+        consumed += decode_plain(storage_of(object), behind(source, consumed), report);
     return consumed;
 }
 
@@ -184,7 +206,7 @@ std::uint32_t decode_references(Array_Storage<Counted_References<Policy>> array,
     if (!may_decode(array, record_size(source, 0), report))
         return 0;
     if (read_count(source.bytes, source.needs_swap) == 0)
-        take_record_count(array, 0, report);
+        resize_within_room(array, 0, report, failure_of_room(array));
     else
         complain();
     return record_count_size;

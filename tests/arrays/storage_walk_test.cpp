@@ -1,27 +1,16 @@
-/// Random walks of every growing operation against a model, for each kind of element, with an allocator
-/// that fails now and then: nothing is lost, nothing is leaked, every failure is told once.
-#include "arrays/engine/allocator.hpp"
+/// Random walks of every operation that grows or stores against a model, for each kind of element, with an
+/// allocator that fails now and then: nothing is lost, nothing is leaked, every failure is told once.
 #include "arrays/engine/counting.hpp"
-#include "arrays/engine/editing.hpp"
-#include "arrays/engine/element_kinds.hpp"
+#include "arrays/engine/occurrences.hpp"
+#include "arrays/engine/ordered_operations.hpp"
+#include "arrays/engine/storing.hpp"
+#include "tests/arrays/walked_families.hpp"
 #include "tests/reference/array_growth.hpp"
+#include "tests/reference/vector_algorithms.hpp"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <random>
-#include <string>
-
-namespace
-{
-
-int calls_until_failure = -1; ///< negative: the allocator never fails
-int live_blocks = 0;
-int live_objects = 0;
-
-bool fails_now() { return calls_until_failure >= 0 && calls_until_failure-- == 0; }
-
-} // namespace
+using namespace walked;
 
 namespace zeb
 {
@@ -45,84 +34,6 @@ void release(void *block) noexcept
 namespace
 {
 
-struct Counted_Object {
-    int value;
-    int references = 1;
-};
-
-struct Counting_Policy {
-    using Element = Counted_Object *;
-    static void retain(Element object) { ++object->references; }
-    static void release(Element object)
-    {
-        if (--object->references == 0) {
-            delete object;
-            --live_objects;
-        }
-    }
-};
-
-struct Box {
-    int value = 0;
-};
-
-struct Box_Policy {
-    using Element = Box *;
-    static Element make()
-    {
-        if (fails_now())
-            return nullptr;
-        ++live_objects;
-        return new Box;
-    }
-    static void copy(Element into, Element from) { into->value = from->value; }
-    static bool equal(Element left, Element right) { return left->value == right->value; }
-    static void release(Element box)
-    {
-        --live_objects;
-        delete box;
-    }
-};
-
-/// A family: how values get into elements and out of them, and how the caller's reference is settled.
-struct Plain_Array {
-    using Kind = zeb::Plain_Elements<int>;
-    static constexpr bool makes_objects = false;
-    Kind kind() { return {}; }
-    static int make(int value) { return value; }
-    static void settle(int, bool) {}
-    static int value_of(int element) { return element; }
-};
-
-template <zeb::Ownership_Mode mode>
-struct Counted_Array {
-    using Kind = zeb::Counted_References<Counting_Policy>;
-    static constexpr bool makes_objects = false;
-    Kind kind() { return {mode}; }
-    static Counted_Object *make(int value)
-    {
-        ++live_objects;
-        return new Counted_Object{value};
-    }
-    /// In mode 1 the array has taken the caller's reference over.
-    static void settle(Counted_Object *object, bool is_stored)
-    {
-        if (mode == zeb::retains || !is_stored)
-            Counting_Policy::release(object);
-    }
-    static int value_of(Counted_Object *object) { return object == nullptr ? 0 : object->value; }
-};
-
-struct Held_Array {
-    using Kind = zeb::Held_Objects<Box_Policy>;
-    static constexpr bool makes_objects = true;
-    uint32_t held = 0;
-    Kind kind() { return {held}; }
-    static Box *make(int value) { return new Box{value}; }
-    static void settle(Box *box, bool) { delete box; }
-    static int value_of(Box *box) { return box->value; }
-};
-
 template <class Family>
 class Storage_Walk : public testing::Test
 {
@@ -145,13 +56,17 @@ protected:
         return found;
     }
 
-    void report(ZEB_Char_Span note) { notes.emplace_back(note.char_c_array, note.length); }
+    /// What the operations tell.
+    auto tell()
+    {
+        return [this](ZEB_Char_Span note) { notes.emplace_back(note.char_c_array, note.length); };
+    }
 
     /// Fresh slots are undefined: gives them a value on both sides.
     void define_from(std::size_t first)
     {
         for (std::size_t i = first; i < count; ++i) {
-            Element element = Family::make(static_cast<int>(random() % 100) + 1);
+            Element element = Family::make(Family::draw(random));
             model.elements[i] = Family::value_of(element);
             storage().kind.assign(data + i, &element, 1);
             Family::settle(element, true);
@@ -163,8 +78,9 @@ protected:
     {
         given.clear();
         values_given.clear();
+        takes_over = true;
         for (uint32_t i = 0; i < n; ++i) {
-            values_given.push_back(static_cast<int>(random() % 100) + 1);
+            values_given.push_back(Family::draw(random));
             given.push_back(Family::make(values_given.back()));
         }
     }
@@ -175,15 +91,14 @@ protected:
     {
         give(1);
         arm();
-        const auto tell = [this](ZEB_Char_Span note) { report(note); };
         if (way == 0) {
-            zeb::append_element(storage(), given[0], tell);
+            zeb::append_element(storage(), given[0], tell());
             model.insert_one(static_cast<uint32_t>(model.elements.size()), values_given[0]);
         } else if (way == 1) {
-            zeb::insert_element(storage(), given[0], at, tell);
+            zeb::insert_element(storage(), given[0], at, tell());
             model.insert_one(at, values_given[0]);
         } else {
-            zeb::copy_element(storage(), given[0], tell);
+            zeb::copy_element(storage(), given[0], tell());
             model.make_room_for(1);
             model.elements.assign(1, values_given[0]);
         }
@@ -192,20 +107,20 @@ protected:
     void put_in_many(unsigned way, uint32_t at, uint32_t n)
     {
         const bool replaces = way == 2 && at < count;
-        give(way == 2 && !replaces ? 0 : n);
+        if (way != 2 || replaces)
+            give(n);
         arm();
-        const auto tell = [this](ZEB_Char_Span note) { report(note); };
         if (way == 0) {
-            zeb::append_elements(storage(), elements_given(), tell);
+            zeb::append_elements(storage(), elements_given(), tell());
             model.insert_many(static_cast<uint32_t>(model.elements.size()), values_given);
         } else if (way == 1) {
-            zeb::insert_elements(storage(), elements_given(), at, tell);
+            zeb::insert_elements(storage(), elements_given(), at, tell());
             model.insert_many(at, values_given);
         } else if (replaces) {
-            zeb::replace_element(storage(), at, elements_given(), tell);
+            zeb::replace_element(storage(), at, elements_given(), tell());
             model.replace(at, values_given);
         } else if (way == 3) {
-            zeb::set_contents(storage(), elements_given(), tell);
+            zeb::set_contents(storage(), elements_given(), tell());
             model.assign(values_given);
         }
     }
@@ -213,48 +128,134 @@ protected:
     /// Elements of its own, as if they had been copied first.
     void put_in_own(unsigned way, uint32_t at)
     {
-        give(0);
         const uint32_t first = count == 0 ? 0 : random() % count;
         const uint32_t length = count == 0 ? 0 : random() % (count - first + 1);
         const std::vector<int> own(model.elements.begin() + first, model.elements.begin() + first + length);
         const Elements source{data + first, length};
         arm();
-        const auto tell = [this](ZEB_Char_Span note) { report(note); };
         if (way == 0) {
-            zeb::insert_elements(storage(), source, at, tell);
+            zeb::insert_elements(storage(), source, at, tell());
             model.insert_many(at, own);
         } else if (way == 1 && at < count) {
-            zeb::replace_element(storage(), at, source, tell);
+            zeb::replace_element(storage(), at, source, tell());
             model.replace(at, own);
         } else if (way == 2) {
-            zeb::set_contents(storage(), source, tell);
+            zeb::set_contents(storage(), source, tell());
             model.assign(own);
         }
     }
 
+    /// Where the order says, asked by value; an equal element stays alone.
+    void insert_ordered()
+    {
+        give(1);
+        arm();
+        const auto place = reference::ordered_insert(
+            model.elements, values_given[0],
+            [](const int *key, const int *element) { return reference::own_comparison(key, element); });
+        const auto compare = [](const Element *key, const Element *element) {
+            const int key_value = Family::value_of(*key), value = Family::value_of(*element);
+            return reference::own_comparison(&key_value, &value);
+        };
+        takes_over = place.inserts;
+        const uint32_t answer = zeb::ordered_insert(storage(), given[0], compare, true, tell());
+        ASSERT_EQ(answer, notes.empty() ? place.index : ZEB_NOT_FOUND);
+        if (place.inserts)
+            model.insert_one(place.index, values_given[0]);
+    }
+
+    /// Occurrences of a run of its own.
+    void replace_occurrences(uint32_t at)
+    {
+        give(random() % 5);
+        const uint32_t length = std::min<uint32_t>(random() % 3, count - at);
+        const std::vector<int> pattern(model.elements.begin() + at, model.elements.begin() + at + length);
+        arm();
+        takes_over = false;
+        zeb::replace_all_occurrences(storage(), {data + at, length}, given, tell());
+        const bool finds = reference::replace_occurrences(model.elements, pattern, values_given) != 0;
+        if (!finds || values_given.size() <= length)
+            return;
+        if (Kind::is_plain)
+            model.capacity = 0; // a new block, whatever the old one had room for
+        model.make_room_for(static_cast<uint32_t>(model.elements.size()));
+    }
+
+    /// Contents change within the block, and may need memory where elements are objects.
+    void store(unsigned way, uint32_t at, uint32_t n)
+    {
+        give(1);
+        std::vector<uint32_t> permutation(n);
+        for (uint32_t &entry : permutation)
+            entry = count == 0 ? 0 : random() % count;
+        const zeb::Vector_Storage<Kind> vector = storage();
+        arm();
+        takes_over = at < count && way < 2;
+        if (way == 0) {
+            zeb::fill_range_with(vector, {at, at + n}, given[0], tell());
+            for (uint32_t i = at; i <= at + n && i < count; ++i)
+                model.elements[i] = values_given[0];
+        } else if (way == 1 && at < count) {
+            const int replaced = model.elements[at];
+            zeb::replace_every(vector, data[at], given[0], tell());
+            reference::replace_equal(model.elements, replaced, values_given[0]);
+        } else if (way == 2 && count != 0) {
+            zeb::permute(vector, permutation, zeb::Permutation_Way::inverse, tell());
+            reference::apply_inverse_permutation(model.elements, permutation);
+        }
+    }
+
+    void decode(uint32_t n)
+    {
+        std::vector<int> values(n);
+        for (int &value : values)
+            value = Family::draw(random);
+        const std::string record = Family::record(values);
+        arm();
+        Family::decode(storage(), {record.data(), static_cast<uint32_t>(record.size()), false}, tell());
+        if (!values.empty())
+            model.make_room_for(static_cast<uint32_t>(values.size()));
+        model.elements = values;
+    }
+
+    /// A block of exactly the capacity that is asked for, or of the elements where those are more.
+    void copy_into_new_block(bool own, uint32_t n)
+    {
+        if (!own)
+            give(n);
+        const std::vector<int> values = own ? model.elements : values_given;
+        const Element *const source = own ? data : given.data();
+        const auto whose = own ? zeb::Source::of_another_array : zeb::Source::of_the_caller;
+        const auto length = static_cast<uint32_t>(values.size());
+        const uint32_t wanted = random() % 60;
+        arm();
+        zeb::replace_with_copy(zeb::Vector_Storage<Kind>(storage()), whose, source, length, wanted, capacity,
+                               tell());
+        model.elements = values;
+        model.capacity = std::max(wanted, length);
+    }
+
     void change_size(unsigned way, uint32_t n)
     {
-        give(0);
         const auto before = static_cast<uint32_t>(model.elements.size());
         arm();
-        const auto tell = [this](ZEB_Char_Span note) { report(note); };
         if (way == 0) {
-            zeb::set_length(storage(), n, tell);
+            zeb::set_length(storage(), n, tell());
             model.resize(n);
         } else if (way == 1) {
-            zeb::extend_length(storage(), n, tell);
+            zeb::extend_length(storage(), n, tell());
             model.resize(before + n);
         } else if (way == 2) {
-            zeb::ensure_room(storage(), n, tell);
+            zeb::ensure_room(storage(), n, tell());
             model.make_room_for(before + n);
         } else if (way == 3) {
-            zeb::ensure_capacity_above(storage(), n, tell);
+            zeb::ensure_capacity_above(storage(), n, tell());
             model.make_room_for(n);
         } else if (way == 4) {
-            zeb::trim(storage(), tell);
+            zeb::trim(storage(), tell());
             model.trim();
         } else {
-            zeb::change_count(zeb::Vector_Storage<Kind>(storage()), before / 8, tell);
+            zeb::change_count(zeb::Vector_Storage<Kind>(storage()), before / 8, tell());
             model.elements.resize(before / 8);
         }
     }
@@ -264,18 +265,37 @@ protected:
 
     void take_a_step()
     {
+        give(0);
         const uint32_t at = count == 0 ? 0 : random() % (count + 1);
         const uint32_t n = random() % 40;
-        switch (count > 300 ? 3 : random() % 4) {
+        switch (count > 300 ? 8 : random() % 9) {
         case 0:
             return put_in_one(random() % 3, at);
         case 1:
             return put_in_many(random() % 4, at, n);
         case 2:
             return put_in_own(random() % 3, at);
+        case 3:
+            return insert_ordered();
+        case 4:
+            return replace_occurrences(at);
+        case 5:
+            return random() % 4 == 0 ? decode(n) : void();
+        case 6:
+            return random() % 2 == 0 ? copy_into_new_block(random() % 2 == 0, n) : void();
+        case 7:
+            return store(random() % 3, at, n);
         default:
             return change_size(count > 300 ? 5 : random() % 6, n);
         }
+    }
+
+    void expect_one_failure()
+    {
+        ASSERT_EQ(notes.size(), 1u);
+        ASSERT_TRUE(notes[0] == "Runtime error in allocate macro" ||
+                    notes[0] == "Runtime error in reallocate macro");
+        ++failures;
     }
 
     Family family;
@@ -286,7 +306,9 @@ protected:
     reference::Grown_Array model;
     std::vector<Element> given;
     std::vector<int> values_given;
+    bool takes_over = true; ///< whether a step takes over what it is given, in mode 1
     std::vector<std::string> notes;
+    int failures = 0;
     std::mt19937 random{20240229};
 };
 
@@ -310,15 +332,13 @@ TYPED_TEST(Storage_Walk, follows_the_model_and_survives_every_failed_allocation)
         calls_until_failure = -1;
         const bool failed = !this->notes.empty();
         if (failed) {
-            ASSERT_EQ(this->notes.size(), 1u);
-            ASSERT_TRUE(this->notes[0] == "Runtime error in allocate macro" ||
-                        this->notes[0] == "Runtime error in reallocate macro");
+            this->expect_one_failure();
             this->model.elements = before.elements;
             // An object that could not be made leaves the block that had grown for it.
             this->model.capacity = TypeParam::makes_objects ? this->capacity : before.capacity;
         }
         for (const auto element : this->given)
-            TypeParam::settle(element, !failed);
+            TypeParam::settle(element, !failed && this->takes_over);
         ASSERT_EQ(this->count, this->model.elements.size());
         if (!failed && this->given.empty() && this->count > before.elements.size() &&
             this->model.elements.back() == 0)
@@ -326,6 +346,7 @@ TYPED_TEST(Storage_Walk, follows_the_model_and_survives_every_failed_allocation)
         ASSERT_EQ(this->values(), this->model.elements);
         ASSERT_EQ(this->capacity, this->model.capacity);
     }
+    EXPECT_GT(this->failures, step_count / 100);
     zeb::finish(zeb::Vector_Storage<typename TypeParam::Kind>(this->storage()));
     EXPECT_EQ(live_blocks, 0);
     EXPECT_EQ(live_objects, 0);

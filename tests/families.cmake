@@ -1,4 +1,5 @@
 # The tests that every family of arrays is put through.
 zeb_class_templates(TESTS
   tests/arrays/templates/ZEB_T_Algorithms_test.mm
+  tests/arrays/templates/ZEB_T_Operations.mm
   tests/arrays/templates/ZEB_T_Storage_test.mm)

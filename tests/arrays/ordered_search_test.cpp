@@ -98,25 +98,6 @@ TYPED_TEST(Ordered_Search, asks_a_function_about_the_same_elements_in_the_same_o
     }
 }
 
-/// One element is a case of its own for each operation.
-TEST(Ordered_Search_Of_One, takes_every_answer)
-{
-    const std::vector<int32_t> one{5};
-    for (ZEB_Comparison answer : {0u, 1u, 2u, 3u, 4u, 5u, UINT32_MAX}) {
-        const auto compare = [answer](const int32_t *, const int32_t *) { return answer; };
-        const auto same = [&](auto engine, auto literal) {
-            const reference::Ordered found = engine(one, 5, compare);
-            const reference::Ordered expected = literal(one, 5, compare);
-            EXPECT_EQ(found.index, expected.index) << answer;
-            EXPECT_EQ(found.warned, expected.warned) << answer;
-            EXPECT_EQ(found.inserts, expected.inserts) << answer;
-        };
-        same(find, literal_find);
-        same(find_nearest, literal_find_nearest);
-        same(insert_position, literal_insert);
-    }
-}
-
 /// The own order against the written rules, on sorted, unsorted and not-a-number elements.
 TYPED_TEST(Ordered_Search, own_order_ends_where_the_rules_end)
 {

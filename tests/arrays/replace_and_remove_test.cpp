@@ -122,39 +122,3 @@ TYPED_TEST(Changes_By_Value, occurrences_are_replaced_from_the_front_without_ove
         ASSERT_TRUE(room.wall_stands());
     }
 }
-
-TEST(Removal_Of_A_Range, closes_the_gap)
-{
-    for (uint32_t count = 1; count <= 6; ++count) {
-        for (uint32_t start = 0; start <= count; ++start) {
-            for (uint32_t end : {start, start + 1, count - 1, count, UINT32_MAX}) {
-                if (end < start)
-                    continue;
-                std::vector<int32_t> all(count);
-                for (uint32_t i = 0; i < count; ++i)
-                    all[i] = static_cast<int32_t>(i);
-                std::vector<int32_t> expected = all, with_one = all;
-                if (start < count) {
-                    const auto first = expected.begin() + start;
-                    const auto last = end >= count ? expected.end() : expected.begin() + end + 1;
-                    expected.erase(first, last);
-                    with_one = expected;
-                    with_one.insert(with_one.begin() + start, 77);
-                }
-                const auto silent = [](ZEB_Char_Span) {};
-                const auto changed = [&](auto change) {
-                    std::vector<int32_t> ours = all;
-                    int32_t *data = ours.data();
-                    uint32_t length = count, marker = 0;
-                    change(zeb::Vector_Storage<zeb::Plain_Elements<int32_t>>{data, length, marker, {}});
-                    ours.resize(length);
-                    return ours;
-                };
-                const ZEB_Index_Range range{start, end};
-                EXPECT_EQ(changed([&](auto vector) { zeb::remove_range(vector, range, silent); }), expected);
-                EXPECT_EQ(changed([&](auto vector) { zeb::replace_range(vector, range, 77, silent); }),
-                          with_one);
-            }
-        }
-    }
-}

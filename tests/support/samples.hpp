@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -63,7 +64,7 @@ bool are_same(Element left, Element right)
     return left == right;
 }
 
-inline bool are_same(id left, id right) { return [left isEqual:right]; }
+inline bool are_same(id left, id right) { return left == right || [left isEqual:right]; }
 inline bool are_same(ZEB_String *left, ZEB_String *right) { return [left isEqual:right]; }
 inline bool are_same(ZEB_Wide_String *left, ZEB_Wide_String *right) { return [left isEqual:right]; }
 inline bool are_same(ZEB_Byte_Array *left, ZEB_Byte_Array *right) { return [left isEqual:right]; }
@@ -91,16 +92,60 @@ inline bool precedes(ZEB_Wide_String *left, ZEB_Wide_String *right)
 template <>
 inline bool precedes(ZEB_Byte_Array *left, ZEB_Byte_Array *right)
 {
-    return std::memcmp([left byte_data], [right byte_data], 2) < 0;
+    return std::lexicographical_compare([left byte_data], [left byte_data] + [left count], [right byte_data],
+                                        [right byte_data] + [right count]);
+}
+
+/// Elements that are objects, and those whose contents an array copies into objects of its own.
+template <class Element>
+constexpr bool is_object = std::is_convertible_v<Element, id> && !std::is_same_v<Element, void *>;
+template <class Element>
+constexpr bool is_held = is_object<Element> && !std::is_same_v<Element, id>;
+
+/// Whether two elements are the same bits, the same object, or have the same contents.
+template <class Element>
+bool are_identical(Element left, Element right)
+{
+    if constexpr (is_held<Element>)
+        return are_same(left, right);
+    else
+        return std::memcmp(&left, &right, sizeof left) == 0;
 }
 
 /// Keeps elements that are objects alive for good.
 template <class Element>
 void keep(const std::vector<Element> &elements)
 {
-    if constexpr (std::is_convertible_v<Element, id> && !std::is_same_v<Element, void *>)
+    if constexpr (is_object<Element>)
         for (const Element element : elements)
             [element retain];
+}
+
+/// Elements that are odd among those of their type.
+template <class Element>
+std::vector<Element> odd_samples()
+{
+    using Limits = std::numeric_limits<Element>;
+    if constexpr (std::is_floating_point_v<Element>)
+        return {Limits::quiet_NaN(), -Limits::quiet_NaN(), Element(0),
+                -Element(0),         Limits::infinity(),   -Limits::infinity()};
+    else if constexpr (std::is_arithmetic_v<Element>)
+        return {Limits::min(), Limits::max()};
+    else if constexpr (is_held<Element>)
+        return {[[[[Sample<Element>::at(0) class] alloc] init] autorelease], Sample<Element>::at(10)};
+    else
+        return {Element()};
+}
+
+/// The first ten samples and the odd ones, kept alive.
+template <class Element>
+std::vector<Element> all_samples()
+{
+    std::vector<Element> all = odd_samples<Element>();
+    for (uint32_t i = 0; i < 10; ++i)
+        all.push_back(Sample<Element>::at(i));
+    keep(all);
+    return all;
 }
 
 } // namespace support

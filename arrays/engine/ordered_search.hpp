@@ -64,9 +64,10 @@ void prefetch_next(const Element *elements, std::uint32_t low, std::uint32_t hig
         __builtin_prefetch(elements + middle(probe + 1, high));
 }
 
+/// Inlined, so that how it ended is not asked again.
 template <bool Prefetches, class Element, class Compare>
-Ordered_Probe probe(const Element *elements, std::uint32_t count, const Element &key,
-                    Compare &compare) noexcept
+[[gnu::always_inline]] inline Ordered_Probe probe(const Element *elements, std::uint32_t count,
+                                                  const Element &key, Compare &compare) noexcept
 {
     std::uint32_t low = 0;
     std::uint32_t high = count - 1;

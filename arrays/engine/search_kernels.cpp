@@ -3,6 +3,7 @@
 #include "arrays/engine/element_order.hpp"
 #include "arrays/engine/knuth_morris_pratt.hpp"
 #include "arrays/engine/plain_loops.hpp"
+#include "arrays/engine/telling_places.hpp"
 
 #include <cstring>
 #include <type_traits>
@@ -106,16 +107,14 @@ std::size_t last_equal(const Lane *lanes, std::size_t count, Lane value)
     return rest == end ? count : rest;
 }
 
-/// True when the lanes between the first and the last are equal, which are known to be.
+/// True when all lanes of a pattern are equal to those at a start.
 template <class Lane>
-HWY_INLINE bool inside_equal(const Lane *lanes, const Lane *pattern, std::size_t length)
+HWY_INLINE bool equal_at(const Lane *lanes, const Lane *pattern, std::size_t length)
 {
-    if (length <= 2)
-        return true;
     if constexpr (std::is_integral_v<Lane>)
-        return std::memcmp(lanes + 1, pattern + 1, (length - 2) * sizeof(Lane)) == 0;
+        return std::memcmp(lanes, pattern, length * sizeof(Lane)) == 0;
     else
-        return plain::all_equal(lanes + 1, pattern + 1, length - 2, Own_Equality{});
+        return plain::all_equal(lanes, pattern, length, Own_Equality{});
 }
 
 /// A pattern, and the three of its lanes that a start has to match before the rest is compared.
@@ -123,9 +122,9 @@ template <class Lane>
 struct Pattern {
     using D = hn::ScalableTag<Lane>;
 
-    Pattern(const Lane *lanes, std::size_t count)
-        : pattern(lanes), length(count), first(hn::Set(D(), lanes[0])),
-          middle(hn::Set(D(), lanes[count / 2])), last(hn::Set(D(), lanes[count - 1]))
+    Pattern(const Lane *lanes, std::size_t count, Telling_Places places)
+        : pattern(lanes), length(count), at(places), first(hn::Set(D(), lanes[at.first])),
+          second(hn::Set(D(), lanes[at.second])), third(hn::Set(D(), lanes[at.third]))
     {
     }
 
@@ -133,8 +132,8 @@ struct Pattern {
     HWY_INLINE auto candidates(const Lane *start) const
     {
         const D d;
-        const auto ends = hn::And(matches(d, start, first), matches(d, start + length - 1, last));
-        return hn::And(ends, matches(d, start + length / 2, middle));
+        const auto two = hn::And(matches(d, start + at.first, first), matches(d, start + at.second, second));
+        return hn::And(two, matches(d, start + at.third, third));
     }
 
     /// The first start that matches wholly, or a whole vector; counts what was compared in vain.
@@ -143,7 +142,7 @@ struct Pattern {
         const D d;
         for (std::uint64_t rest = bits_of(d, candidates(start)); rest != 0; rest &= rest - 1, ++in_vain) {
             const std::size_t candidate = static_cast<unsigned>(__builtin_ctzll(rest));
-            if (inside_equal(start + candidate, pattern, length))
+            if (equal_at(start + candidate, pattern, length))
                 return candidate;
         }
         return hn::Lanes(d);
@@ -151,24 +150,29 @@ struct Pattern {
 
     const Lane *pattern;
     std::size_t length;
-    hn::Vec<D> first, middle, last;
+    Telling_Places at;
+    hn::Vec<D> first, second, third;
 };
+
+/// So far ahead memory is asked for: a search that looks at candidates now and then would else wait for it.
+constexpr std::size_t prefetch_bytes = 1024;
 
 /// Tries a few vectors of starts at a time. Without a find it answers where it gave up: `count` at the
 /// end, less when too much was spent on comparing in vain.
 template <class Lane>
-std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *sought, std::size_t length,
-                     bool &found)
+std::size_t find_run(const Lane *lanes, std::size_t count, Pattern<Lane> pattern, bool &found)
 {
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);
+    const std::size_t length = pattern.length;
     const std::size_t starts = count - length + 1;
-    const Pattern<Lane> pattern(sought, length);
     const std::size_t cost = 16 + length * sizeof(Lane) / 16;
     std::size_t in_vain = 0;
     for (std::size_t index = 0; index < starts;) {
         std::size_t end = index + 4 * N;
         if (HWY_LIKELY(end <= starts)) {
+            for (std::size_t lane = index; lane < end; lane += N)
+                __builtin_prefetch(lanes + lane + prefetch_bytes / sizeof(Lane));
             const auto low = hn::Or(pattern.candidates(lanes + index), pattern.candidates(lanes + index + N));
             const auto high =
                 hn::Or(pattern.candidates(lanes + index + 2 * N), pattern.candidates(lanes + index + 3 * N));
@@ -190,6 +194,26 @@ std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *sought, s
     }
     found = false;
     return count;
+}
+
+/// The same; once many places were in vain, or too much was spent on a few, the text is looked at for what
+/// tells best in it.
+template <class Lane>
+std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *sought, std::size_t length,
+                     bool &found)
+{
+    const Pattern<Lane> ends(sought, length, ends_and_middle(length));
+    const std::size_t head = length - 1 + places_before_sampling;
+    if (!std::is_integral_v<Lane> || length < 4 || count < head + places_before_sampling)
+        return find_run(lanes, count, ends, found);
+    const std::size_t start = find_run(lanes, head, ends, found);
+    if (found)
+        return start;
+    const std::size_t seen = HWY_MIN(start, places_before_sampling);
+    const Lane *const rest = lanes + seen;
+    const std::size_t left = count - seen;
+    const Pattern<Lane> telling(sought, length, rarest_places(rest, left, sought, length));
+    return seen + find_run(rest, left, telling, found);
 }
 
 template <class Lane>

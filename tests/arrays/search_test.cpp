@@ -103,17 +103,38 @@ TYPED_TEST(Search, repetitive_patterns_are_found)
         E a{}, b;
         std::memset(&b, 0x42, sizeof b);
         for (size_t broken_at : {0, 1, 31, 62, 63}) {
-            std::vector<E> pattern(64, a);
-            pattern[broken_at] = b;
-            std::vector<E> elements(6000, a);
-            ASSERT_EQ(zeb::first_index_of_subsequence<E>(std::span<const E>(elements), pattern),
-                      ZEB_NOT_FOUND);
-            elements[5001] = b;
-            const uint32_t expected = static_cast<uint32_t>(5001 - broken_at);
-            ASSERT_EQ(zeb::first_index_of_subsequence<E>(std::span<const E>(elements), pattern), expected);
-            ASSERT_EQ(zeb::find_occurrence<E>(std::span<const E>(elements), pattern, expected), expected);
-            ASSERT_EQ(zeb::find_occurrence<E>(std::span<const E>(elements), pattern, expected + 1),
-                      ZEB_NOT_FOUND);
+            for (size_t length : {6000, 200000}) {
+                std::vector<E> pattern(64, a);
+                pattern[broken_at] = b;
+                std::vector<E> elements(length, a);
+                const std::span<const E> span(elements);
+                ASSERT_EQ(zeb::first_index_of_subsequence<E>(span, pattern), ZEB_NOT_FOUND);
+                elements[length - 999] = b;
+                const uint32_t expected = static_cast<uint32_t>(length - 999 - broken_at);
+                ASSERT_EQ(zeb::first_index_of_subsequence<E>(span, pattern), expected);
+                ASSERT_EQ(zeb::find_occurrence<E>(span, pattern, expected), expected);
+                ASSERT_EQ(zeb::find_occurrence<E>(span, pattern, expected + 1), ZEB_NOT_FOUND);
+            }
+        }
+    });
+}
+
+/// A long text is sampled on the way: the first occurrence is found before, across and behind that place.
+TYPED_TEST(Search, runs_are_found_anywhere_in_a_long_text)
+{
+    using E = TypeParam;
+    constexpr size_t sampled_at = 65536;
+    on_each_target([] {
+        std::mt19937 random(19);
+        std::vector<E> elements = draw_elements<E>(random, 3 * sampled_at, Draw::Few_Values, false);
+        for (size_t length : {2, 3, 4, 20, 300, 70000}) {
+            for (size_t start :
+                 {size_t{7}, sampled_at - length / 2, sampled_at + 1, elements.size() - length - 1}) {
+                const auto first = elements.begin() + static_cast<std::ptrdiff_t>(start);
+                const std::vector<E> pattern(first, first + static_cast<std::ptrdiff_t>(length));
+                ASSERT_EQ(zeb::first_index_of_subsequence<E>(std::span<const E>(elements), pattern),
+                          reference::first_index_of_subsequence(elements, pattern));
+            }
         }
     });
 }

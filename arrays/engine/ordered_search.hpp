@@ -91,8 +91,7 @@ template <bool Prefetches, class Element, class Compare>
 }
 
 /// The same by the element's own order, for elements that the cache holds: the next range is chosen
-/// without a branch, which would be guessed wrong half the time, and both elements that can come next are
-/// asked for early. `length` elements from `low` are left.
+/// without a branch, which would be guessed wrong half the time. `length` elements from `low` are left.
 template <class Element>
 Ordered_Probe probe_without_branches(const Element *elements, std::uint32_t count,
                                      const Element &key) noexcept
@@ -104,8 +103,6 @@ Ordered_Probe probe_without_branches(const Element *elements, std::uint32_t coun
         const std::uint32_t half = length / 2;
         const std::uint32_t rest = length - half - 1;
         const std::uint32_t index = low + half;
-        __builtin_prefetch(elements + low + half / 2);
-        __builtin_prefetch(elements + index + 1 + rest / 2);
         const std::uint32_t above = less(elements[index], key);
         const std::uint32_t below = less(key, elements[index]);
         if ((above | below) == 0) [[unlikely]]
@@ -157,7 +154,8 @@ Ordered_Find ordered_find(std::span<const Element> elements, const std::type_ide
     if (elements.size() == 1)
         return {end.answer == ZEB_COMPARED_EQUAL ? 0 : ZEB_NOT_FOUND, end.answer == 0};
     const bool missed = end.answer == ZEB_COMPARED_LESS || end.answer == ZEB_COMPARED_GREATER;
-    return {missed ? ZEB_NOT_FOUND : end.index, false};
+    // ZEB_NOT_FOUND has every bit set; a choice between the two would be guessed.
+    return {end.index | (0u - std::uint32_t{missed}), false};
 }
 
 /// The same, but a miss answers the index of the bound where the search stopped. Not found only when

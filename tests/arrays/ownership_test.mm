@@ -36,7 +36,7 @@ public:
     {
         NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
         const uint32_t at = [array count] == 0 ? 0 : random() % [array count];
-        [array count] > 40 ? [array decrease_count:30] : change(random() % 25, at);
+        [array count] > 40 ? shrink(random() % 4) : change(random() % 37, at);
         [pool drain];
         greatest_count = std::max(greatest_count, [array count]);
         expect_exact_counts();
@@ -67,6 +67,27 @@ private:
 
     bool has(id object) { return [array index_of_object:object] != ZEB_NOT_FOUND; }
 
+    void shrink(unsigned way)
+    {
+        switch (way) {
+        case 0:
+            return [array clear];
+        case 1:
+            return [array set_count:5];
+        case 2:
+            return decode_nothing();
+        default:
+            return [array decrease_count:30];
+        }
+    }
+
+    void decode_nothing()
+    {
+        char count[4] = {};
+        [array ZEB_decode_binary_contents:[ZEB_String link_to_chars:count count:4] needs_swap:0];
+        EXPECT_EQ([array count], 0u);
+    }
+
     void put(unsigned way, uint32_t at)
     {
         id run[] = {some(), some()};
@@ -89,10 +110,60 @@ private:
         case 7:
             return is_empty ? void()
                             : [array replace_range:ZEB_Index_Range{at, at + 2} with_object:given(some())];
+        case 8:
+            return has(run[0]) ? void([array replace_every_object:run[0] with:given(run[1])]) : void();
+        case 9:
+            return [array set_objects:(given(run[0]), given(run[1]), run) count:2];
+        case 10:
+            return [array copy_objects:(given(run[0]), given(run[1]), run) count:2 capacity:7];
+        case 11:
+            return is_empty ? void() : [array set_object:given(some()) at_index_from_end:at];
+        case 12:
+            return is_empty ? void()
+                            : [array fill_range:ZEB_Index_Range{at, at + 2} with_object:given(some())];
+        case 13:
+            return is_empty ? void()
+                            : [array replace_element_at_index:at
+                                                 with_objects:(given(run[0]), given(run[1]), run)count:2];
         default:
-            if (has(run[0]))
-                [array replace_every_object:run[0] with:given(run[1])];
+            return insert_ordered(run[0]);
         }
+    }
+
+    /// The reference is the array's only when the object goes in.
+    void insert_ordered(id object)
+    {
+        const uint32_t before = [array count];
+        [array ordered_insert_object:given(object) inserts:1];
+        if (mode == ZEB_OWNERSHIP_ADOPTS && [array count] == before)
+            [object release];
+    }
+
+    /// What a link of the same mode drops and stores is counted for its owner.
+    void change_through_link(unsigned way, uint32_t at)
+    {
+        if ([array is_empty])
+            return;
+        ZEB_Object_Array *const link = [[[ZEB_Object_Array alloc]
+            init_as_link_to_object_vector:array
+                                    range:ZEB_Index_Range{at, [array count] - 1}] autorelease];
+        [link set_ownership_mode:mode];
+        if (way == 0)
+            [link remove_every_object:some()];
+        else if (way == 1)
+            [link remove_element_at_index:0];
+        else
+            [link fill_with_object:given(some())];
+    }
+
+    void rearrange(unsigned way, uint32_t at)
+    {
+        if (way == 0)
+            [array sort_with_permutation:some_indexes()];
+        else if (way == 1)
+            [array move_element_from_index:at to_index:0];
+        else
+            [array transpose_rows:2 columns:[array count] / 2];
     }
 
     void take_over(unsigned way, uint32_t at)
@@ -115,29 +186,33 @@ private:
 
     void change(unsigned way, uint32_t at)
     {
-        if (way < 9)
-            return put(way, at);
         if (way < 15)
-            return take_over(way - 9, at);
+            return put(way, at);
+        if (way < 21)
+            return take_over(way - 15, at);
+        if (way < 24)
+            return change_through_link(way - 21, at);
+        if (way < 27)
+            return rearrange(way - 24, at);
         switch (way) {
-        case 15:
+        case 27:
             return [array remove_every_object:some()];
-        case 16:
+        case 28:
             return [array remove_range:ZEB_Index_Range{at, at + 1}];
-        case 17:
+        case 29:
             return [array remove_element_at_index:at];
-        case 18:
+        case 30:
             return [array apply_permutation:some_indexes()];
-        case 19:
+        case 31:
             return [array apply_inverse_permutation:some_indexes()];
-        case 20:
+        case 32:
             return [array set_length:random() % 12];
-        case 21:
+        case 33:
             return [array extend_length_by:2];
-        case 22:
+        case 34:
             [array sort];
             return [array reverse];
-        case 23:
+        case 35:
             return [array trim_allocation];
         default:
             copy_it();

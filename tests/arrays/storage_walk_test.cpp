@@ -235,6 +235,84 @@ protected:
         model.capacity = std::max(wanted, length);
     }
 
+    /// The array views elements that are not its own, refuses to grow, and takes a copy at last.
+    void be_a_link(bool sets, uint32_t n)
+    {
+        give(n);
+        takes_over = false;
+        zeb::finish(zeb::Vector_Storage<Kind>(storage()));
+        data = given.data();
+        count = n;
+        marker = zeb::link_marker_of_links + random() % 2;
+        capacity = zeb::capacity_of_links;
+        expect_refusals();
+        arm();
+        if (sets)
+            zeb::set_contents(storage(), {data, count, zeb::Source::of_another_array}, tell());
+        else
+            zeb::replace_with_copy(zeb::Vector_Storage<Kind>(storage()), zeb::Source::of_another_array, data,
+                                   count, n + 1, capacity, tell());
+        model.capacity = sets ? 0 : n + 1;
+        model.assign(values_given);
+        if (!notes.empty())
+            start_anew();
+    }
+
+    /// After a copy that could not be had, the link is as it was.
+    void start_anew()
+    {
+        expect_one_failure();
+        notes.clear();
+        ASSERT_EQ(data, given.data());
+        ASSERT_EQ(count, given.size());
+        ASSERT_GE(marker, zeb::link_marker_of_links);
+        ASSERT_EQ(capacity, zeb::capacity_of_links);
+        data = nullptr;
+        count = marker = capacity = model.capacity = 0;
+        model.elements.clear();
+    }
+
+    void expect_refusals()
+    {
+        namespace notes = zeb::notes;
+        const auto array = storage();
+        const Elements one{given.data(), std::min<uint32_t>(count, 1)};
+        const Element element = count == 0 ? Element{} : given[0];
+        const std::span<const Element> run(given.data(), given.size());
+        const auto less = [](const Element *, const Element *) { return ZEB_COMPARED_LESS; };
+        refuses(notes::trim_through_link, [&] { zeb::trim(array, tell()); });
+        refuses(notes::length_through_link, [&] { zeb::set_length(array, 1, tell()); });
+        refuses(notes::room_through_link, [&] { zeb::extend_length(array, 1, tell()); });
+        refuses(notes::room_through_link, [&] { zeb::ensure_room(array, 1, tell()); });
+        refuses(notes::capacity_through_link, [&] { zeb::ensure_capacity_above(array, 1, tell()); });
+        refuses(notes::copy_element_through_link, [&] { zeb::copy_element(array, element, tell()); });
+        refuses(notes::append_element_through_link, [&] { zeb::append_element(array, element, tell()); });
+        refuses(count == 0 ? zeb::Char_Span{} : notes::append_array_through_link,
+                [&] { zeb::append_elements(array, one, tell()); });
+        refuses(notes::insert_element_through_link, [&] { zeb::insert_element(array, element, 0, tell()); });
+        refuses(notes::insert_array_through_link, [&] { zeb::insert_elements(array, one, 0, tell()); });
+        refuses(notes::replace_element_through_link, [&] { zeb::replace_element(array, 0, one, tell()); });
+        refuses(notes::insert_element_through_link,
+                [&] { zeb::ordered_insert(array, element, less, true, tell()); });
+        refuses(notes::replace_occurrences_through_link,
+                [&] { zeb::replace_all_occurrences(array, run, run, tell()); });
+        refuses(notes::decode_through_link, [&] { Family::decode(array, {"\0\0\0", 4, false}, tell()); });
+    }
+
+    /// The note, or none for an empty one; the link stays what it is.
+    template <class Work>
+    void refuses(ZEB_Char_Span note, Work work)
+    {
+        const uint32_t marker_before = marker;
+        work();
+        const std::vector<std::string> expected(note.length != 0, {note.char_c_array, note.length});
+        EXPECT_EQ(std::exchange(notes, {}), expected);
+        EXPECT_EQ(data, given.data());
+        EXPECT_EQ(values(), values_given);
+        EXPECT_EQ(marker, marker_before);
+        EXPECT_EQ(capacity, zeb::capacity_of_links);
+    }
+
     void change_size(unsigned way, uint32_t n)
     {
         const auto before = static_cast<uint32_t>(model.elements.size());
@@ -268,7 +346,7 @@ protected:
         give(0);
         const uint32_t at = count == 0 ? 0 : random() % (count + 1);
         const uint32_t n = random() % 40;
-        switch (count > 300 ? 8 : random() % 9) {
+        switch (count > 300 ? 9 : random() % 10) {
         case 0:
             return put_in_one(random() % 3, at);
         case 1:
@@ -285,6 +363,8 @@ protected:
             return random() % 2 == 0 ? copy_into_new_block(random() % 2 == 0, n) : void();
         case 7:
             return store(random() % 3, at, n);
+        case 8:
+            return random() % 8 == 0 ? be_a_link(random() % 2 == 0, n) : void();
         default:
             return change_size(count > 300 ? 5 : random() % 6, n);
         }
@@ -345,6 +425,7 @@ TYPED_TEST(Storage_Walk, follows_the_model_and_survives_every_failed_allocation)
             this->define_from(before.elements.size());
         ASSERT_EQ(this->values(), this->model.elements);
         ASSERT_EQ(this->capacity, this->model.capacity);
+        ASSERT_EQ(this->marker, 0u);
     }
     EXPECT_GT(this->failures, step_count / 100);
     zeb::finish(zeb::Vector_Storage<typename TypeParam::Kind>(this->storage()));

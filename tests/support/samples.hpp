@@ -141,9 +141,11 @@ std::vector<Element> odd_samples()
 template <class Element>
 std::vector<Element> all_samples()
 {
-    std::vector<Element> all = odd_samples<Element>();
+    std::vector<Element> all;
     for (uint32_t i = 0; i < 10; ++i)
         all.push_back(Sample<Element>::at(i));
+    const std::vector<Element> odd = odd_samples<Element>();
+    all.insert(all.end(), odd.begin(), odd.end());
     keep(all);
     return all;
 }

@@ -1,63 +1,16 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
-
+#include "tests/arrays/ZEB_T_Samples.hpp"
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
-#include "tests/support/samples.hpp"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <vector>
+#include <string>
 
-using support::are_same;
 using support::fix_line;
 using support::standard_error_of;
 
 namespace
 {
-
-using Element = ZEB_T_Element;
-using Numbers = std::vector<uint32_t>;
-
-/// Samples that stay the same objects, so that references can be told apart; they ascend by their number.
-const std::vector<Element> &samples()
-{
-    // Never ended: what it holds is to be reachable when leaks are looked for.
-    static const auto *const made = new std::vector<Element>([] {
-        std::vector<Element> all;
-        for (uint32_t i = 0; i < 10; ++i)
-            all.push_back(support::Sample<Element>::at(i));
-        support::keep(all);
-        std::sort(all.begin(), all.end(), support::precedes<Element>);
-        return all;
-    }());
-    return *made;
-}
-
-ZEB_T_Array *array_of(const Numbers &numbers)
-{
-    ZEB_T_Array *const made = [ZEB_T_Array array_with_capacity:0];
-    for (const uint32_t i : numbers)
-        [made append_TT_word:samples()[i]];
-    return made;
-}
-
-ZEB_UInt_Array *indexes(const Numbers &numbers)
-{
-    return [[[ZEB_UInt_Array alloc] init_as_copy_of_uints:numbers.data()
-                                                    count:static_cast<uint32_t>(numbers.size())] autorelease];
-}
-
-Numbers numbers_of(ZEB_T_Vector *vector)
-{
-    Numbers found;
-    for (const Element &element : zeb::elements(vector))
-        found.push_back(static_cast<uint32_t>(std::find_if(samples().begin(), samples().end(),
-                                                           [&](Element s) { return are_same(s, element); }) -
-                                              samples().begin()));
-    return found;
-}
 
 ZEB_Comparison answer_nothing(Element const *, Element const *) { return 0; }
 
@@ -101,7 +54,7 @@ TEST(ZEB_T_Algorithms, reversed_ranges_and_foreign_permutations_are_told)
               }),
               fix_line("replace_range:with_TT_word:", "ZEB_T_Array", reversed));
     EXPECT_EQ(standard_error_of([&] {
-                  [array apply_permutation:indexes({0, 3, 1})];
+                  [array apply_permutation:indexes_of({0, 3, 1})];
               }),
               fix_line("apply_permutation:", "ZEB_T_Array",
                        "Permutation names an element outside the array, no change made."));

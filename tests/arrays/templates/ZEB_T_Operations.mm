@@ -1,10 +1,6 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
-
+#include "tests/arrays/ZEB_T_Samples.hpp"
 #include "tests/arrays/family_operations.hpp"
-#include "tests/support/samples.hpp"
 
-#include <algorithm>
 #include <functional>
 #include <span>
 
@@ -13,43 +9,12 @@ using namespace support;
 namespace
 {
 
-using Element = ZEB_T_Element;
-
-const std::vector<Element> &samples()
-{
-    // Never ended: what it holds is to be reachable when leaks are looked for.
-    static const auto *const made = new std::vector<Element>(all_samples<Element>());
-    return *made;
-}
-
-/// A not-found number for what is no sample: nothing, in an empty vector.
-uint32_t number_of(Element element)
-{
-    const auto found = std::find_if(samples().begin(), samples().end(),
-                                    [&](Element sample) { return are_identical(sample, element); });
-    return found == samples().end() ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - samples().begin());
-}
-
 std::vector<Element> elements_of(const Numbers &numbers)
 {
     std::vector<Element> elements;
     for (const uint32_t number : numbers)
         elements.push_back(samples()[number]);
     return elements;
-}
-
-ZEB_T_Array *array_of(const Numbers &numbers)
-{
-    ZEB_T_Array *const made = [ZEB_T_Array array_with_capacity:0];
-    for (const uint32_t number : numbers)
-        [made append_TT_word:samples()[number]];
-    return made;
-}
-
-ZEB_UInt_Array *indexes_of(const Numbers &numbers)
-{
-    return [[[ZEB_UInt_Array alloc] init_as_copy_of_uints:numbers.data()
-                                                    count:static_cast<uint32_t>(numbers.size())] autorelease];
 }
 
 // A comparison function has no context of its own.
@@ -97,14 +62,6 @@ public:
                                                                             range:viewed] autorelease];
         else
             vector = [[[ZEB_T_Vector alloc] init_as_link_to_TT_word_vector:owner range:viewed] autorelease];
-    }
-
-    Numbers elements() const
-    {
-        Numbers numbers;
-        for (uint32_t i = 0; i < [vector count]; ++i)
-            numbers.push_back(number_of([vector TT_word_at_index:i]));
-        return numbers;
     }
 
     Numbers beyond() const
@@ -269,7 +226,7 @@ public:
         else
             out.answer = grow(subject.array, operation, in);
         out.reports = [[ZEB_Error_Stream shared_error_stream] warning_count] - reports;
-        out.elements = subject.elements();
+        out.elements = numbers_of(subject.vector);
         if (is_link(place))
             out.beyond = subject.beyond();
         const std::span<const uint32_t> went = zeb::elements(indexes);

@@ -125,45 +125,6 @@ TYPED_TEST(Sorting, with_a_permutation_tells_near_numbers_apart)
     }
 }
 
-/// An answer of 2 exchanges, whatever sense it makes; every other answer leaves the pair.
-TYPED_TEST(Sorting, by_a_function_asks_the_same_questions)
-{
-    using E = TypeParam;
-    std::mt19937 random(17);
-    for (size_t length : {0, 1, 2, 3, 4, 5, 13, 14, 40, 41, 200, 1000}) {
-        for (unsigned manner = 0; manner < 3; ++manner) {
-            const std::vector<E> elements = draw_elements<E>(random, length, Draw::Few_Values);
-            using Questions = std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>>;
-            const auto answer = [manner](Questions &asked, const E *base, const E *later, const E *earlier) {
-                asked.emplace_back(later - base, earlier - base);
-                const uint32_t noise = static_cast<uint32_t>(asked.size()) * 2654435761u >> 11;
-                if (manner == 1)
-                    return ZEB_Comparison{noise % 5};
-                if (manner == 2 && noise % 7 == 0)
-                    return ZEB_Comparison{9};
-                return reference::own_comparison(later, earlier);
-            };
-            std::vector<E> expected = elements, ours = elements;
-            std::vector<uint32_t> expected_indexes = marks(length, 1), our_indexes = marks(length, 1);
-            Questions expected_questions, our_questions;
-            reference::sort(expected, &expected_indexes, [&](const E *later, const E *earlier) {
-                return answer(expected_questions, expected.data(), later, earlier) == ZEB_COMPARED_LESS;
-            });
-            const auto asked = [&](const E *later, const E *earlier) {
-                return answer(our_questions, ours.data(), later, earlier);
-            };
-            ASSERT_TRUE(zeb::sort_with_permutation_by<E>(ours, our_indexes, asked));
-            ASSERT_EQ(our_questions, expected_questions);
-            ASSERT_TRUE(same_bits(ours, expected) && our_indexes == expected_indexes);
-            ours = elements;
-            our_questions.clear();
-            zeb::sort_by<E>(ours, asked);
-            ASSERT_EQ(our_questions, expected_questions);
-            ASSERT_TRUE(same_bits(ours, expected));
-        }
-    }
-}
-
 /// Counts that do not fit in a signed 32-bit number are left alone; the block is never looked at.
 TEST(Sorting_Too_Many, changes_nothing)
 {

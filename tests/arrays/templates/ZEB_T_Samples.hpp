@@ -27,9 +27,8 @@ const std::vector<Element> &samples()
 /// ZEB_NOT_FOUND for what is no sample: nothing, in an empty vector.
 uint32_t number_of(Element element)
 {
-    const auto found = std::find_if(samples().begin(), samples().end(), [&](Element sample) {
-        return support::are_identical(sample, element);
-    });
+    const auto found = std::find_if(samples().begin(), samples().end(),
+                                    [&](Element sample) { return support::are_identical(sample, element); });
     return found == samples().end() ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - samples().begin());
 }
 

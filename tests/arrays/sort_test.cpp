@@ -4,7 +4,6 @@
 #include "tests/reference/vector_algorithms.hpp"
 
 #include <algorithm>
-#include <numeric>
 
 using namespace zeb_test;
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "arrays/engine/editing.hpp"
+#include "arrays/engine/set_aside.hpp"
 #include "encoding/engine/byte_order.hpp"
 #include "encoding/engine/encoding_notes.hpp"
 
@@ -178,7 +179,7 @@ bool make_nested_room(Array_Storage<Held_Objects<Policy>> array, Record_Source s
     return true;
 }
 
-/// The same for an array of objects, each of which takes its own record.
+/// The same for an array of objects, each of which takes its own record. The source may be one of them.
 template <class Policy, class Storage_Of, class Report>
 std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Source source,
                           Storage_Of storage_of, Report report) noexcept
@@ -187,6 +188,16 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
     const std::uint32_t size = nested_record_size(source, sizeof(Nested));
     if (!may_decode(array, size, report))
         return 0;
+    for (std::uint32_t i = 0; i < array.kind.held; ++i) {
+        const auto object = storage_of(array.data[i]);
+        const Set_Aside<char> aside({source.bytes, size}, object.data, object.elements().size_bytes());
+        if (aside.failed()) {
+            report(notes::allocate_failed);
+            return 0;
+        }
+        if (aside.elements().data() != source.bytes)
+            return decode_held(array, {aside.elements().data(), size, source.needs_swap}, storage_of, report);
+    }
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
     if (!make_record_room(array, count, report) || !make_nested_room(array, source, storage_of, report))
         return 0;

@@ -158,6 +158,19 @@ TEST(Binary_Contents, every_family_comes_back_the_same)
     EXPECT_ROUND_TRIP(ZEB_Byte_Array_Array, append_byte_array, ZEB_Byte_Array *, 0);
 }
 
+TEST(Binary_Contents, a_string_may_hold_the_record_of_its_own_array)
+{
+    ZEB_String *const record = buffer();
+    ZEB_String_Array *const source = [ZEB_String_Array array_with_capacity:0];
+    for (uint32_t i = 0; i < 20; ++i)
+        [source append_string:Sample<ZEB_String *>::at(i)];
+    [source ZEB_encode_binary_contents:record];
+    ZEB_String_Array *const array = [ZEB_String_Array array_with_capacity:0];
+    [array append_string:record];
+    EXPECT_EQ([array ZEB_decode_binary_contents:[array string_at_index:0] needs_swap:0], [record count]);
+    EXPECT_TRUE([array isEqual:source]);
+}
+
 TEST(Binary_Contents, doubles_keep_every_bit)
 {
     ZEB_Double_Array *const source = [ZEB_Double_Array array_with_capacity:0];

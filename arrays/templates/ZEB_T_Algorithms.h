@@ -14,7 +14,8 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
  * change elements work through a link as well. Elements are told apart by their type's own `==`, and
  * ordered by its own order: numbers by value (unsigned where the type is), references by address, and
  * objects that an array holds by their contents, read as unsigned. Indexes and ranges are zero-based;
- * both ends of a range belong to it.
+ * both ends of a range belong to it. What takes memory and cannot have it reports "Runtime error in
+ * allocate macro" and changes nothing.
  */
 @interface ZEB_T_Vector (Algorithms)
 

@@ -44,16 +44,6 @@ std::uint32_t for_each_occurrence(std::span<const Element> elements,
     return found;
 }
 
-/// The number of occurrences that `for_each_occurrence` visits.
-template <class Element, class Equality = Own_Equality>
-std::uint32_t count_occurrences(std::span<const Element> elements,
-                                std::span<const std::type_identity_t<Element>> pattern,
-                                Equality equal = {}) noexcept
-{
-    return for_each_occurrence<Element>(
-        elements, pattern, [](std::uint32_t) {}, equal);
-}
-
 /// How many occurrences were replaced, and the count of elements that this leaves.
 struct Replaced_Occurrences {
     std::uint32_t replacements;

@@ -104,7 +104,6 @@ TYPED_TEST(Changes_By_Value, occurrences_are_replaced_from_the_front_without_ove
         const std::vector<E> replacement = draw_elements<E>(random, random() % 4, Draw::Few_Values, false);
         std::vector<E> expected = elements;
         const uint32_t replaced = reference::replace_occurrences(expected, pattern, replacement);
-        ASSERT_EQ(zeb::count_occurrences<E>(std::span<const E>(elements), pattern), replaced);
         if (replacement.size() <= pattern.size()) {
             Walled<E> walled(elements, turn % 9);
             const auto answer = zeb::replace_occurrences_in_place<E>(walled.span(), pattern, replacement);

@@ -23,7 +23,8 @@ ZEB_EXPORT
 - (uint32_t)link_marker;
 - (void)set_link_marker:(uint32_t)marker;
 
-/** Takes over the settings of another collection, of which this class knows the link marker. */
+/** Takes over the settings that both collections have: the link marker, and the ownership mode where both
+    are of objects. Nil, and what is no collection, changes nothing. */
 - (void)copy_settings_from:(ZEB_Collection *)other;
 
 /** The number of elements. Abstract: reports that it needs overloading, and answers 0. */

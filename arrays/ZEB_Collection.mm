@@ -27,7 +27,8 @@
 
 - (void)copy_settings_from:(ZEB_Collection *)other
 {
-    link_marker = [other link_marker];
+    if ([other isKindOfClass:[ZEB_Collection class]])
+        link_marker = [other link_marker];
 }
 
 - (uint32_t)count

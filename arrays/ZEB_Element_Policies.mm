@@ -3,12 +3,19 @@
 #import "arrays/ZEB_Wide_Char_Storage_Private.h"
 
 #include "arrays/engine/growing.hpp"
+#include "core/engine/platform_call.hpp"
 
 namespace zeb
 {
 
 namespace
 {
+
+template <class Made>
+Made *try_to_make() noexcept
+{
+    return static_cast<Made *>(result_or_null([]() -> void * { return [[Made alloc] init]; }));
+}
 
 template <class Kind>
 bool has_room_for(Array_Storage<Kind> object, uint32_t count)
@@ -18,19 +25,25 @@ bool has_room_for(Array_Storage<Kind> object, uint32_t count)
 
 } // namespace
 
+ZEB_String *try_to_make_string() noexcept { return try_to_make<ZEB_String>(); }
+
+ZEB_Wide_String *try_to_make_wide_string() noexcept { return try_to_make<ZEB_Wide_String>(); }
+
+ZEB_Byte_Array *try_to_make_byte_array() noexcept { return try_to_make<ZEB_Byte_Array>(); }
+
 bool make_room_in(ZEB_String *object, ZEB_String *source)
 {
-    return has_room_for(storage_of_array(object), [source count]);
+    return object != nil && has_room_for(storage_of_array(object), [source count]);
 }
 
 bool make_room_in(ZEB_Wide_String *object, ZEB_Wide_String *source)
 {
-    return has_room_for(storage_of_array(object), [source count]);
+    return object != nil && has_room_for(storage_of_array(object), [source count]);
 }
 
 bool make_room_in(ZEB_Byte_Array *object, ZEB_Byte_Array *source)
 {
-    return has_room_for(storage_of_array(object), [source count]);
+    return object != nil && has_room_for(storage_of_array(object), [source count]);
 }
 
 } // namespace zeb

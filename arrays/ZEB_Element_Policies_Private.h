@@ -18,7 +18,13 @@ struct Object_Policy {
     static void release(id object) { [object release]; }
 };
 
-/// Gives an object that an array holds the room for the contents of another; false where there is no memory.
+/// A new, empty object, owned by the caller; nil if the platform cannot allocate it.
+ZEB_String *try_to_make_string() noexcept;
+ZEB_Wide_String *try_to_make_wide_string() noexcept;
+ZEB_Byte_Array *try_to_make_byte_array() noexcept;
+
+/// Gives an object that an array holds the room for the contents of another; false if allocation fails, or
+/// where there is no object.
 bool make_room_in(ZEB_String *object, ZEB_String *source);
 bool make_room_in(ZEB_Wide_String *object, ZEB_Wide_String *source);
 bool make_room_in(ZEB_Byte_Array *object, ZEB_Byte_Array *source);
@@ -43,7 +49,7 @@ protected:
 
 struct String_Policy : Contents_Policy {
     using Element = ZEB_String *;
-    static ZEB_String *make() { return [[ZEB_String alloc] init]; }
+    static ZEB_String *make() noexcept { return try_to_make_string(); }
     static bool make_room(ZEB_String *object, ZEB_String *source) { return make_room_in(object, source); }
     static bool precedes(ZEB_String *left, ZEB_String *right)
     {
@@ -53,7 +59,7 @@ struct String_Policy : Contents_Policy {
 
 struct Wide_String_Policy : Contents_Policy {
     using Element = ZEB_Wide_String *;
-    static ZEB_Wide_String *make() { return [[ZEB_Wide_String alloc] init]; }
+    static ZEB_Wide_String *make() noexcept { return try_to_make_wide_string(); }
     static bool make_room(ZEB_Wide_String *object, ZEB_Wide_String *source)
     {
         return make_room_in(object, source);
@@ -67,7 +73,7 @@ struct Wide_String_Policy : Contents_Policy {
 
 struct Byte_Array_Policy : Contents_Policy {
     using Element = ZEB_Byte_Array *;
-    static ZEB_Byte_Array *make() { return [[ZEB_Byte_Array alloc] init]; }
+    static ZEB_Byte_Array *make() noexcept { return try_to_make_byte_array(); }
     static bool make_room(ZEB_Byte_Array *object, ZEB_Byte_Array *source)
     {
         return make_room_in(object, source);

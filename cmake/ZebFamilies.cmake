@@ -4,7 +4,7 @@
 # server: ZEB_T_... for class names and types, TT_... for words and statements.
 
 set(zeb_family_columns NAME WORD PHRASE ELEMENT ARRAY KIND KIND_STATE WRITE FORWARD COLLECTION_FIELDS
-    VECTOR_FIELDS FIELD_AT_FIRST FIELD_OF_FOREIGN TAKE_MODE)
+    VECTOR_FIELDS FIELD_AT_FIRST FIELD_OF_FOREIGN TAKE_MODE STORING)
 
 set(zeb_template_lists HEADERS PRIVATE_HEADERS SOURCES OBJECT_HEADERS OBJECT_SOURCES TESTS)
 
@@ -29,6 +29,7 @@ macro(zeb_family_defaults)
   set(default_FIELD_AT_FIRST "(void)0")
   set(default_FIELD_OF_FOREIGN "(void)0")
   set(default_TAKE_MODE "(void)0")
+  set(default_STORING "Elements are values, copied as they are.")
   foreach(column ${zeb_family_columns})
     if(NOT DEFINED row_${column})
       set(row_${column} "${default_${column}}")
@@ -49,7 +50,7 @@ macro(zeb_expand template)
   string(REPLACE "TT_PHRASE" "${row_PHRASE}" text "${text}")
   string(REPLACE "TT_FORWARD_CLASSES" "${row_FORWARD}" text "${text}")
   string(REPLACE "TT_WRITE_ELEMENT" "${row_WRITE}" text "${text}")
-  foreach(column COLLECTION_FIELDS VECTOR_FIELDS FIELD_AT_FIRST FIELD_OF_FOREIGN TAKE_MODE KIND_STATE KIND)
+  foreach(column COLLECTION_FIELDS VECTOR_FIELDS FIELD_AT_FIRST FIELD_OF_FOREIGN TAKE_MODE STORING KIND_STATE KIND)
     string(REPLACE "TT_${column}" "${row_${column}}" text "${text}")
   endforeach()
   if(text MATCHES "TT_[A-Za-z_]+|ZEB_T_[A-Za-z_]+")

@@ -40,6 +40,12 @@ struct Array_Storage : Vector_Storage<Kind> {
     std::uint32_t growth_seed;
 
     bool is_link() const noexcept { return this->link_marker >= link_marker_of_links; }
+
+    /// The size of the block in bytes, of a link that of what it views.
+    std::size_t block_size() const noexcept
+    {
+        return (is_link() ? this->count : capacity) * sizeof(typename Kind::Element);
+    }
 };
 
 } // namespace zeb

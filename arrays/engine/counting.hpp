@@ -1,4 +1,4 @@
-/// The count of a vector, within the storage at hand.
+/// The pointer and the count of a vector, without moving its storage.
 #pragma once
 
 #include "arrays/engine/array_notes.hpp"
@@ -6,6 +6,15 @@
 
 namespace zeb
 {
+
+/// Sets the pointer to the elements, and nothing else; they belong to the caller, also in an owner.
+template <class Kind>
+void change_data(Vector_Storage<Kind> vector, typename Kind::Element *data) noexcept
+{
+    if (data != vector.data)
+        vector.kind.disown();
+    vector.data = data;
+}
 
 /// Sets the count. An owner drops the elements past a smaller count and opens those that a larger one
 /// gains; a link's elements belong to someone else, and only its view changes.

@@ -4,6 +4,7 @@
 /// as it was. A source that lies in the array's own block is read as if it had been copied first.
 #pragma once
 
+#include "arrays/engine/copied_run.hpp"
 #include "arrays/engine/growing.hpp"
 #include "arrays/engine/removing.hpp"
 #include "arrays/engine/vector_lifetime.hpp"
@@ -22,14 +23,33 @@ struct Elements_Of {
     Source source = Source::of_the_caller;
 };
 
-/// Remembers a source by its index when it lies among the array's own elements, because growth and gaps
-/// move those.
+/// Whether a run begins in the block of an owner, among the live elements or behind them.
+template <class Kind>
+bool begins_in_block(Array_Storage<Kind> array, typename Kind::Element const *first) noexcept
+{
+    const std::less<> before;
+    return array.data != nullptr && !before(first, array.data) && before(first, array.data + array.capacity);
+}
+
+/// Whether a source lies in the array's block and reaches behind the live elements, where a link sees what
+/// a larger count once held. A gap would overwrite it.
+template <class Kind>
+bool reaches_behind_elements(Array_Storage<Kind> array, Elements_Of<Kind> source) noexcept
+{
+    if (!begins_in_block(array, source.first))
+        return false;
+    const std::uint64_t end = static_cast<std::uint64_t>(source.first - array.data) + source.count;
+    return end > array.count && end <= array.capacity && source.count != 0;
+}
+
+/// Remembers a source by its index when it lies in the array's own block, because growth and gaps move
+/// that.
 template <class Kind>
 class Source_Position
 {
 public:
     Source_Position(Array_Storage<Kind> array, Elements_Of<Kind> source) noexcept
-        : elements(source), own(lies_within(array, source.first)),
+        : elements(source), own(begins_in_block(array, source.first)),
           index(own ? static_cast<std::uint32_t>(source.first - array.data) : 0)
     {
         // The array's own references are no caller's: none is there to be taken over.
@@ -60,12 +80,6 @@ public:
     }
 
 private:
-    static bool lies_within(Array_Storage<Kind> array, typename Kind::Element const *first) noexcept
-    {
-        const std::less<> before;
-        return array.data != nullptr && !before(first, array.data) && before(first, array.data + array.count);
-    }
-
     void assign(Array_Storage<Kind> array, std::uint32_t at, typename Kind::Element const *first,
                 std::uint32_t n) const noexcept
     {
@@ -77,12 +91,31 @@ private:
     std::uint32_t index;
 };
 
+template <class Kind, class Report>
+bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Kind> elements,
+                      std::uint64_t needed, Report report) noexcept;
+
+/// Inserts a copy of the source.
+template <class Kind, class Report>
+[[gnu::noinline, gnu::cold]] bool insert_copy(Array_Storage<Kind> array, std::uint32_t at,
+                                              Elements_Of<Kind> elements, std::uint64_t needed,
+                                              Report report) noexcept
+{
+    const Copied_Run<Kind> copy(array.kind, {elements.first, elements.count},
+                                [&](Char_Span) { report(notes::reallocate_failed); });
+    return copy.is_had() &&
+           insert_with_room(array, at, {copy.get().data(), elements.count, Source::of_another_array}, needed,
+                            report);
+}
+
 /// Inserts before index `at` (the count appends) into an owner, once its capacity exceeds `needed`, which
 /// is the new count less one at least.
 template <class Kind, class Report>
 bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Kind> elements,
                       std::uint64_t needed, Report report) noexcept
 {
+    if (reaches_behind_elements(array, elements)) [[unlikely]]
+        return insert_copy(array, at, elements, needed, report);
     const Source_Position<Kind> source(array, elements);
     const std::uint64_t count = std::uint64_t{array.count} + elements.count;
     if (!grow(array, needed, report) || !open_up_to(array, static_cast<std::uint32_t>(count), report))

@@ -4,6 +4,8 @@
 /// live elements are those below the count.
 ///
 ///     open       slots become live: undefined values, no object, or an empty object
+///     adopt      the slots are the array's own from now on, also where its storage was set from outside
+///     disown     the slots belong to whoever set the storage: none of them is opened or ended
 ///     close      slots stop being live: what they hold is dropped
 ///     prepare    live slots get the room for a source's contents; where that cannot be had, nothing changed
 ///     assign     live slots take the elements of a source (which may lie in the same block, further up);
@@ -45,6 +47,8 @@ struct Plain_Elements {
     void take(Fresh) const noexcept {}
 
     bool open(Element *, std::uint32_t, std::uint32_t) const noexcept { return true; }
+    void adopt(std::uint32_t) const noexcept {}
+    void disown() const noexcept {}
     bool prepare(Element *, Element const *, std::uint32_t) const noexcept { return true; }
     void close(Element *, std::uint32_t, std::uint32_t) const noexcept {}
     void destroy(Element *, std::uint32_t, std::uint32_t) const noexcept {}
@@ -95,11 +99,11 @@ struct Counted_References {
     Counted_References fresh(Fresh &) const noexcept { return *this; }
     void take(Fresh) const noexcept {}
 
-    bool open(Element *data, std::uint32_t from, std::uint32_t to) const noexcept
-    {
-        std::fill(data + from, data + to, Element{});
-        return true;
-    }
+    /// The slots behind the count hold nothing in a block of the array's own, which is filled with zeros and
+    /// keeps no dropped reference. Storage that was set from outside is not written.
+    bool open(Element *, std::uint32_t, std::uint32_t) const noexcept { return true; }
+    void adopt(std::uint32_t) const noexcept {}
+    void disown() const noexcept {}
 
     void close(Element *data, std::uint32_t from, std::uint32_t to) const noexcept
     {
@@ -179,7 +183,10 @@ struct Held_Objects {
     static constexpr bool holds_objects = true;
     static constexpr bool zero_filled = true;
 
-    std::uint32_t &held; ///< slots below this number hold an object
+    /// What `held` says where the slots are not the array's own.
+    static constexpr std::uint32_t disowned = UINT32_MAX;
+
+    std::uint32_t &held; ///< slots below this number hold an object that the array made
 
     struct Fresh {
         std::uint32_t held = 0;
@@ -188,6 +195,17 @@ struct Held_Objects {
     void take(Fresh block) const noexcept { held = block.held; }
 
     static std::uint64_t hash(Element object) noexcept { return Policy::hash(object); }
+
+    /// How many slots hold an object that the array made.
+    std::uint32_t made() const noexcept { return held == disowned ? 0 : held; }
+
+    void adopt(std::uint32_t count) const noexcept
+    {
+        if (held == disowned)
+            held = count;
+    }
+
+    void disown() const noexcept { held = disowned; }
 
     bool open(Element *data, std::uint32_t, std::uint32_t to) const noexcept
     {
@@ -204,11 +222,12 @@ struct Held_Objects {
 
     void destroy(Element *data, std::uint32_t from, std::uint32_t) const noexcept
     {
-        for (std::uint32_t i = from; i < held; ++i) {
+        for (std::uint32_t i = from; i < made(); ++i) {
             Policy::release(data[i]);
             data[i] = Element{};
         }
-        held = std::min(held, from);
+        if (held != disowned)
+            held = std::min(held, from);
     }
 
     bool prepare(Element *slots, Element const *source, std::uint32_t n) const noexcept

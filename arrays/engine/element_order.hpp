@@ -16,12 +16,18 @@ struct Own_Equality {
     }
 };
 
-/// The element type's own strict order; pointers are ordered by address.
+/// The element type's own strict order; pointers are ordered by address. Characters are signed on every
+/// processor, also where the compiler's plain `char` is not.
 struct Own_Less {
     template <class Element>
     constexpr bool operator()(const Element &left, const Element &right) const noexcept
     {
         return std::less<>{}(left, right);
+    }
+
+    constexpr bool operator()(const char &left, const char &right) const noexcept
+    {
+        return static_cast<signed char>(left) < static_cast<signed char>(right);
     }
 };
 

@@ -34,6 +34,7 @@ template <class Kind, class Report>
 bool open_up_to(Array_Storage<Kind> array, std::uint32_t count, Report report,
                 Char_Span failure = notes::reallocate_failed) noexcept
 {
+    array.kind.adopt(array.count);
     if (array.kind.open(array.data, array.count, count))
         return true;
     report(failure);

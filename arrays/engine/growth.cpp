@@ -2,6 +2,7 @@
 
 #include "arrays/engine/allocator.hpp"
 
+#include <algorithm>
 #include <cstring>
 
 namespace zeb
@@ -32,7 +33,8 @@ std::uint64_t grown_capacity(std::uint32_t capacity, std::uint64_t needed, std::
     std::uint64_t grown = raised_to_seed(capacity, seed);
     while (grown <= needed)
         grown *= 2;
-    return grown;
+    // The last doubling would pass 32 bits; what exceeds `needed` and fits does as well.
+    return needed < greatest_capacity ? std::min(grown, greatest_capacity) : grown;
 }
 
 bool resize_block(Block &block, std::uint64_t capacity, Block_Layout layout) noexcept

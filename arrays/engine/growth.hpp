@@ -20,7 +20,7 @@ struct Block_Layout {
     bool zero_filled;
 };
 
-/// What an array can hold at the most: one less than the capacity of a link.
+/// The greatest capacity of a block. An array holds one element less after growth.
 inline constexpr std::uint64_t greatest_capacity = UINT32_MAX;
 
 /// The smallest seed × 2^k that is at least `count`. Seed 0 counts as 1.
@@ -33,7 +33,8 @@ constexpr std::uint32_t capacity_in_32_bits(std::uint64_t capacity) noexcept
 }
 
 /// Growth's rule: the capacity itself when it exceeds `needed`; else raised to the seed, then doubled
-/// while it does not exceed `needed`. The answer may not fit in 32 bits; such a block cannot be had.
+/// while it does not exceed `needed`, up to `greatest_capacity` where that exceeds it. Where it does not, the
+/// result does not fit in 32 bits, and such a block cannot be allocated.
 std::uint64_t grown_capacity(std::uint32_t capacity, std::uint64_t needed, std::uint32_t seed) noexcept;
 
 /// Makes the block hold more than `needed` elements, moving it where it must. Answers false, and leaves

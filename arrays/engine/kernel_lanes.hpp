@@ -57,6 +57,11 @@ template <class Element>
 struct Order_Lane<Element, true> {
     using Type = std::conditional_t<sizeof(Element) == 1, std::int8_t, std::int32_t>;
 };
+
+/// Characters are signed here, whatever the compiler's plain `char` is.
+template <class Element>
+inline constexpr bool is_signed_integer = std::is_same_v<Element, char> ||
+                                          (std::is_integral_v<Element> && std::is_signed_v<Element>);
 } // namespace lane_detail
 
 /// The lane type whose `==` is the element's.
@@ -69,8 +74,7 @@ using Bits_Lane = typename lane_detail::Unsigned<sizeof(Element)>::Type;
 
 /// The lane type whose `<` is the element's.
 template <class Element>
-using Order_Lane =
-    typename lane_detail::Order_Lane<Element, std::is_integral_v<Element> && std::is_signed_v<Element>>::Type;
+using Order_Lane = typename lane_detail::Order_Lane<Element, lane_detail::is_signed_integer<Element>>::Type;
 
 /// True when the functor is the element's own, so that a kernel may decide instead of the functor.
 template <class Element, class Equality>

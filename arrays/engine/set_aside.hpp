@@ -10,6 +10,17 @@
 namespace zeb
 {
 
+/// Whether a run has bytes in common with the `size` bytes at `block`.
+template <class Element>
+bool overlaps(std::span<const Element> run, const void *block, std::size_t size) noexcept
+{
+    const std::less<> before;
+    const char *const first = reinterpret_cast<const char *>(run.data());
+    const char *const start = static_cast<const char *>(block);
+    return !run.empty() && size != 0 && before(first, start + size) &&
+           before(start, first + run.size_bytes());
+}
+
 /// Copies the run aside only where it lies in the block that the operation is about to change.
 template <class Element>
 class Set_Aside
@@ -17,8 +28,7 @@ class Set_Aside
 public:
     /// `block` is that block, of `size` bytes.
     Set_Aside(std::span<const Element> run, const void *block, std::size_t size) noexcept
-        : overlapping(overlaps(run, static_cast<const char *>(block), size)),
-          copy(overlapping ? run.size() : 0), source(run)
+        : overlapping(overlaps(run, block, size)), copy(overlapping ? run.size() : 0), source(run)
     {
         if (copy.get() == nullptr)
             return;
@@ -32,14 +42,6 @@ public:
     std::span<const Element> elements() const noexcept { return source; }
 
 private:
-    static bool overlaps(std::span<const Element> run, const char *block, std::size_t size) noexcept
-    {
-        const std::less<> before;
-        const char *const first = reinterpret_cast<const char *>(run.data());
-        return !run.empty() && size != 0 && before(first, block + size) &&
-               before(block, first + run.size_bytes());
-    }
-
     bool overlapping;
     Scratch<Element> copy;
     std::span<const Element> source;

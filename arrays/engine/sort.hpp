@@ -3,6 +3,7 @@
 #pragma once
 
 #include "arrays/engine/kernel_lanes.hpp"
+#include "arrays/engine/set_aside.hpp"
 #include "arrays/engine/shell_sort.hpp"
 #include "arrays/engine/sort_kernels.hpp"
 
@@ -64,6 +65,13 @@ struct By_Comparison {
     }
 };
 
+/// Whether the indexes lie among the elements, where no exchange could be made in both.
+template <class Element>
+bool lie_among(std::span<std::uint32_t> indexes, std::span<Element> elements) noexcept
+{
+    return overlaps<std::uint32_t>(indexes, elements.data(), elements.size_bytes());
+}
+
 } // namespace sort_detail
 
 /// Sorts by a strict order, the element's own unless another is given.
@@ -87,15 +95,18 @@ void sort_by(std::span<Element> elements, Compare compare) noexcept
     sort_detail::shell_sort(elements, sort_detail::By_Comparison<Compare>{compare});
 }
 
-/// Sorts, every exchange applied to `indexes` too, which tells where each element went when it held
-/// 0, 1, 2, ... before. Answers false, nothing changed, when there are fewer indexes than elements.
+/// Sorts, every exchange applied to `indexes` too: if they were 0, 1, 2, ... before, index i becomes the
+/// position that element i had. Returns false, nothing changed, if there are fewer indexes than elements.
+/// Indexes that lie among the elements are sorted with them and not exchanged.
 template <class Element, class Less = Own_Less>
 bool sort_with_permutation(std::span<Element> elements, std::span<std::uint32_t> indexes,
                            Less less = {}) noexcept
 {
     if (indexes.size() < elements.size())
         return false;
-    if constexpr (has_order_kernel<Element, Less>) {
+    if (sort_detail::lie_among(indexes, elements)) {
+        sort(elements, less);
+    } else if constexpr (has_order_kernel<Element, Less>) {
         if (sort_detail::sorts(elements.size()))
             kernels::sort(lanes_of<Order_Lane<Element>>(elements.data()), indexes.data(), elements.size());
     } else {
@@ -111,7 +122,10 @@ bool sort_with_permutation_by(std::span<Element> elements, std::span<std::uint32
 {
     if (indexes.size() < elements.size())
         return false;
-    sort_detail::shell_sort(elements, indexes.data(), sort_detail::By_Comparison<Compare>{compare});
+    if (sort_detail::lie_among(indexes, elements))
+        sort_by(elements, compare);
+    else
+        sort_detail::shell_sort(elements, indexes.data(), sort_detail::By_Comparison<Compare>{compare});
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "arrays/engine/fill.hpp"
 #include "arrays/engine/permutation.hpp"
 #include "arrays/engine/replace.hpp"
+#include "arrays/engine/set_aside.hpp"
 
 #include <utility>
 
@@ -142,11 +143,15 @@ void permute_objects(Vector_Storage<Kind> vector, std::span<const std::uint32_t>
 } // namespace storing_detail
 
 /// Rearranges as many elements as the shorter of both has. An entry outside the vector is reported, and
-/// nothing changes; neither does it where memory is short.
+/// nothing changes; neither does it if allocation fails. The permutation may lie among the elements.
 template <class Kind, class Report>
-void permute(Vector_Storage<Kind> vector, std::span<const std::uint32_t> permutation, Permutation_Way way,
+void permute(Vector_Storage<Kind> vector, std::span<const std::uint32_t> entries, Permutation_Way way,
              Report report) noexcept
 {
+    const Set_Aside<std::uint32_t> aside(entries, vector.data, vector.elements().size_bytes());
+    if (aside.failed())
+        return report(notes::allocate_failed);
+    const std::span<const std::uint32_t> permutation = aside.elements();
     const std::size_t used = std::min<std::size_t>(vector.count, permutation.size());
     if (!permutation_detail::names_elements(permutation, used, vector.count))
         return report(notes::permutation_out_of_range);

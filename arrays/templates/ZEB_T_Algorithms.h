@@ -27,7 +27,8 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
     with the last element is not found: the last possible start is never tried. */
 - (uint32_t)index_of_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n;
 
-/** Binary search in ascending elements: the index of one equal to `key`, or ZEB_NOT_FOUND. With a
+/** Binary search in ascending elements: the index of one equal to `key`, or ZEB_NOT_FOUND. Of several equal
+    ones any may be the result. NaN, as key or as an element, counts as equal to all it is compared with. With a
     comparison, an unknown answer ends the search at the element that it was given about; about a single
     element it finds nothing, and 0 reports "Warning: Ordered find stopped on unknown comparison." */
 - (uint32_t)ordered_index_of_TT_word:(ZEB_T_Element)key;
@@ -74,12 +75,15 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 - (void)reverse;
 
 /** Sorts, ascending. Equal elements end where a Shell sort with the gaps 1, 4, 13, 40, ... leaves them. A
-    comparison is asked about (the later, the earlier) element of a pair, which change places on 2. */
+    comparison is asked about (the later, the earlier) element of a pair, which change places on 2. NaN
+    orders before and after nothing: among NaNs the result is not ascending, though always the same. */
 - (void)sort;
 - (void)sort_TT_words_with_comparison:(ZEB_T_Comparison)comparison;
 
-/** The same, every exchange made in `indexes` too: when those were 0, 1, 2, ... they tell where each
-    element went. With fewer indexes than elements nothing changes. */
+/** The same, every exchange made in `indexes` too: if those were 0, 1, 2, ... they tell afterwards where
+    each element came from (element i was element `indexes[i]`), as `apply_permutation:` takes it. With
+    fewer indexes than elements nothing changes and nothing is reported. Indexes that share memory with the
+    elements are sorted with them and not exchanged. */
 - (void)sort_with_permutation:(ZEB_UInt_Array *)indexes;
 - (void)sort_TT_words_with_comparison:(ZEB_T_Comparison)comparison permutation:(ZEB_UInt_Array *)indexes;
 
@@ -95,7 +99,7 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 
 /** 1 when both hold the same elements in the same order, else 0: compared as memory, or with a collection
     of any class by value, as `==` has it. Objects that an array holds are compared by contents. Nothing
-   equals nil. */
+    equals nil. */
 - (uint8_t)is_equal_to_vector:(ZEB_T_Vector *)other;
 - (uint8_t)is_equal_to_collection:(ZEB_T_Collection *)other;
 
@@ -112,7 +116,7 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 @interface ZEB_T_Array (Algorithms)
 
 /** Inserts an element among ascending ones and answers its index; where an equal one stands, answers that
-    one's index and inserts nothing. With `inserts` 0 nothing is ever inserted, and ZEB_NOT_FOUND answered
+    one's index and inserts nothing (NaN counts as equal to all it is compared with). With `inserts` 0 nothing is ever inserted, and ZEB_NOT_FOUND answered
     instead. An unknown answer of the comparison answers the index it was given about; about a single
     element it reports "Warning: Ordered insert stopped on unknown comparison." A link that would have to
     insert reports "Cannot insert element through link, no insertion made." and answers ZEB_NOT_FOUND. */

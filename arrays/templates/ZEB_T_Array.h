@@ -60,7 +60,9 @@ ZEB_EXPORT
 /** Makes an owner with a copy of a vector's elements; the capacity is their count. */
 - (id)init_as_copy_of_TT_word_vector:(ZEB_T_Vector *)other;
 
-/** An autoreleased copy of the receiver's class: an owner, also of a link's elements. */
+/** An autoreleased copy of the receiver's class: an owner, also of a link's elements. Of a subclass it has
+    the elements and the settings of this class; neither the subclass's own initialisers run nor are its
+    fields copied. */
 - (ZEB_T_Array *)duplicate;
 
 /** How many elements the block holds. Setting it moves no storage. */

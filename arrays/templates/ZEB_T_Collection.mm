@@ -22,7 +22,7 @@
 - (void)copy_settings_from:(ZEB_T_Collection *)other
 {
     [super copy_settings_from:other];
-    if (other != nil)
+    if ([other isKindOfClass:[ZEB_T_Collection class]])
         zeb::take_mode(self, other);
 }
 

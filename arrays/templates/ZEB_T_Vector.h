@@ -10,6 +10,8 @@
  * someone else. A link reads and writes them in place, never frees them, and does not keep their owner
  * alive.
  *
+ * TT_STORING
+ *
  * Where memory is short, "Runtime error in allocate macro" is reported, and the vector holds no block.
  */
 ZEB_EXPORT
@@ -45,7 +47,8 @@ ZEB_EXPORT
 /** Makes a link to `n` elements at `elements`, its link marker 10000. Nothing is copied. */
 - (id)init_as_link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n;
 
-/** Makes a link to a range of another vector, both ends included. The range is not checked. */
+/** Makes a link to a range of another vector, both ends included; to nothing for nil. The range is not
+    checked. */
 - (id)init_as_link_to_TT_word_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range;
 
 /** Makes an owner with a copy of `n` elements. */
@@ -58,7 +61,7 @@ ZEB_EXPORT
 - (id)copyWithZone:(NSZone *)zone;
 
 /** Views `n` elements at `elements` from now on. Neither frees the block of an owner nor sets the link
-    marker: for a vector that is a link already. */
+    marker: for a vector that is a link already, and that may view foreign memory under its settings. */
 - (void)relink_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n;
 
 /** The same with a range of another vector, both ends included and not checked. */
@@ -82,8 +85,10 @@ ZEB_EXPORT
 /** Sets the count to 0. The storage stays. */
 - (void)clear;
 
-/** Sets the count within the storage at hand, which is not moved. Elements past a smaller count are
-    dropped; elements gained are undefined, or hold nothing. */
+/** Sets the count within the storage at hand, which is neither moved nor made larger: a count beyond the
+    block's room is the caller's fault. Elements past a smaller count are dropped; elements gained are what
+    the storage holds there: undefined numbers, no object, or an empty string or byte array. Storage that was
+    set by pointer is not written. */
 - (void)set_count:(uint32_t)length;
 
 /** Makes the count smaller by `n`, or by 1; never below 0. */
@@ -93,7 +98,9 @@ ZEB_EXPORT
 /** The first element; the others follow it. Null where there is no block. */
 - (ZEB_T_Element *)TT_word_data;
 
-/** Sets the pointer to the first element and nothing else: the old block is not freed. */
+/** Sets the pointer to the first element and nothing else: the old block is not freed. Objects in the new
+    storage are the caller's; where the array has to make its own strings or byte arrays in it, by growing
+    or appending, it takes those below the count over. */
 - (void)set_TT_word_data:(ZEB_T_Element *)elements;
 
 /** The element at an index. */

@@ -14,6 +14,15 @@ namespace
 
 uint32_t default_length = 16;
 
+/// Views a range of another vector, under its ownership mode; nothing of nil.
+void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
+{
+    if (other == nil)
+        return zeb::view(storage_of_vector(link), static_cast<ZEB_T_Element const *>(nullptr), 0);
+    zeb::take_mode(link, other);
+    zeb::view_range(storage_of_vector(link), [other TT_word_data], range);
+}
+
 } // namespace
 
 @implementation ZEB_T_Vector
@@ -83,7 +92,7 @@ uint32_t default_length = 16;
     self = [super init];
     if (self != nil) {
         link_marker = zeb::link_marker_of_links;
-        zeb::view_range(storage_of_vector(self), [other TT_word_data], range);
+        view_range(self, other, range);
     }
     return self;
 }
@@ -123,12 +132,13 @@ uint32_t default_length = 16;
 
 - (void)relink_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
 {
+    TT_FIELD_OF_FOREIGN;
     zeb::view(storage_of_vector(self), elements, n);
 }
 
 - (void)relink_to_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range
 {
-    zeb::view_range(storage_of_vector(self), [other TT_word_data], range);
+    view_range(self, other, range);
 }
 
 - (void)copy_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n capacity:(uint32_t)capacity
@@ -188,7 +198,7 @@ uint32_t default_length = 16;
 
 - (void)set_TT_word_data:(ZEB_T_Element *)elements
 {
-    data = elements;
+    zeb::change_data(storage_of_vector(self), elements);
 }
 
 - (ZEB_T_Element)TT_word_at_index:(uint32_t)index

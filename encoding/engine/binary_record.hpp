@@ -21,6 +21,20 @@ struct Record_Source {
 
 inline constexpr std::uint32_t record_count_size = sizeof(std::uint32_t);
 
+template <class Report>
+bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elements, std::uint64_t size,
+                   Report report) noexcept;
+
+/// Appends a record whose elements lie behind the buffer's own: the record would overwrite them.
+template <class Report>
+bool append_copy_of_record(Record_Buffer buffer, std::uint32_t count, std::span<const char> elements,
+                           Report report) noexcept
+{
+    const Copied_Run<Plain_Elements<char>> copy({}, elements,
+                                                [&](Char_Span) { report(notes::reallocate_failed); });
+    return copy.is_had() && append_record(buffer, count, copy.get().data(), elements.size(), report);
+}
+
 /// Appends a count and then `size` bytes of elements; false, after a report, where the buffer is a link
 /// or cannot grow.
 template <class Report>
@@ -33,9 +47,11 @@ bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elemen
     }
     const std::uint64_t length = std::uint64_t{buffer.count} + record_count_size + size;
     // A string may be its own buffer; growth then moves what is to be appended.
-    const Source_Position source(
-        buffer,
-        Elements_Of<Plain_Elements<char>>{static_cast<const char *>(elements), static_cast<uint32_t>(size)});
+    const Elements_Of<Plain_Elements<char>> bytes{static_cast<const char *>(elements),
+                                                  static_cast<uint32_t>(size)};
+    if (reaches_behind_elements(buffer, bytes)) [[unlikely]]
+        return append_copy_of_record(buffer, count, {bytes.first, bytes.count}, report);
+    const Source_Position source(buffer, bytes);
     if (!grow(buffer, length, report))
         return false;
     std::memcpy(buffer.data + buffer.count, &count, record_count_size);
@@ -188,9 +204,9 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
     const std::uint32_t size = nested_record_size(source, sizeof(Nested));
     if (!may_decode(array, size, report))
         return 0;
-    for (std::uint32_t i = 0; i < array.kind.held; ++i) {
+    for (std::uint32_t i = 0; i < array.kind.made(); ++i) {
         const auto object = storage_of(array.data[i]);
-        const Set_Aside<char> aside({source.bytes, size}, object.data, object.elements().size_bytes());
+        const Set_Aside<char> aside({source.bytes, size}, object.data, object.block_size());
         if (aside.failed()) {
             report(notes::allocate_failed);
             return 0;

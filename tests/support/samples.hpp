@@ -112,6 +112,16 @@ bool are_identical(Element left, Element right)
         return std::memcmp(&left, &right, sizeof left) == 0;
 }
 
+/// The element as it is now: objects that an array holds may be overwritten later.
+template <class Element>
+Element as_it_is(Element element)
+{
+    if constexpr (is_held<Element>)
+        return [element duplicate];
+    else
+        return element;
+}
+
 /// Keeps elements that are objects alive for good.
 template <class Element>
 void keep(const std::vector<Element> &elements)

@@ -263,3 +263,85 @@ TEST(ZEB_T_Storage, elements_are_reached_from_both_ends)
     EXPECT_EQ([array is_not_empty], 0);
     EXPECT_TRUE([array first_TT_word] == Element());
 }
+
+namespace
+{
+
+/// The elements of a vector as they are now; objects that it holds may be overwritten later.
+std::vector<Element> snapshot(ZEB_T_Vector *vector)
+{
+    std::vector<Element> elements([vector TT_word_data], [vector TT_word_data] + [vector count]);
+    for (Element &element : elements)
+        element = support::as_it_is(element);
+    return elements;
+}
+
+struct Stale_Link {
+    ZEB_Index_Range range;
+    uint32_t count;
+};
+
+} // namespace
+
+TEST(ZEB_T_Storage, a_link_that_outlived_a_smaller_count_is_read_as_if_copied_first)
+{
+    // The block has 16 elements; some ways of putting elements in move it, and others overwrite what the link
+    // views.
+    for (const Stale_Link stale : {Stale_Link{{8, 15}, 6}, {{4, 13}, 6}, {{8, 15}, 12}, {{12, 14}, 12}}) {
+        for (int way = 0; way < 4; ++way) {
+            SCOPED_TRACE(testing::Message() << stale.range.start << " " << stale.count << " way " << way);
+            ZEB_T_Array *const owner = array_of(16);
+            ZEB_T_Vector *const link =
+                [[[ZEB_T_Vector alloc] init_as_link_to_TT_word_vector:owner range:stale.range] autorelease];
+            [owner set_count:stale.count];
+            const std::vector<Element> viewed = snapshot(link);
+            std::vector<Element> expected = snapshot(owner);
+            if (way == 0) {
+                [owner append_array:link];
+                expected.insert(expected.end(), viewed.begin(), viewed.end());
+            } else if (way == 1) {
+                [owner insert_array:link at_index:2];
+                expected.insert(expected.begin() + 2, viewed.begin(), viewed.end());
+            } else if (way == 2) {
+                [owner replace_element_at_index:1 with_array:link];
+                expected.erase(expected.begin() + 1);
+                expected.insert(expected.begin() + 1, viewed.begin(), viewed.end());
+            } else {
+                [owner set_contents_of_array:link];
+                expected = viewed;
+            }
+            ASSERT_EQ([owner count], expected.size());
+            for (uint32_t i = 0; i < expected.size(); ++i) {
+                EXPECT_TRUE(are_same([owner TT_word_at_index:i], expected[i])) << i;
+            }
+        }
+    }
+}
+
+TEST(ZEB_T_Storage, storage_set_by_pointer_is_not_written_by_a_count)
+{
+    Element foreign[3] = {sample(0), sample(1), Element()};
+    const std::vector<Element> before(foreign, foreign + 3);
+    ZEB_T_Array *const array = [[ZEB_T_Array alloc] init];
+    [array set_TT_word_data:foreign];
+    for (const uint32_t count : {1u, 2u, 3u}) {
+        [array set_count:count];
+        [array set_TT_word_data:foreign];
+        EXPECT_EQ([array count], count);
+    }
+    EXPECT_EQ(std::memcmp(foreign, before.data(), 2 * sizeof *foreign), 0);
+    [array set_TT_word_data:nullptr];
+    [array release];
+}
+
+TEST(ZEB_T_Storage, nil_and_what_is_no_collection_leave_a_link_as_it_is)
+{
+    ZEB_T_Array *const owner = array_of(2);
+    ZEB_T_Array *const link = [ZEB_T_Array link_to_TT_words:[owner TT_word_data] count:2];
+    [link copy_settings_from:nil];
+    [link copy_settings_from:(id) @"no collection"];
+    EXPECT_EQ([link link_marker], 10000u);
+    [link relink_to_vector:nil range:ZEB_Index_Range{1, 2}];
+    EXPECT_EQ([link count], 0u);
+    EXPECT_EQ([link TT_word_data], nullptr);
+}

@@ -1,0 +1,15 @@
+#include "core/engine/platform_call.hpp"
+
+namespace zeb
+{
+
+void *result_or_null(void *(*make)()) noexcept
+{
+    try {
+        return make();
+    } catch (...) {
+        return nullptr;
+    }
+}
+
+} // namespace zeb

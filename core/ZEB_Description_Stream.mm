@@ -3,8 +3,33 @@
 #import "core/ZEB_Stream_Private.h"
 
 #import <Korvane_ZEB/ZEB_String.h>
+#import <Korvane_ZEB/ZEB_Wide_String.h>
 
-/// Gathers what is written onto it in its scratch string.
+#import "arrays/ZEB_Printing_Private.h"
+
+#include "core/engine/notice.hpp"
+#include "strings/engine/utf.hpp"
+
+namespace
+{
+
+/// Puts bytes onto a stream as characters of ISO Latin 1, in UTF-8.
+void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
+{
+    for (const char character : text) {
+        const auto code = static_cast<uint8_t>(character);
+        const char utf8[] = {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 0x3F))};
+        if (code < 0x80)
+            [stream put_bytes:&character length:1];
+        else
+            [stream put_bytes:utf8 length:2];
+    }
+}
+
+} // namespace
+
+/// Gathers what is written onto it in its scratch string. Strings are written as their text, and not as
+/// lists of characters, wherever they stand.
 @interface ZEB_Description_Stream : ZEB_Stream
 
 - (NSString *)text;
@@ -12,6 +37,30 @@
 @end
 
 @implementation ZEB_Description_Stream
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return zeb::proprietary_software_notice;
+}
+
+- (void)write_object:(id)object
+{
+    if ([object isKindOfClass:[ZEB_Char_Vector class]])
+        [self write_string:object];
+    else if ([object isKindOfClass:[ZEB_Wide_Char_Vector class]])
+        zeb::print_element(self, static_cast<ZEB_Wide_String *>(object));
+    else
+        [super write_object:object];
+}
+
+- (void)write_string:(ZEB_String *)string
+{
+    const std::span<const char> text([string char_data], [string count]);
+    if (zeb::is_valid_utf8(text))
+        [super write_string:string];
+    else
+        put_latin_1(self, text);
+}
 
 - (void)put_bytes:(const char *)bytes length:(uint32_t)length
 {

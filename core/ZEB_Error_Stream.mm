@@ -7,9 +7,11 @@
 
 #include "core/engine/char_span.hpp"
 #include "core/engine/notice.hpp"
+#include "core/engine/platform_call.hpp"
 
 #import <objc/runtime.h>
 
+#include <initializer_list>
 #include <string.h>
 
 namespace
@@ -20,31 +22,41 @@ constexpr ZEB_Char_Span implement_lead = zeb::span_of("Need to implement selecto
 constexpr ZEB_Char_Span fix_lead = zeb::span_of("Need to fix algorithm in selector: ");
 constexpr ZEB_Char_Span class_lead = zeb::span_of(" for object of class: ");
 constexpr ZEB_Char_Span line_break = zeb::span_of("\n");
-
-void put_on_standard_error(ZEB_Char_Span text)
-{
-    if (text.length != 0)
-        fwrite(text.char_c_array, 1, text.length, stderr);
-}
+constexpr ZEB_Char_Span no_text = {"", 0};
 
 ZEB_Char_Span name_span(const char *name) { return {name, static_cast<uint32_t>(strlen(name))}; }
 
-/// The runtime's own texts of both names are what the platform's name services answer; they are static,
-/// so a diagnostic makes no object, also when it tells that memory is short.
-void put_diagnostic(ZEB_Char_Span lead, SEL selector, id object, ZEB_Char_Span note)
+/// A name, or nothing where there is none. The runtime's own texts are what the platform's name services
+/// return; they are static, so a diagnostic makes no object, also when it reports that an allocation failed.
+ZEB_Char_Span name_of(SEL selector) { return selector != NULL ? name_span(sel_getName(selector)) : no_text; }
+
+ZEB_Char_Span class_name_of(id object)
 {
-    put_on_standard_error(lead);
-    if (selector != NULL)
-        put_on_standard_error(name_span(sel_getName(selector)));
-    put_on_standard_error(class_lead);
-    if (object != nil)
-        put_on_standard_error(name_span(class_getName([object class])));
-    put_on_standard_error(zeb::span_of("."));
-    if (note.length != 0) {
-        put_on_standard_error(zeb::span_of(" "));
-        put_on_standard_error(note);
+    return object != nil ? name_span(class_getName([object class])) : no_text;
+}
+
+NSAutoreleasePool *new_pool()
+{
+    return static_cast<NSAutoreleasePool *>(
+        zeb::result_or_null([]() -> void * { return [[NSAutoreleasePool alloc] init]; }));
+}
+
+/// Puts the pieces of a diagnostic onto a stream, under a pool of its own. A diagnostic that is raised
+/// meanwhile, by what a subclass does with the text, goes straight to standard error.
+void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
+{
+    static bool is_putting = false;
+    if (is_putting) {
+        for (const ZEB_Char_Span piece : pieces)
+            fwrite(piece.char_c_array, 1, piece.length, stderr);
+        return;
     }
-    put_on_standard_error(line_break);
+    is_putting = true;
+    NSAutoreleasePool *const pool = new_pool();
+    for (const ZEB_Char_Span piece : pieces)
+        zeb::put(stream, piece);
+    [pool drain];
+    is_putting = false;
 }
 
 } // namespace
@@ -116,8 +128,11 @@ void put_diagnostic(ZEB_Char_Span lead, SEL selector, id object, ZEB_Char_Span n
 - (void)diagnose:(ZEB_Char_Span)lead selector:(SEL)selector object:(id)object note:(ZEB_Char_Span)note
 {
     ++warning_count;
-    if (verbose != 0)
-        put_diagnostic(lead, selector, object, note);
+    if (verbose == 0)
+        return;
+    const ZEB_Char_Span before_note = note.length != 0 ? zeb::span_of(". ") : zeb::span_of(".");
+    put_line(self,
+             {lead, name_of(selector), class_lead, class_name_of(object), before_note, note, line_break});
 }
 
 - (void)need_to_overload:(SEL)selector object:(id)object note:(ZEB_Char_Span)note
@@ -162,7 +177,8 @@ void put_diagnostic(ZEB_Char_Span lead, SEL selector, id object, ZEB_Char_Span n
 // A character is put as it is; only the writer with a format of its own prints through one.
 - (void)write_char:(int)value
 {
-    fputc(value, [self output_file]);
+    const char character = static_cast<char>(value);
+    [self put_bytes:&character length:1];
 }
 
 - (void)write_unsigned_long_with_format:(uint64_t)value format:(const char *)format

@@ -26,17 +26,17 @@
 
 - (uint8_t)ZEB_responds_to_selector:(SEL)selector
 {
-    return [super respondsToSelector:selector] ? 1 : 0;
+    return selector != NULL && [super respondsToSelector:selector] ? 1 : 0;
 }
 
 - (id)ZEB_perform_selector:(SEL)selector
 {
-    return [super performSelector:selector];
+    return selector != NULL ? [super performSelector:selector] : nil;
 }
 
 - (id)ZEB_perform_selector_with_object:(SEL)selector object:(id)object
 {
-    return [super performSelector:selector withObject:object];
+    return selector != NULL ? [super performSelector:selector withObject:object] : nil;
 }
 
 - (id)ZEB_retain

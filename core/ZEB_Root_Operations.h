@@ -39,10 +39,10 @@
 /** 1 when the receiver answers the selector, else 0. */
 - (uint8_t)ZEB_responds_to_selector:(SEL)selector;
 
-/** Sends the selector to the receiver and answers what that answers. */
+/** Sends the selector to the receiver and answers what that answers; nil for a null selector. */
 - (id)ZEB_perform_selector:(SEL)selector;
 
-/** Sends the selector with one argument and answers what that answers. */
+/** Sends the selector with one argument and answers what that answers; nil for a null selector. */
 - (id)ZEB_perform_selector_with_object:(SEL)selector object:(id)object;
 
 /** Adds a reference, and answers the receiver. */

@@ -4,12 +4,12 @@
 
 + (uint8_t)ZEB_responds_to_selector:(SEL)selector
 {
-    return [self respondsToSelector:selector] ? 1 : 0;
+    return selector != NULL && [self respondsToSelector:selector] ? 1 : 0;
 }
 
 + (uint8_t)ZEB_instances_respond_to_selector:(SEL)selector
 {
-    return [self instancesRespondToSelector:selector] ? 1 : 0;
+    return selector != NULL && [self instancesRespondToSelector:selector] ? 1 : 0;
 }
 
 + (Class)ZEB_class
@@ -46,17 +46,17 @@
 
 - (uint8_t)ZEB_responds_to_selector:(SEL)selector
 {
-    return [self respondsToSelector:selector] ? 1 : 0;
+    return selector != NULL && [self respondsToSelector:selector] ? 1 : 0;
 }
 
 - (id)ZEB_perform_selector:(SEL)selector
 {
-    return [self performSelector:selector];
+    return selector != NULL ? [self performSelector:selector] : nil;
 }
 
 - (id)ZEB_perform_selector_with_object:(SEL)selector object:(id)object
 {
-    return [self performSelector:selector withObject:object];
+    return selector != NULL ? [self performSelector:selector withObject:object] : nil;
 }
 
 - (id)ZEB_retain

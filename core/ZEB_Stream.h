@@ -44,10 +44,10 @@ ZEB_EXPORT
 /** A stream with the first formats and delimiters. */
 - (id)init;
 
-/** Sets `failure_count` to 0. */
+/** Sets `failure_count` to 0; subclasses that keep what was written forget that too. */
 - (void)reset;
 
-/** Sets `failure_count` to 0, as `reset` does. */
+/** As `reset`. */
 - (void)reset_failure_count;
 
 /** How many writes fell short; this class counts none. */
@@ -145,8 +145,8 @@ ZEB_EXPORT
 - (void)write_unsigned_long:(uint64_t)value;
 - (void)write_unsigned_long_with_format:(uint64_t)value format:(const char *)format;
 
-/** Reads a value with the stream's format, or with the given one; 0 where none can be read. A format for
-    a double may leave the `l` out. */
+/** Reads a value with the stream's format, or with the given one; 0 where none can be read. The format
+    stores one value. One for a double may leave the `l` out. A character is a signed byte. */
 - (double)read_double;
 - (double)read_double_with_format:(const char *)format;
 - (int32_t)read_int;

@@ -104,7 +104,7 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 
 - (void)reset_failure_count
 {
-    failure_count = 0;
+    [self reset];
 }
 
 - (uint32_t)failure_count

@@ -122,10 +122,9 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (double)read_double_with_format:(const char *)format
 {
-    const char *given = zeb::or_first(format, zeb::first_double_format);
-    char widened[64];
+    const zeb::Double_Scan_Format widened(zeb::or_first(format, zeb::first_double_format));
     double value = 0;
-    take_value(self, zeb::widen_double_format(given, widened, sizeof widened) ? widened : given, &value);
+    take_value(self, widened.c_string(), &value);
     return value;
 }
 
@@ -172,7 +171,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (int)read_char_with_format:(const char *)format
 {
-    char value = 0;
+    signed char value = 0;
     take_value(self, zeb::or_first(format, zeb::first_char_format), &value);
     return value;
 }

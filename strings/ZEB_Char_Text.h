@@ -39,8 +39,13 @@
 /** 1 when the receiver orders first, bytes compared as unsigned numbers; else 0. */
 - (uint8_t)is_less:(ZEB_Char_Vector *)other;
 
-/** The order of both, bytes compared as unsigned numbers. */
+/** The order of both, bytes compared as unsigned numbers. Foundation's sorts send this selector for -1, 0 and
+   1: use `platform_compare:` there. */
 - (ZEB_Comparison)compare:(ZEB_Char_Vector *)other;
+
+/** The same order as the platform has it, for sort descriptors and `sortedArrayUsingSelector:`. An object
+    of another class counts as an empty text. */
+- (NSComparisonResult)platform_compare:(ZEB_Char_Vector *)other;
 
 /** The order of both without regard to case, bytes compared as signed numbers: those from 0x80 on come
     before all others. */

@@ -57,6 +57,12 @@ using zeb::text_of;
     return zeb::compare(text_of(self), text_of(other));
 }
 
+- (NSComparisonResult)platform_compare:(ZEB_Char_Vector *)other
+{
+    return zeb::platform_order(
+        zeb::compare(text_of(self), text_of(zeb::vector_or_nil<ZEB_Char_Vector>(other))));
+}
+
 - (ZEB_Comparison)compare_ignoring_case:(ZEB_Char_Vector *)other
 {
     return zeb::compare_ignoring_case(text_of(self), text_of(other));

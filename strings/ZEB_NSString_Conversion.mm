@@ -19,12 +19,14 @@ NSStringEncoding platform_encoding(ZEB_Encoding_Type type)
     return type < sizeof encodings / sizeof *encodings ? encodings[type] : no_encoding;
 }
 
+NSString *string_or_nil(id text) { return [text isKindOfClass:[NSString class]] ? text : nil; }
+
 NSData *platform_bytes(NSString *text, ZEB_Encoding_Type type)
 {
     const NSStringEncoding encoding = platform_encoding(type);
     if (encoding == no_encoding)
         return nil;
-    NSData *const bytes = [text dataUsingEncoding:encoding allowLossyConversion:YES];
+    NSData *const bytes = [string_or_nil(text) dataUsingEncoding:encoding allowLossyConversion:YES];
     return [bytes length] <= UINT32_MAX ? bytes : nil;
 }
 
@@ -55,8 +57,9 @@ Made *platform_string_of(std::span<const uint32_t> units)
 }
 
 /// A text too long for a string counts as one for which memory is short.
-void set_units(ZEB_Wide_String *string, NSString *text, zeb::Fix_Report report)
+void set_units(ZEB_Wide_String *string, NSString *given, zeb::Fix_Report report)
 {
+    NSString *const text = zeb::string_or_nil(given);
     const NSUInteger length = [text length];
     if (length > UINT32_MAX)
         return report(zeb::notes::allocate_failed);

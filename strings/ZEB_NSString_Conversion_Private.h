@@ -31,6 +31,9 @@ Made *new_platform_string(const char *bytes, uint32_t length, ZEB_Encoding_Type 
     return [[Made alloc] initWithBytes:(length != 0 ? bytes : "") length:length encoding:encoding];
 }
 
+/// The platform string itself; nil for an object of another class.
+NSString *string_or_nil(id text);
+
 /// The bytes of a platform string; nil where there are none, or more than a string can hold.
 NSData *platform_bytes(NSString *text, ZEB_Encoding_Type type);
 

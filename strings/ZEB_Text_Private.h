@@ -21,4 +21,19 @@ inline std::span<const uint32_t> text_of(ZEB_Wide_Char_Vector *vector)
                          : std::span<const uint32_t>();
 }
 
+/// The platform's code of an order.
+inline NSComparisonResult platform_order(ZEB_Comparison order)
+{
+    if (order == ZEB_COMPARED_EQUAL)
+        return NSOrderedSame;
+    return order == ZEB_COMPARED_LESS ? NSOrderedAscending : NSOrderedDescending;
+}
+
+/// The vector, or nil for an object of a class that is none.
+template <class Vector>
+Vector *vector_or_nil(id object)
+{
+    return [object isKindOfClass:[Vector class]] ? static_cast<Vector *>(object) : nil;
+}
+
 } // namespace zeb

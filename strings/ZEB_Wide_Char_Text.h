@@ -25,8 +25,13 @@
 /** 1 when the receiver orders first, else 0. */
 - (uint8_t)is_less:(ZEB_Wide_Char_Vector *)other;
 
-/** The order of both. */
+/** The order of both. Foundation's sorts send this selector for -1, 0 and 1: use
+    `platform_compare:` there. */
 - (ZEB_Comparison)compare:(ZEB_Wide_Char_Vector *)other;
+
+/** The same order as the platform has it, for sort descriptors and `sortedArrayUsingSelector:`. An object
+    of another class counts as an empty text. */
+- (NSComparisonResult)platform_compare:(ZEB_Wide_Char_Vector *)other;
 
 @end
 

@@ -36,6 +36,12 @@ using zeb::text_of;
     return zeb::compare(text_of(self), text_of(other));
 }
 
+- (NSComparisonResult)platform_compare:(ZEB_Wide_Char_Vector *)other
+{
+    return zeb::platform_order(
+        zeb::compare(text_of(self), text_of(zeb::vector_or_nil<ZEB_Wide_Char_Vector>(other))));
+}
+
 @end
 
 @implementation ZEB_Wide_Char_Vector (Code_Points)

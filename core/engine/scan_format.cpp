@@ -1,48 +1,90 @@
 #include "core/engine/scan_format.hpp"
 
 #include <cstring>
+#include <new>
 
 namespace zeb
 {
 namespace
 {
 
-/// The letter of the conversion that begins after the `%` at `percent`, past the star and the width.
-const char *conversion_letter(const char *percent) noexcept
+/// One conversion of a format, from its `%` on.
+struct Conversion {
+    const char *letter; ///< the conversion's letter, or the first of its length modifier
+    const char *end;    ///< behind the conversion
+    bool stores;
+};
+
+const char *skip_digits(const char *at) noexcept
 {
-    const char *at = percent + 1;
-    while (*at == '*' || (*at >= '0' && *at <= '9'))
+    while (*at >= '0' && *at <= '9')
         ++at;
     return at;
 }
 
-/// The first place where a double conversion lacks its `l`; null where none does.
-const char *missing_length(const char *format) noexcept
+/// Behind a scan set whose `[` is at `bracket`; a `]` that comes first is one of its characters.
+const char *skip_scan_set(const char *bracket) noexcept
 {
-    for (const char *at = std::strchr(format, '%'); at != nullptr; at = std::strchr(at, '%')) {
-        const char *letter = conversion_letter(at);
-        if (*letter != '\0' && std::strchr("aAeEfFgG", *letter) != nullptr)
-            return letter;
-        at = *letter == '\0' ? letter : letter + 1;
+    const char *at = bracket + 1;
+    if (*at == '^')
+        ++at;
+    if (*at == ']')
+        ++at;
+    while (*at != '\0' && *at != ']')
+        ++at;
+    return *at == '\0' ? at : at + 1;
+}
+
+Conversion conversion_at(const char *percent) noexcept
+{
+    const char *at = skip_digits(percent + 1);
+    at = *at == '$' ? at + 1 : percent + 1;
+    const bool stores = *at != '*';
+    at = skip_digits(stores ? at : at + 1);
+    const char *const letter = at;
+    while (*at != '\0' && std::strchr("hlLjztqm", *at) != nullptr)
+        ++at;
+    const char *const end = *at == '[' ? skip_scan_set(at) : *at == '\0' ? at : at + 1;
+    return {letter, end, stores};
+}
+
+bool is_floating(char letter) noexcept
+{
+    return letter != '\0' && std::strchr("aAeEfFgG", letter) != nullptr;
+}
+
+/// Writes the widened format, which is at most half as long again.
+void widen(const char *format, char *widened) noexcept
+{
+    while (*format != '\0') {
+        if (*format != '%') {
+            *widened++ = *format++;
+            continue;
+        }
+        const Conversion conversion = conversion_at(format);
+        while (format < conversion.end) {
+            if (format == conversion.letter && conversion.stores && is_floating(*format))
+                *widened++ = 'l';
+            *widened++ = *format++;
+        }
     }
-    return nullptr;
+    *widened = '\0';
 }
 
 } // namespace
 
-bool widen_double_format(const char *format, char *widened, std::size_t size) noexcept
+Double_Scan_Format::Double_Scan_Format(const char *format) noexcept : text("")
 {
-    const std::size_t length = std::strlen(format);
-    if (length + 2 > size)
-        return false;
-    const char *letter = missing_length(format);
-    const std::size_t head = letter == nullptr ? length : static_cast<std::size_t>(letter - format);
-    std::memcpy(widened, format, head);
-    std::size_t end = head;
-    if (letter != nullptr)
-        widened[end++] = 'l';
-    std::memcpy(widened + end, format + head, length - head + 1);
-    return true;
+    const std::size_t room = std::strlen(format) * 3 / 2 + 1;
+    char *widened = short_text;
+    if (room > sizeof short_text) {
+        long_text.reset(new (std::nothrow) char[room]);
+        widened = long_text.get();
+    }
+    if (widened == nullptr)
+        return;
+    widen(format, widened);
+    text = widened;
 }
 
 } // namespace zeb

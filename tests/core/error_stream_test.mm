@@ -3,6 +3,8 @@
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
 
+#import "core/ZEB_Stream_Private.h"
+
 #include <gtest/gtest.h>
 
 using support::diagnostic;
@@ -16,6 +18,51 @@ constexpr ZEB_Char_Span no_note = {"", 0};
 constexpr ZEB_Char_Span note = {"Two words, not this", 9};
 
 } // namespace
+
+/// Keeps what it is given, and is in trouble itself when it is asked for that.
+@interface Gathering_Error_Stream : ZEB_Error_Stream {
+@public
+    std::string *gathered;
+    bool is_in_trouble;
+}
+@end
+
+@implementation Gathering_Error_Stream
+- (void)put_bytes:(const char *)bytes length:(uint32_t)length
+{
+    gathered->append(bytes, length);
+    if (is_in_trouble && *bytes == '\n')
+        [self need_to_implement:@selector(init) object:self note:no_note];
+}
+- (void)put_format:(const char *)format arguments:(va_list)arguments
+{
+    char text[64];
+    vsnprintf(text, sizeof text, format, arguments);
+    gathered->append(text);
+}
+@end
+
+TEST(Error_Stream, every_writer_and_diagnostic_goes_through_the_two_primitives)
+{
+    Gathering_Error_Stream *const stream = [[[Gathering_Error_Stream alloc] init] autorelease];
+    std::string gathered;
+    stream->gathered = &gathered;
+    const auto on_error = standard_error_of([&] {
+        [stream write_char:'c'];
+        [stream write_int:-1];
+        [stream write_class:[ZEB_String class]];
+        [stream need_to_overload:@selector(count) object:stream note:note];
+        stream->is_in_trouble = true;
+        [stream need_to_overload:@selector(count) object:nil note:no_note];
+    });
+    EXPECT_EQ(gathered,
+              "c-1ZEB_String" +
+                  diagnostic("Need to overload selector: ", "count", "Gathering_Error_Stream", "Two words") +
+                  "Need to overload selector: count for object of class: .\n");
+    // What is raised while another is written goes on without the stream, and once.
+    EXPECT_EQ(on_error, diagnostic("Need to implement selector: ", "init", "Gathering_Error_Stream", ""));
+    EXPECT_EQ([stream warning_count], 3u);
+}
 
 TEST(Error_Stream, each_diagnostic_is_one_line_and_one_count)
 {

@@ -11,6 +11,7 @@ const char *const class_names[] = {
     "ZEB_Object",
     "ZEB_Stream",
     "ZEB_Error_Stream",
+    "ZEB_Description_Stream",
     "ZEB_Collection",
     "ZEB_File",
     "ZEB_Date",
@@ -75,6 +76,10 @@ TEST(Every_Class, answers_the_root_operations_and_its_own_notice)
         EXPECT_EQ([object ZEB_is_kind_of_class:[ZEB_Object class]], 1);
         EXPECT_EQ([object ZEB_is_kind_of_class:[NSString class]], 0);
         EXPECT_EQ([object ZEB_responds_to_selector:@selector(ZEB_retain)], 1);
+        EXPECT_EQ([object ZEB_responds_to_selector:NULL], 0);
+        EXPECT_EQ([named ZEB_responds_to_selector:NULL] + [named ZEB_instances_respond_to_selector:NULL], 0);
+        EXPECT_EQ([object ZEB_perform_selector:NULL], nil);
+        EXPECT_EQ([object ZEB_perform_selector_with_object:NULL object:object], nil);
         EXPECT_EQ([object ZEB_responds_to_selector:@selector(characterAtIndex:)], 0);
         EXPECT_EQ([named ZEB_instances_respond_to_selector:@selector(ZEB_retain)], 1);
         EXPECT_EQ([named ZEB_responds_to_selector:notice], 1);

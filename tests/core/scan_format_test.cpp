@@ -4,30 +4,23 @@
 
 #include <string>
 
-TEST(Scan_Format, widens_the_first_double_conversion_without_a_length)
+TEST(Scan_Format, widens_every_double_conversion_that_stores)
 {
-    const struct {
-        const char *given;
-        const char *widened;
-    } rows[] = {
+    const std::string filler(100, 'x');
+    const std::pair<std::string, std::string> rows[] = {
         {"%g", "%lg"},
-        {"%lf", "%lf"},
-        {"x %5e y", "x %5le y"},
+        {"%lf %Lg", "%lf %Lg"},
+        {"x %5e y %A", "x %5le y %lA"},
         {"%d %%g %f", "%d %%g %lf"},
-        {"%*g %G", "%*lg %G"},
+        {"%*g %G", "%*g %lG"},
+        {"%*5e%2$f", "%*5e%2$lf"},
+        {"%*[%g] %[^]%f]%a", "%*[%g] %[^]%f]%la"},
+        {"%[]%g", "%[]%g"},
+        {filler + "%*g%g%g%g%g", filler + "%*g%lg%lg%lg%lg"},
         {"no conversion", "no conversion"},
         {"%", "%"},
+        {"", ""},
     };
-    for (const auto &row : rows) {
-        char widened[32];
-        ASSERT_TRUE(zeb::widen_double_format(row.given, widened, sizeof widened));
-        EXPECT_STREQ(widened, row.widened);
-    }
-}
-
-TEST(Scan_Format, refuses_what_does_not_fit)
-{
-    char widened[4];
-    EXPECT_TRUE(zeb::widen_double_format("%g", widened, sizeof widened));
-    EXPECT_FALSE(zeb::widen_double_format(" %g", widened, sizeof widened));
+    for (const auto &[given, widened] : rows)
+        EXPECT_EQ(zeb::Double_Scan_Format(given.c_str()).c_string(), widened);
 }

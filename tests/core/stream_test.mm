@@ -109,7 +109,7 @@ TEST(Stream, receiving_is_not_implemented_and_says_so_on_standard_output)
 TEST(Stream, readers_scan_standard_input)
 {
     FILE *const input = tmpfile();
-    fputs("2.5 -3 4000000000 0.5 x 7.25", input);
+    fputs("2.5 -3 4000000000 0.5 x 7.25 9 1.5 [8.5 \xFF", input);
     rewind(input);
     const int saved = dup(STDIN_FILENO);
     dup2(fileno(input), STDIN_FILENO);
@@ -120,10 +120,34 @@ TEST(Stream, readers_scan_standard_input)
     EXPECT_EQ([stream read_float], 0.5f);
     EXPECT_EQ([stream read_char_with_format:" %c"], 'x');
     EXPECT_EQ([stream read_double_with_format:"%lf"], 7.25);
+    EXPECT_EQ([stream read_double_with_format:"%*g %g"], 1.5);
+    EXPECT_EQ([stream read_double_with_format:" %*[%g[]%70g"], 8.5);
+    EXPECT_EQ([stream read_char_with_format:" %c"], -1);
     EXPECT_EQ([stream read_int], 0);
     dup2(saved, STDIN_FILENO);
     close(saved);
     fclose(input);
+}
+
+@interface Forgetful_Stream : ZEB_Stream {
+@public
+    int resets;
+}
+@end
+
+@implementation Forgetful_Stream
+- (void)reset
+{
+    ++resets;
+    [super reset];
+}
+@end
+
+TEST(Stream, both_names_of_reset_are_one_operation)
+{
+    Forgetful_Stream *const stream = [[[Forgetful_Stream alloc] init] autorelease];
+    [stream reset_failure_count];
+    EXPECT_EQ(stream->resets, 1);
 }
 
 TEST(Stream, failures_are_only_counted_by_those_who_count)

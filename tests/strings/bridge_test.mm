@@ -225,6 +225,13 @@ TEST_F(Bridge, nothing_and_odd_text_give_what_the_platform_gives)
     EXPECT_EQ([[ZEB_String string_with_NSString:@"" type:2] capacity], 0u);
     ZEB_Wide_String *const of_nil = [[[ZEB_Wide_String alloc] init_with_NSString:nil] autorelease];
     EXPECT_EQ([of_nil count], 0u);
+    const id number = [NSNumber numberWithInt:5];
+    EXPECT_EQ([[ZEB_String string_with_NSString:number type:2] count], 0u);
+    ZEB_Wide_String *const of_number = [[[ZEB_Wide_String alloc] init_with_NSString:number] autorelease];
+    EXPECT_EQ([of_number count], 0u);
+    [of_nil append_wide_char:'x'];
+    [of_nil set_from_NSString:number];
+    EXPECT_EQ([of_nil count], 0u);
     EXPECT_TRUE([[wide NSString_value] isEqualToString:@""]);
     EXPECT_TRUE([[wide NSMutableString_value] isEqualToString:@""]);
     EXPECT_TRUE([[chars NSString_value] isEqualToString:@""]);

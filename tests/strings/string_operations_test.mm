@@ -32,6 +32,39 @@ ZEB_Wide_String *wide_of(std::u32string_view units)
 
 } // namespace
 
+TEST(String_Operations, platform_sorts_order_by_the_platform_s_codes)
+{
+    ZEB_String *const in_order[] = {string_of(""), string_of("ab"), string_of("b"), string_of("\xC3")};
+    NSArray *const strings =
+        [NSArray arrayWithObjects:in_order[2], in_order[0], in_order[3], in_order[1], nil];
+    NSArray *const sorted = [strings sortedArrayUsingSelector:@selector(platform_compare:)];
+    for (NSUInteger i = 0; i < 4; ++i)
+        EXPECT_EQ([sorted objectAtIndex:i], in_order[i]);
+    NSArray *const wide = [NSArray arrayWithObjects:wide_of(U"b"), wide_of(U"a"), nil];
+    EXPECT_EQ([[wide sortedArrayUsingSelector:@selector(platform_compare:)] objectAtIndex:0],
+              [wide objectAtIndex:1]);
+    EXPECT_EQ([string_of("a") platform_compare:string_of("a")], NSOrderedSame);
+    EXPECT_EQ([string_of("a") platform_compare:(id) @"a"], NSOrderedDescending);
+    EXPECT_EQ([string_of("") platform_compare:nil], NSOrderedSame);
+}
+
+TEST(String_Operations, strings_describe_themselves_as_their_text)
+{
+    ZEB_String_Array *const strings = [[[ZEB_String_Array alloc] init] autorelease];
+    ZEB_Object_Array *const objects = [[[ZEB_Object_Array alloc] init] autorelease];
+    for (const char *text : {"caf\xC3\xA9", "caf\xE9", "", "{}"}) {
+        [strings append_string:string_of(text)];
+        [objects append_object:string_of(text)];
+    }
+    [objects append_object:wide_of(U"w\xE9")];
+    [objects append_object:strings];
+    EXPECT_STREQ([[strings description] UTF8String], "{caf\xC3\xA9, caf\xC3\xA9, , {}}");
+    EXPECT_STREQ([[objects description] UTF8String],
+                 "{caf\xC3\xA9, caf\xC3\xA9, , {}, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
+    EXPECT_STREQ([[string_of("caf\xE9") description] UTF8String], "caf\xC3\xA9");
+    EXPECT_STREQ([[wide_of(U"text") description] UTF8String], "text");
+}
+
 TEST(String_Operations, search_and_scan)
 {
     ZEB_String *const abc = string_of("abc");

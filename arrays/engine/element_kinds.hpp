@@ -21,6 +21,7 @@
 /// the array's.
 #pragma once
 
+#include "arrays/engine/allocator.hpp"
 #include "arrays/engine/element_order.hpp"
 
 #include <algorithm>
@@ -209,11 +210,15 @@ struct Held_Objects {
 
     bool open(Element *data, std::uint32_t, std::uint32_t to) const noexcept
     {
-        while (held < to) {
+        // So many objects take far less than the reserve.
+        constexpr std::uint32_t objects_between_looks = 64;
+        for (const std::uint32_t first = held; held < to; ++held) {
+            if ((held - first) % objects_between_looks == 0 && !has_reserve())
+                return false;
             const Element made = Policy::make();
             if (made == Element{})
                 return false;
-            data[held++] = made;
+            data[held] = made;
         }
         return true;
     }

@@ -50,8 +50,8 @@ ZEB_EXPORT
     stream. */
 - (void)print;
 
-/** What `send_to_stream:` writes, as a platform string; for strings, also where they are elements, their text:
-    that of 8-bit strings read as UTF-8, or byte by byte where it is not that. */
+/** What `send_to_stream:` writes, as a platform string; for strings, also where they are elements, their
+   text: that of 8-bit strings read as UTF-8, or byte by byte where it is not that. */
 - (NSString *)description;
 
 @end

@@ -2,7 +2,7 @@
 #import "arrays/ZEB_Char_Storage_Private.h"
 #import "arrays/ZEB_Wide_Char_Storage_Private.h"
 
-#include "arrays/engine/growing.hpp"
+#include "arrays/engine/storage/resizing.hpp"
 #include "core/engine/platform_call.hpp"
 
 namespace zeb

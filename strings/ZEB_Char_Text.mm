@@ -2,8 +2,8 @@
 
 #import "strings/ZEB_Text_Private.h"
 
-#include "arrays/engine/equality.hpp"
-#include "arrays/engine/search.hpp"
+#include "arrays/engine/algorithms/equality.hpp"
+#include "arrays/engine/algorithms/search.hpp"
 #include "strings/engine/number_scanners.hpp"
 #include "strings/engine/text_comparison.hpp"
 #include "strings/engine/utf.hpp"

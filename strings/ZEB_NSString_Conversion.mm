@@ -3,7 +3,7 @@
 #import "strings/ZEB_NSString_Conversion_Private.h"
 #import "strings/ZEB_Text_Private.h"
 
-#include "arrays/engine/growing.hpp"
+#include "arrays/engine/storage/resizing.hpp"
 #include "strings/engine/text_kernels.hpp"
 
 #include <stdlib.h>

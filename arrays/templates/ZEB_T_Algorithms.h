@@ -28,8 +28,8 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 - (uint32_t)index_of_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n;
 
 /** Binary search in ascending elements: the index of one equal to `key`, or ZEB_NOT_FOUND. Of several equal
-    ones any may be the result. NaN, as key or as an element, counts as equal to all it is compared with. With a
-    comparison, an unknown answer ends the search at the element that it was given about; about a single
+    ones any may be the result. NaN, as key or as an element, counts as equal to all it is compared with. With
+   a comparison, an unknown answer ends the search at the element that it was given about; about a single
     element it finds nothing, and 0 reports "Warning: Ordered find stopped on unknown comparison." */
 - (uint32_t)ordered_index_of_TT_word:(ZEB_T_Element)key;
 - (uint32_t)ordered_index_of_TT_word:(ZEB_T_Element)key comparison:(ZEB_T_Comparison)comparison;
@@ -116,10 +116,11 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 @interface ZEB_T_Array (Algorithms)
 
 /** Inserts an element among ascending ones and answers its index; where an equal one stands, answers that
-    one's index and inserts nothing (NaN counts as equal to all it is compared with). With `inserts` 0 nothing is ever inserted, and ZEB_NOT_FOUND answered
-    instead. An unknown answer of the comparison answers the index it was given about; about a single
-    element it reports "Warning: Ordered insert stopped on unknown comparison." A link that would have to
-    insert reports "Cannot insert element through link, no insertion made." and answers ZEB_NOT_FOUND. */
+    one's index and inserts nothing (NaN counts as equal to all it is compared with). With `inserts` 0 nothing
+   is ever inserted, and ZEB_NOT_FOUND answered instead. An unknown answer of the comparison answers the index
+   it was given about; about a single element it reports "Warning: Ordered insert stopped on unknown
+   comparison." A link that would have to insert reports "Cannot insert element through link, no insertion
+   made." and answers ZEB_NOT_FOUND. */
 - (uint32_t)ordered_insert_TT_word:(ZEB_T_Element)element inserts:(uint8_t)inserts;
 - (uint32_t)ordered_insert_TT_word:(ZEB_T_Element)element
                         comparison:(ZEB_T_Comparison)comparison

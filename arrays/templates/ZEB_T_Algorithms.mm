@@ -5,15 +5,17 @@
 #import "arrays/ZEB_Printing_Private.h"
 #import "arrays/ZEB_T_Storage_Private.h"
 
-#include "arrays/engine/extrema.hpp"
-#include "arrays/engine/occurrences.hpp"
-#include "arrays/engine/ordered_operations.hpp"
-#include "arrays/engine/removing.hpp"
-#include "arrays/engine/reorder.hpp"
-#include "arrays/engine/search.hpp"
-#include "arrays/engine/sort.hpp"
-#include "arrays/engine/storing.hpp"
-#include "arrays/engine/vector_equality.hpp"
+#include "arrays/engine/algorithms/extrema.hpp"
+#include "arrays/engine/algorithms/reorder.hpp"
+#include "arrays/engine/algorithms/search.hpp"
+#include "arrays/engine/algorithms/sort.hpp"
+#include "arrays/engine/storage/equality.hpp"
+#include "arrays/engine/storage/fill.hpp"
+#include "arrays/engine/storage/occurrences.hpp"
+#include "arrays/engine/storage/ordered_insertion.hpp"
+#include "arrays/engine/storage/permutation.hpp"
+#include "arrays/engine/storage/removal.hpp"
+#include "arrays/engine/storage/replacement.hpp"
 
 using zeb::storage_of_array;
 using zeb::storage_of_vector;
@@ -224,8 +226,8 @@ std::span<uint32_t> indexes_of(ZEB_UInt_Array *indexes) { return {[indexes uint_
 
 - (uint32_t)replace_occurrences:(ZEB_T_Vector *)target replacement:(ZEB_T_Vector *)replacement
 {
-    return zeb::replace_all_occurrences(storage_of_array(self), read(target), read(replacement),
-                                        zeb::Fix_Report{self, _cmd});
+    return zeb::replace_occurrences(storage_of_array(self), read(target), read(replacement),
+                                    zeb::Fix_Report{self, _cmd});
 }
 
 @end

@@ -1,8 +1,8 @@
 #import "arrays/ZEB_T_Storage_Private.h"
 
-#include "arrays/engine/editing.hpp"
-#include "arrays/engine/growing.hpp"
-#include "arrays/engine/vector_lifetime.hpp"
+#include "arrays/engine/storage/insertion.hpp"
+#include "arrays/engine/storage/lifetime.hpp"
+#include "arrays/engine/storage/resizing.hpp"
 #include "core/engine/notice.hpp"
 
 using zeb::storage_of_array;

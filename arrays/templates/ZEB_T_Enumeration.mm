@@ -2,7 +2,7 @@
 
 #import "arrays/ZEB_T_Storage_Private.h"
 
-#include "arrays/engine/enumeration.hpp"
+#include "arrays/engine/storage/enumeration.hpp"
 
 @implementation ZEB_T_Vector (Enumeration)
 

@@ -6,8 +6,8 @@
 #import "arrays/ZEB_Element_Policies_Private.h"
 #import "core/ZEB_Report_Private.h"
 
-#include "arrays/engine/array_storage.hpp"
-#include "arrays/engine/element_kinds.hpp"
+#include "arrays/engine/storage/array_storage.hpp"
+#include "arrays/engine/storage/element_kinds.hpp"
 
 namespace zeb
 {

@@ -3,8 +3,8 @@
 
 #import <Korvane_ZEB/ZEB_Stream.h>
 
-#include "arrays/engine/counting.hpp"
-#include "arrays/engine/vector_lifetime.hpp"
+#include "arrays/engine/storage/lifetime.hpp"
+#include "arrays/engine/storage/resizing.hpp"
 #include "core/engine/notice.hpp"
 
 using zeb::storage_of_vector;

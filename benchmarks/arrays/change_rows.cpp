@@ -4,8 +4,9 @@
 #include "benchmarks/arrays/data.hpp"
 #include "benchmarks/common/rows.hpp"
 
-#include "arrays/engine/removal.hpp"
-#include "arrays/engine/replace.hpp"
+#include "arrays/engine/algorithms/occurrences.hpp"
+#include "arrays/engine/algorithms/removal.hpp"
+#include "arrays/engine/algorithms/replacement.hpp"
 
 #include <algorithm>
 #include <cstring>

@@ -3,7 +3,7 @@
 #include "benchmarks/arrays/data.hpp"
 #include "benchmarks/common/rows.hpp"
 
-#include "arrays/engine/ordered_search.hpp"
+#include "arrays/engine/algorithms/ordered_search.hpp"
 
 #include <algorithm>
 #include <cstdlib>

@@ -4,11 +4,11 @@
 #include "benchmarks/arrays/data.hpp"
 #include "benchmarks/common/rows.hpp"
 
-#include "arrays/engine/equality.hpp"
-#include "arrays/engine/extrema.hpp"
-#include "arrays/engine/fill.hpp"
-#include "arrays/engine/reorder.hpp"
-#include "arrays/engine/search.hpp"
+#include "arrays/engine/algorithms/equality.hpp"
+#include "arrays/engine/algorithms/extrema.hpp"
+#include "arrays/engine/algorithms/fill.hpp"
+#include "arrays/engine/algorithms/reorder.hpp"
+#include "arrays/engine/algorithms/search.hpp"
 
 #if ZEB_HAS_QT
 #include <QList>

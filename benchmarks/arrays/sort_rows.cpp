@@ -3,8 +3,8 @@
 #include "benchmarks/arrays/data.hpp"
 #include "benchmarks/common/rows.hpp"
 
-#include "arrays/engine/shell_sort.hpp"
-#include "arrays/engine/sort.hpp"
+#include "arrays/engine/algorithms/sort.hpp"
+#include "arrays/engine/kernels/shell_sort.hpp"
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,7 @@
 #include "benchmarks/arrays/data.hpp"
 #include "benchmarks/common/rows.hpp"
 
-#include "arrays/engine/search.hpp"
+#include "arrays/engine/algorithms/search.hpp"
 
 #if ZEB_HAS_QT
 #include <QByteArrayMatcher>

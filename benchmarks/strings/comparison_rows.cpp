@@ -1,8 +1,8 @@
 /// Searching and comparing texts of a few sizes.
 #include "benchmarks/strings/string_rows.hpp"
 
-#include "arrays/engine/equality.hpp"
-#include "arrays/engine/search.hpp"
+#include "arrays/engine/algorithms/equality.hpp"
+#include "arrays/engine/algorithms/search.hpp"
 #include "strings/engine/text_comparison.hpp"
 
 #include <cctype>

@@ -1,7 +1,7 @@
 /// Replacing one word in a hundred places of every ten thousand characters, 16 MiB of them.
 #include "benchmarks/strings/string_rows.hpp"
 
-#include "arrays/engine/replace_occurrences.hpp"
+#include "arrays/engine/storage/occurrences.hpp"
 #include "strings/engine/c_strings.hpp"
 
 #if ZEB_HAS_QT
@@ -62,7 +62,7 @@ void add_row(const std::string &name, const std::string &replacement)
     Row row("replace occurrences, " + name + ", 16 MiB", Measure::Bytes, text_bytes);
     row.goal_over("QByteArray::replace", 2).framework([=] {
         zeb::copy_c_string(fields->storage(), text().data(), text_bytes, ignore);
-        return zeb::replace_occurrences(fields->storage(), {word, replacement}, ignore);
+        return zeb::replace_occurrences(fields->storage(), word, replacement, ignore);
     });
 #if ZEB_HAS_QT
     row.peer("QByteArray::replace", [=] {

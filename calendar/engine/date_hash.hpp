@@ -1,7 +1,7 @@
 /// Hashes that agree with the equality of dates and times, for hash tables in memory.
 #pragma once
 
-#include "arrays/engine/hash.hpp"
+#include "core/engine/hash.hpp"
 #include "calendar/engine/date_time.hpp"
 
 namespace zeb

@@ -1,8 +1,8 @@
 /// Records of the external binary format: a count, then the elements, without padding.
 #pragma once
 
-#include "arrays/engine/editing.hpp"
-#include "arrays/engine/set_aside.hpp"
+#include "arrays/engine/storage/insertion.hpp"
+#include "arrays/engine/storage/own_source.hpp"
 #include "encoding/engine/byte_order.hpp"
 #include "encoding/engine/encoding_notes.hpp"
 
@@ -21,22 +21,8 @@ struct Record_Source {
 
 inline constexpr std::uint32_t record_count_size = sizeof(std::uint32_t);
 
-template <class Report>
-bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elements, std::uint64_t size,
-                   Report report) noexcept;
-
-/// Appends a record whose elements lie behind the buffer's own: the record would overwrite them.
-template <class Report>
-bool append_copy_of_record(Record_Buffer buffer, std::uint32_t count, std::span<const char> elements,
-                           Report report) noexcept
-{
-    const Copied_Run<Plain_Elements<char>> copy({}, elements,
-                                                [&](Char_Span) { report(notes::reallocate_failed); });
-    return copy.is_had() && append_record(buffer, count, copy.get().data(), elements.size(), report);
-}
-
-/// Appends a count and then `size` bytes of elements; false, after a report, where the buffer is a link
-/// or cannot grow.
+/// Appends a count and then `size` bytes of elements; false, after a report, if the buffer is a link or
+/// cannot grow. The elements may be the buffer's own.
 template <class Report>
 bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elements, std::uint64_t size,
                    Report report) noexcept
@@ -46,16 +32,17 @@ bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elemen
         return false;
     }
     const std::uint64_t length = std::uint64_t{buffer.count} + record_count_size + size;
-    // A string may be its own buffer; growth then moves what is to be appended.
-    const Elements_Of<Plain_Elements<char>> bytes{static_cast<const char *>(elements),
-                                                  static_cast<uint32_t>(size)};
-    if (reaches_behind_elements(buffer, bytes)) [[unlikely]]
-        return append_copy_of_record(buffer, count, {bytes.first, bytes.count}, report);
-    const Source_Position source(buffer, bytes);
+    const Own_Values<char> source({}, {static_cast<const char *>(elements), size}, buffer.data,
+                                  buffer.capacity);
+    if (!source.is_valid()) {
+        report(notes::reallocate_failed);
+        return false;
+    }
     if (!grow(buffer, length, report))
         return false;
     std::memcpy(buffer.data + buffer.count, &count, record_count_size);
-    source.assign_to_gap(buffer, buffer.count + record_count_size);
+    if (size != 0)
+        std::memcpy(buffer.data + buffer.count + record_count_size, source.elements().data(), size);
     buffer.count = static_cast<std::uint32_t>(length);
     return true;
 }
@@ -206,12 +193,12 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
         return 0;
     for (std::uint32_t i = 0; i < array.kind.made(); ++i) {
         const auto object = storage_of(array.data[i]);
-        const Set_Aside<char> aside({source.bytes, size}, object.data, object.block_size());
-        if (aside.failed()) {
+        const Own_Values<char> aside({}, {source.bytes, size}, object.data, object.block_size());
+        if (!aside.is_valid()) {
             report(notes::allocate_failed);
             return 0;
         }
-        if (aside.elements().data() != source.bytes)
+        if (aside.is_copied())
             return decode_held(array, {aside.elements().data(), size, source.needs_swap}, storage_of, report);
     }
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);

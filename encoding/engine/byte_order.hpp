@@ -1,7 +1,7 @@
 /// Values in the byte order of another machine.
 #pragma once
 
-#include "arrays/engine/kernel_lanes.hpp"
+#include "arrays/engine/kernels/element_lanes.hpp"
 
 #include <cstddef>
 #include <cstdint>

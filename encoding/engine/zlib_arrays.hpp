@@ -1,8 +1,8 @@
 /// Compressing and decompressing into a growable byte container.
 #pragma once
 
-#include "arrays/engine/editing.hpp"
-#include "arrays/engine/set_aside.hpp"
+#include "arrays/engine/storage/insertion.hpp"
+#include "arrays/engine/storage/own_source.hpp"
 #include "encoding/engine/zlib_loops.hpp"
 
 namespace zeb
@@ -47,8 +47,8 @@ std::int32_t run_zlib(Byte_Run source, Array_Storage<Plain_Elements<Element>> ar
         report(notes::append_array_through_link);
         return -1;
     }
-    const Set_Aside<char> bytes({source.bytes, source.length}, array.data, array.capacity);
-    if (bytes.failed()) {
+    const Own_Values<char> bytes({}, {source.bytes, source.length}, array.data, array.capacity);
+    if (!bytes.is_valid()) {
         report(notes::reallocate_failed);
         return zlib_out_of_memory;
     }

@@ -1,8 +1,8 @@
 /// Counted 8-bit characters into a growable string of 8-bit or of 32-bit characters.
 #pragma once
 
-#include "arrays/engine/growing.hpp"
-#include "arrays/engine/set_aside.hpp"
+#include "arrays/engine/storage/own_source.hpp"
+#include "arrays/engine/storage/resizing.hpp"
 #include "strings/engine/string_notes.hpp"
 #include "strings/engine/string_storage.hpp"
 #include "strings/engine/text_kernels.hpp"
@@ -40,8 +40,8 @@ template <class Element, class Report>
 void end_with_characters(Text_Storage<Element> string, std::uint32_t at, const char *bytes,
                          std::uint32_t length, Report report) noexcept
 {
-    const Set_Aside<char> source({bytes, length}, string.data, string.capacity * sizeof(Element));
-    if (source.failed())
+    const Own_Values<char> source({}, {bytes, length}, string.data, string.capacity * sizeof(Element));
+    if (!source.is_valid())
         return report(notes::reallocate_failed);
     if (!grow_text(string, std::uint64_t{at} + length, report))
         return;

@@ -1,8 +1,8 @@
 /// The storage of growable strings.
 #pragma once
 
-#include "arrays/engine/array_storage.hpp"
-#include "arrays/engine/element_kinds.hpp"
+#include "arrays/engine/storage/array_storage.hpp"
+#include "arrays/engine/storage/element_kinds.hpp"
 
 namespace zeb
 {

@@ -3,7 +3,7 @@
 #include "strings/engine/text_loops.hpp"
 
 #if ZEB_HAS_HIGHWAY
-#include "arrays/engine/vector_targets.hpp"
+#include "arrays/engine/kernels/vector_targets.hpp"
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "strings/engine/text_kernels.cpp"
 #include <hwy/foreach_target.h>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "arrays/engine/allocator.hpp"
-#include "arrays/engine/growing.hpp"
-#include "arrays/engine/set_aside.hpp"
+#include "arrays/engine/storage/own_source.hpp"
+#include "arrays/engine/storage/resizing.hpp"
 #include "strings/engine/string_storage.hpp"
 #include "strings/engine/utf.hpp"
 
@@ -81,9 +81,9 @@ template <class Decode, class Report>
 bool write_decoded(Wide_Char_Storage string, std::span<const char> utf8, std::uint64_t length, Decode decode,
                    Report report) noexcept
 {
-    const Set_Aside<char> source(utf8, string.data, string.capacity * sizeof(std::uint32_t));
+    const Own_Values<char> source({}, utf8, string.data, string.capacity * sizeof(std::uint32_t));
     const auto write = [&](std::uint32_t *units) { return decode(source.elements(), units); };
-    return !source.failed() && write_contents(string, length, write, report);
+    return source.is_valid() && write_contents(string, length, write, report);
 }
 
 /// Makes the string the UTF-16 units of well-formed UTF-8, under the conditions of a new length: a link

@@ -1,5 +1,5 @@
-#include "arrays/engine/equality.hpp"
-#include "arrays/engine/extrema.hpp"
+#include "arrays/engine/algorithms/equality.hpp"
+#include "arrays/engine/algorithms/extrema.hpp"
 
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"

@@ -1,5 +1,5 @@
-#include "arrays/engine/fill.hpp"
-#include "arrays/engine/reorder.hpp"
+#include "arrays/engine/algorithms/fill.hpp"
+#include "arrays/engine/algorithms/reorder.hpp"
 
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"

@@ -1,5 +1,6 @@
-#include "arrays/engine/removing.hpp"
-#include "arrays/engine/replace.hpp"
+#include "arrays/engine/algorithms/occurrences.hpp"
+#include "arrays/engine/algorithms/replacement.hpp"
+#include "arrays/engine/storage/removal.hpp"
 
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"

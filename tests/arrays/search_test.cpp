@@ -1,4 +1,4 @@
-#include "arrays/engine/search.hpp"
+#include "arrays/engine/algorithms/search.hpp"
 
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"

@@ -1,4 +1,4 @@
-#include "arrays/engine/sort.hpp"
+#include "arrays/engine/algorithms/sort.hpp"
 
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"

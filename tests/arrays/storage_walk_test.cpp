@@ -1,9 +1,10 @@
 /// Random walks of every operation that grows or stores against a model, for each kind of element, with an
 /// allocator that fails now and then: nothing is lost, nothing is leaked, every failure is told once.
-#include "arrays/engine/counting.hpp"
-#include "arrays/engine/occurrences.hpp"
-#include "arrays/engine/ordered_operations.hpp"
-#include "arrays/engine/storing.hpp"
+#include "arrays/engine/storage/fill.hpp"
+#include "arrays/engine/storage/occurrences.hpp"
+#include "arrays/engine/storage/ordered_insertion.hpp"
+#include "arrays/engine/storage/permutation.hpp"
+#include "arrays/engine/storage/replacement.hpp"
 #include "tests/arrays/walked_families.hpp"
 #include "tests/reference/array_growth.hpp"
 #include "tests/reference/vector_algorithms.hpp"
@@ -172,7 +173,7 @@ protected:
         const std::vector<int> pattern(model.elements.begin() + at, model.elements.begin() + at + length);
         arm();
         takes_over = false;
-        zeb::replace_all_occurrences(storage(), {data + at, length}, given, tell());
+        zeb::replace_occurrences(storage(), {data + at, length}, given, tell());
         const bool finds = reference::replace_occurrences(model.elements, pattern, values_given) != 0;
         if (!finds || values_given.size() <= length)
             return;
@@ -295,7 +296,7 @@ protected:
         refuses(notes::insert_element_through_link,
                 [&] { zeb::ordered_insert(array, element, less, true, tell()); });
         refuses(notes::replace_occurrences_through_link,
-                [&] { zeb::replace_all_occurrences(array, run, run, tell()); });
+                [&] { zeb::replace_occurrences(array, run, run, tell()); });
         refuses(notes::decode_through_link, [&] { Family::decode(array, {"\0\0\0", 4, false}, tell()); });
     }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "arrays/engine/allocator.hpp"
-#include "arrays/engine/editing.hpp"
-#include "arrays/engine/element_kinds.hpp"
+#include "arrays/engine/storage/element_kinds.hpp"
+#include "arrays/engine/storage/insertion.hpp"
 #include "encoding/engine/binary_record.hpp"
 
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "arrays/engine/search.hpp"
+#include "arrays/engine/algorithms/search.hpp"
 #include "strings/engine/number_scanners.hpp"
 #include "strings/engine/text_comparison.hpp"
 

@@ -1,4 +1,4 @@
-#include "arrays/engine/replace_occurrences.hpp"
+#include "arrays/engine/storage/occurrences.hpp"
 #include "strings/engine/c_strings.hpp"
 
 #include "tests/arrays/random_elements.hpp"
@@ -42,7 +42,7 @@ struct Fields {
     }
     uint32_t replace(std::span<const Character> pattern, std::span<const Character> replacement)
     {
-        return zeb::replace_occurrences(storage(), {pattern, replacement}, report());
+        return zeb::replace_occurrences(storage(), pattern, replacement, report());
     }
 };
 

@@ -1,0 +1,38 @@
+/// The two equalities of runs of elements. Two empty runs are equal.
+#pragma once
+
+#include "arrays/engine/kernels/element_lanes.hpp"
+#include "arrays/engine/kernels/plain_loops.hpp"
+#include "arrays/engine/kernels/search.hpp"
+
+#include <cstring>
+#include <span>
+
+namespace zeb
+{
+
+/// True when both hold the same bytes: 0.0 and -0.0 differ, a not-a-number equals itself.
+template <class Element>
+bool same_memory(std::span<const Element> left, std::span<const std::type_identity_t<Element>> right) noexcept
+{
+    return left.size() == right.size() &&
+           (left.empty() || std::memcmp(left.data(), right.data(), left.size_bytes()) == 0);
+}
+
+/// True when both hold equal elements in the same order. With the own equality 0.0 equals -0.0, and a
+/// not-a-number equals nothing.
+template <class Element, class Equality = Own_Equality>
+bool same_values(std::span<const Element> left, std::span<const std::type_identity_t<Element>> right,
+                 Equality equal = {}) noexcept
+{
+    if (left.size() != right.size())
+        return false;
+    if constexpr (!has_equality_kernel<Element, Equality>)
+        return plain::all_equal(left.data(), right.data(), left.size(), equal);
+    else if constexpr (std::is_floating_point_v<Element>)
+        return kernels::all_equal(left.data(), right.data(), left.size());
+    else
+        return same_memory<Element>(left, right);
+}
+
+} // namespace zeb

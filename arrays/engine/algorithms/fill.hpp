@@ -1,0 +1,37 @@
+/// Storing one value into many elements.
+#pragma once
+
+#include "arrays/engine/kernels/element_lanes.hpp"
+#include "arrays/engine/kernels/stores.hpp"
+
+#include <algorithm>
+#include <span>
+
+namespace zeb
+{
+
+/// Stores the value into every element.
+template <class Element>
+void fill(std::span<Element> elements, const std::type_identity_t<Element> &value) noexcept
+{
+    if constexpr (has_lane<Element>) {
+        using Lane = Bits_Lane<Element>;
+        kernels::fill(lanes_of<Lane>(elements.data()), elements.size(), lane_of<Lane>(value));
+    } else {
+        std::fill(elements.begin(), elements.end(), value);
+    }
+}
+
+/// Stores the value into the elements of the range, both ends included. A range that starts after its
+/// end fills nothing; what lies beyond the last element is left out.
+template <class Element>
+void fill_range(std::span<Element> elements, ZEB_Index_Range range,
+                const std::type_identity_t<Element> &value) noexcept
+{
+    if (range.start > range.end || range.start >= elements.size())
+        return;
+    const std::size_t length = std::size_t{range.end} - range.start + 1;
+    fill<Element>(elements.subspan(range.start, std::min(length, elements.size() - range.start)), value);
+}
+
+} // namespace zeb

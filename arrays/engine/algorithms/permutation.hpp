@@ -1,0 +1,71 @@
+/// Rearranging elements by a list of indexes, and transposing a matrix.
+#pragma once
+
+#include "arrays/engine/scratch.hpp"
+
+#include <Korvane_ZEB/ZEB_Types.h>
+
+#include <algorithm>
+#include <span>
+
+namespace zeb
+{
+
+/// Which way a permutation is read: element i becomes what element `permutation[i]` was, or that becomes what
+/// element i was.
+enum class Permutation_Way : std::uint8_t { forward, inverse };
+
+/// Whether every entry of the permutation is an index below `count`.
+inline bool names_elements(std::span<const std::uint32_t> permutation, std::size_t count) noexcept
+{
+    std::uint32_t largest = 0;
+    for (const std::uint32_t entry : permutation)
+        largest = std::max(largest, entry);
+    return permutation.empty() || largest < count;
+}
+
+/// Rearranges the elements by a permutation that is no longer than they are and names elements alone. Entries
+/// may repeat: read forward an element is then taken twice, read inversely the last one stays. Returns false,
+/// nothing changed, if allocation fails.
+template <class Element>
+bool rearrange(std::span<Element> elements, std::span<const std::uint32_t> permutation,
+               Permutation_Way way) noexcept
+{
+    const std::size_t used = permutation.size();
+    const Scratch<Element> copy(used);
+    if (used != 0 && copy.get() == nullptr)
+        return false;
+    std::copy_n(elements.data(), used, copy.get());
+    // An entry past the rearranged elements names one that keeps its value, so it can be read in place.
+    for (std::size_t i = 0; i < used; ++i)
+        if (const std::uint32_t entry = permutation[i]; way == Permutation_Way::inverse)
+            elements[entry] = copy.get()[i];
+        else
+            elements[i] = entry < used ? copy.get()[entry] : elements[entry];
+    return true;
+}
+
+/// Rewrites the elements, read as `rows` rows of `columns`, column by column. Only where both are at
+/// least 2 and their product is the count; nothing changes otherwise. Answers false, nothing changed,
+/// when there is no memory for a copy.
+template <class Element>
+bool transpose(std::span<Element> elements, std::uint32_t rows, std::uint32_t columns) noexcept
+{
+    if (rows < 2 || columns < 2 || std::uint64_t{rows} * columns != elements.size())
+        return true;
+    const Scratch<Element> copy(elements.size());
+    if (copy.get() == nullptr)
+        return false;
+    std::copy(elements.begin(), elements.end(), copy.get());
+    // In tiles, so that the lines read and written stay in the cache.
+    constexpr std::uint32_t tile = 16;
+    Element *const data = elements.data();
+    for (std::uint64_t column = 0; column < columns; column += tile)
+        for (std::uint64_t row = 0; row < rows; row += tile)
+            for (std::uint64_t j = column; j < std::min<std::uint64_t>(column + tile, columns); ++j)
+                for (std::uint64_t i = row; i < std::min<std::uint64_t>(row + tile, rows); ++i)
+                    data[j * rows + i] = copy.get()[i * columns + j];
+    return true;
+}
+
+} // namespace zeb

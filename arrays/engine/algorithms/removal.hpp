@@ -1,0 +1,29 @@
+/// Taking elements out of a run of plain values. The answers are the new counts; elements at and beyond
+/// a new count stay as they were.
+#pragma once
+
+#include "arrays/engine/kernels/element_lanes.hpp"
+#include "arrays/engine/kernels/plain_loops.hpp"
+#include "arrays/engine/kernels/removal.hpp"
+
+#include <span>
+
+namespace zeb
+{
+
+/// Removes every element equal to the value and keeps the order of the rest.
+template <class Element, class Equality = Own_Equality>
+std::uint32_t remove_equal(std::span<Element> elements, const std::type_identity_t<Element> &value,
+                           Equality equal = {}) noexcept
+{
+    const std::size_t count = elements.size();
+    if constexpr (has_equality_kernel<Element, Equality>) {
+        using Lane = Equality_Lane<Element>;
+        return static_cast<std::uint32_t>(
+            kernels::remove_equal(lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value)));
+    } else {
+        return static_cast<std::uint32_t>(plain::remove_equal(elements.data(), count, value, equal));
+    }
+}
+
+} // namespace zeb

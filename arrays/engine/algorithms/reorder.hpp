@@ -1,0 +1,54 @@
+/// Swapping, moving and reversing elements.
+#pragma once
+
+#include "arrays/engine/kernels/element_lanes.hpp"
+#include "arrays/engine/kernels/stores.hpp"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+namespace zeb
+{
+
+/// Exchanges two elements. An index outside the span changes nothing.
+template <class Element>
+void swap_elements(std::span<Element> elements, std::uint32_t first, std::uint32_t second) noexcept
+{
+    if (first < elements.size() && second < elements.size())
+        std::swap(elements[first], elements[second]);
+}
+
+/// Moves an element so that it ends at index `to`; those between shift by one towards its old place. An
+/// index outside the span changes nothing.
+template <class Element>
+void move_element(std::span<Element> elements, std::uint32_t from, std::uint32_t to) noexcept
+{
+    if (from >= elements.size() || to >= elements.size() || from == to)
+        return;
+    Element *const data = elements.data();
+    const Element moved = data[from];
+    if (from < to)
+        std::copy(data + from + 1, data + to + 1, data + from);
+    else
+        std::copy_backward(data + to, data + from, data + from + 1);
+    data[to] = moved;
+}
+
+/// Reverses the order, except that an even count keeps the order of its middle pair: a, b, c, d becomes
+/// d, b, c, a.
+template <class Element>
+void reverse(std::span<Element> elements) noexcept
+{
+    const std::size_t count = elements.size();
+    if (count < 2)
+        return;
+    if constexpr (has_lane<Element>)
+        kernels::reverse(lanes_of<Bits_Lane<Element>>(elements.data()), count);
+    else
+        std::reverse(elements.begin(), elements.end());
+    if (count % 2 == 0)
+        std::swap(elements[count / 2 - 1], elements[count / 2]);
+}
+
+} // namespace zeb

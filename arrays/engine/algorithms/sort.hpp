@@ -1,0 +1,132 @@
+/// Sorting, ascending. The results are those of one Shell sort, element for element: a count that does
+/// not fit in a signed 32-bit number, or is below 2, changes nothing.
+#pragma once
+
+#include "arrays/engine/kernels/element_lanes.hpp"
+#include "arrays/engine/kernels/shell_sort.hpp"
+#include "arrays/engine/kernels/sort.hpp"
+#include "arrays/engine/overlap.hpp"
+
+#include <span>
+#include <utility>
+
+namespace zeb
+{
+
+namespace sort_detail
+{
+
+constexpr bool sorts(std::size_t count) noexcept { return count >= 2 && count <= INT32_MAX; }
+
+template <class Element, class Precedes>
+void shell_sort(std::span<Element> elements, Precedes precedes) noexcept
+{
+    Element *const data = elements.data();
+    if (sorts(elements.size()))
+        shell::sort(
+            elements.size(),
+            [=](std::size_t later, std::size_t earlier) { return precedes(data + later, data + earlier); },
+            [=](std::size_t later, std::size_t earlier) { std::swap(data[later], data[earlier]); });
+}
+
+template <class Element, class Precedes>
+void shell_sort(std::span<Element> elements, std::uint32_t *indexes, Precedes precedes) noexcept
+{
+    Element *const data = elements.data();
+    if (sorts(elements.size()))
+        shell::sort(
+            elements.size(),
+            [=](std::size_t later, std::size_t earlier) { return precedes(data + later, data + earlier); },
+            [=](std::size_t later, std::size_t earlier) {
+                std::swap(data[later], data[earlier]);
+                std::swap(indexes[later], indexes[earlier]);
+            });
+}
+
+/// A strict order, asked with pointers.
+template <class Less>
+struct By_Order {
+    Less less;
+    template <class Element>
+    bool operator()(const Element *later, const Element *earlier) const noexcept
+    {
+        return less(*later, *earlier);
+    }
+};
+
+/// A comparison function, asked with pointers: only the answer 2 exchanges.
+template <class Compare>
+struct By_Comparison {
+    Compare compare;
+    template <class Element>
+    bool operator()(const Element *later, const Element *earlier) const noexcept
+    {
+        return compare(later, earlier) == ZEB_COMPARED_LESS;
+    }
+};
+
+/// Whether the indexes lie among the elements, where no exchange could be made in both.
+template <class Element>
+bool lie_among(std::span<std::uint32_t> indexes, std::span<Element> elements) noexcept
+{
+    return overlaps<std::uint32_t>(indexes, elements.data(), elements.size_bytes());
+}
+
+} // namespace sort_detail
+
+/// Sorts by a strict order, the element's own unless another is given.
+template <class Element, class Less = Own_Less>
+void sort(std::span<Element> elements, Less less = {}) noexcept
+{
+    if constexpr (has_order_kernel<Element, Less>) {
+        if (sort_detail::sorts(elements.size()))
+            kernels::sort(lanes_of<Order_Lane<Element>>(elements.data()), elements.size());
+    } else {
+        sort_detail::shell_sort(elements, sort_detail::By_Order<Less>{less});
+    }
+}
+
+/// Sorts by a comparison that is asked (pointer to the later element, pointer to the earlier element)
+/// and exchanges them when it answers 2. The questions and their order are those of the Shell sort, and
+/// the pointers are into the span.
+template <class Element, class Compare>
+void sort_by(std::span<Element> elements, Compare compare) noexcept
+{
+    sort_detail::shell_sort(elements, sort_detail::By_Comparison<Compare>{compare});
+}
+
+/// Sorts, every exchange applied to `indexes` too: if they were 0, 1, 2, ... before, index i becomes the
+/// position that element i had. Returns false, nothing changed, if there are fewer indexes than elements.
+/// Indexes that lie among the elements are sorted with them and not exchanged.
+template <class Element, class Less = Own_Less>
+bool sort_with_permutation(std::span<Element> elements, std::span<std::uint32_t> indexes,
+                           Less less = {}) noexcept
+{
+    if (indexes.size() < elements.size())
+        return false;
+    if (sort_detail::lie_among(indexes, elements)) {
+        sort(elements, less);
+    } else if constexpr (has_order_kernel<Element, Less>) {
+        if (sort_detail::sorts(elements.size()))
+            kernels::sort(lanes_of<Order_Lane<Element>>(elements.data()), indexes.data(), elements.size());
+    } else {
+        sort_detail::shell_sort(elements, indexes.data(), sort_detail::By_Order<Less>{less});
+    }
+    return true;
+}
+
+/// The same by a caller's comparison, asked as in `sort_by`.
+template <class Element, class Compare>
+bool sort_with_permutation_by(std::span<Element> elements, std::span<std::uint32_t> indexes,
+                              Compare compare) noexcept
+{
+    if (indexes.size() < elements.size())
+        return false;
+    if (sort_detail::lie_among(indexes, elements))
+        sort_by(elements, compare);
+    else
+        sort_detail::shell_sort(elements, indexes.data(), sort_detail::By_Comparison<Compare>{compare});
+    return true;
+}
+
+} // namespace zeb

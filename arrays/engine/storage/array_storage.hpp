@@ -1,0 +1,51 @@
+/// How the engine sees the fields of a vector or array object: by reference, made on the spot.
+#pragma once
+
+#include <Korvane_ZEB/ZEB_Types.h>
+
+#include "arrays/engine/storage/block_growth.hpp"
+#include "arrays/engine/storage/element_kinds.hpp"
+
+#include <span>
+
+namespace zeb
+{
+
+/// The marker that the link makers set, and from which on arrays refuse to change their block.
+inline constexpr std::uint32_t link_marker_of_links = 10000;
+
+/// The capacity of a link: nothing that it is asked to hold makes it grow.
+inline constexpr std::uint32_t capacity_of_links = UINT32_MAX;
+
+/// The fields of a vector, and the kind of its elements.
+template <class Kind>
+struct Vector_Storage {
+    using Element = typename Kind::Element;
+
+    Element *&data;
+    std::uint32_t &count;
+    std::uint32_t &link_marker;
+    [[no_unique_address]] Kind kind;
+
+    bool owns() const noexcept { return link_marker == 0; }
+    std::span<Element> elements() const noexcept { return {data, count}; }
+
+    static constexpr Block_Layout layout() noexcept { return {sizeof(Element), Kind::zero_filled}; }
+};
+
+/// The fields of a growable array.
+template <class Kind>
+struct Array_Storage : Vector_Storage<Kind> {
+    std::uint32_t &capacity;
+    std::uint32_t growth_seed;
+
+    bool is_link() const noexcept { return this->link_marker >= link_marker_of_links; }
+
+    /// The size of the block in bytes, of a link that of what it views.
+    std::size_t block_size() const noexcept
+    {
+        return (is_link() ? this->count : capacity) * sizeof(typename Kind::Element);
+    }
+};
+
+} // namespace zeb

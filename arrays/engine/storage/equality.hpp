@@ -1,0 +1,37 @@
+/// When two vectors of one family are equal, and a hash that agrees with it.
+#pragma once
+
+#include "arrays/engine/algorithms/equality.hpp"
+#include "core/engine/hash.hpp"
+
+#include <span>
+
+namespace zeb
+{
+
+/// Plain elements and references are compared as memory, held objects by their contents.
+template <class Kind>
+bool equals_as_vector(std::span<const typename Kind::Element> left,
+                      std::span<const typename Kind::Element> right) noexcept
+{
+    if constexpr (Kind::holds_objects)
+        return same_values(left, right, typename Kind::Equality());
+    else
+        return same_memory(left, right);
+}
+
+/// Equal vectors have equal hashes. That of held objects is made of their own.
+template <class Kind>
+std::uint64_t hash_as_vector(std::span<const typename Kind::Element> elements) noexcept
+{
+    if constexpr (Kind::holds_objects) {
+        std::uint64_t hash = stir(0, elements.size());
+        for (const typename Kind::Element element : elements)
+            hash = stir(hash, Kind::hash(element));
+        return hash;
+    } else {
+        return hash_bytes(elements.data(), elements.size_bytes());
+    }
+}
+
+} // namespace zeb

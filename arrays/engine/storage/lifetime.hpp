@@ -1,0 +1,128 @@
+/// Making, linking, copying and ending a vector's storage.
+///
+/// Every `report` takes a note. A failed allocation is reported, and leaves no block and no elements
+/// behind where the storage was new, or the storage as it was where it had been in use.
+#pragma once
+
+#include "arrays/engine/allocator.hpp"
+#include "arrays/engine/storage/array_notes.hpp"
+#include "arrays/engine/storage/array_storage.hpp"
+
+namespace zeb
+{
+
+/// Drops the elements and frees the block of an owner; a link forgets what it views.
+template <class Kind>
+void finish(Vector_Storage<Kind> storage) noexcept
+{
+    if (storage.owns() && storage.data != nullptr) {
+        storage.kind.destroy(storage.data, 0, storage.count);
+        release(storage.data);
+    }
+    storage.data = nullptr;
+    storage.count = 0;
+}
+
+/// A block for `capacity` elements; none for 0. Null data with capacity 0 tells that memory is short.
+template <class Kind, class Report>
+Block make_block(std::uint64_t capacity, Report report) noexcept
+{
+    Block block{nullptr, 0};
+    if (capacity != 0 && !resize_block(block, capacity, Vector_Storage<Kind>::layout()))
+        report(notes::allocate_failed);
+    return block;
+}
+
+/// Gives new storage room for `capacity` elements, of which `count` are live and undefined, and answers
+/// the room that it has.
+template <class Kind, class Report>
+std::uint32_t start(Vector_Storage<Kind> storage, std::uint32_t count, std::uint64_t capacity,
+                    Report report) noexcept
+{
+    const Block block = make_block<Kind>(capacity, report);
+    storage.data = static_cast<typename Kind::Element *>(block.data);
+    storage.count = 0;
+    if (block.capacity < count)
+        return 0;
+    if (!storage.kind.open(storage.data, 0, count)) {
+        report(notes::allocate_failed);
+        finish(storage);
+        return 0;
+    }
+    storage.count = count;
+    return block.capacity;
+}
+
+/// Views `count` elements that belong to someone else. The marker is the caller's to set.
+template <class Kind>
+void view(Vector_Storage<Kind> storage, typename Kind::Element const *data, std::uint32_t count) noexcept
+{
+    // A link may view read-only memory: it is written only when the caller asks for it.
+    storage.data = const_cast<typename Kind::Element *>(data);
+    storage.count = count;
+}
+
+/// Views the elements of `range`, both ends included, of the block at `data`. The range is not checked.
+template <class Kind>
+void view_range(Vector_Storage<Kind> storage, typename Kind::Element const *data,
+                ZEB_Index_Range range) noexcept
+{
+    view(storage, data + range.start, range.end - range.start + 1);
+}
+
+/// Whose references the source of a copy are; only arrays of counted references tell them apart.
+enum class Source { of_the_caller, of_another_array };
+
+template <class Kind>
+void assign_from(Source source, Kind kind, typename Kind::Element *slots,
+                 typename Kind::Element const *elements, std::uint32_t n) noexcept
+{
+    if (source == Source::of_another_array)
+        kind.assign_shared(slots, elements, n);
+    else
+        kind.assign(slots, elements, n);
+}
+
+/// Makes new storage a copy of `n` elements, in a block of `capacity`, and answers the room that it has.
+template <class Kind, class Report>
+std::uint32_t start_as_copy(Vector_Storage<Kind> storage, Source source,
+                            typename Kind::Element const *elements, std::uint32_t n, std::uint64_t capacity,
+                            Report report) noexcept
+{
+    const std::uint32_t room = start(storage, n, capacity, report);
+    if (!storage.kind.prepare(storage.data, elements, storage.count)) {
+        report(notes::allocate_failed);
+        finish(storage);
+        return 0;
+    }
+    assign_from(source, storage.kind, storage.data, elements, storage.count);
+    return room;
+}
+
+/// Puts a copy of `n` elements, in a block of `capacity` (at least `n`), in the place of what the storage
+/// holds; a link becomes an owner and forgets what it viewed. The elements may be the storage's own.
+/// Sets `room` to what the new block holds. Answers false when there is no memory; the storage then stays
+/// as it was.
+template <class Kind, class Report>
+bool replace_with_copy(Vector_Storage<Kind> storage, Source source, typename Kind::Element const *elements,
+                       std::uint32_t n, std::uint64_t capacity, std::uint32_t &room, Report report) noexcept
+{
+    typename Kind::Element *data = nullptr;
+    std::uint32_t count = 0;
+    std::uint32_t marker = 0;
+    typename Kind::Fresh fresh{};
+    const Vector_Storage<Kind> made{data, count, marker, storage.kind.fresh(fresh)};
+    const std::uint64_t wanted = capacity < n ? n : capacity;
+    const std::uint32_t got = start_as_copy(made, source, elements, n, wanted, report);
+    if (got < wanted)
+        return false;
+    finish(storage);
+    storage.data = data;
+    storage.count = count;
+    storage.link_marker = 0;
+    storage.kind.take(fresh);
+    room = got;
+    return true;
+}
+
+} // namespace zeb

@@ -1,0 +1,86 @@
+/// Sources of an operation that lie in the block it is about to change.
+#pragma once
+
+#include "arrays/engine/overlap.hpp"
+#include "arrays/engine/storage/lifetime.hpp"
+
+#include <span>
+
+namespace zeb
+{
+
+/// A copy of a run of elements, or several copies one after the other, kept as the array keeps its own.
+template <class Kind>
+class Copied_Run
+{
+public:
+    using Element = typename Kind::Element;
+
+    Copied_Run(Kind kind, std::span<Element const> run, std::uint32_t times = 1) noexcept
+        : storage{data, count, marker, kind.fresh(state)}
+    {
+        const auto n = static_cast<std::uint32_t>(run.size());
+        const auto silent = [](Char_Span) {};
+        valid = start(storage, n * times, n * times, silent) == n * times;
+        for (std::uint32_t i = 0; valid && i < times; ++i) {
+            valid = kind.prepare(data + i * n, run.data(), n);
+            if (valid)
+                kind.assign_shared(data + i * n, run.data(), n);
+        }
+    }
+
+    ~Copied_Run() { finish(storage); }
+
+    Copied_Run(const Copied_Run &) = delete;
+    Copied_Run &operator=(const Copied_Run &) = delete;
+
+    /// False if allocation failed.
+    bool is_valid() const noexcept { return valid; }
+
+    std::span<Element const> elements() const noexcept { return {data, count}; }
+
+    /// The slots themselves; what is stored there is dropped with the copy.
+    Element *slots() noexcept { return data; }
+
+private:
+    Element *data = nullptr;
+    std::uint32_t count = 0;
+    std::uint32_t marker = 0;
+    typename Kind::Fresh state{};
+    Vector_Storage<Kind> storage;
+    bool valid = false;
+};
+
+/// A run that an operation reads as if it had been copied before the operation began. It is copied only where
+/// it has memory in common with the block that the operation changes.
+template <class Kind>
+class Own_Source
+{
+public:
+    using Element = typename Kind::Element;
+
+    /// `block` is that block, of `size` bytes.
+    Own_Source(Kind kind, std::span<Element const> run, const void *block, std::size_t size) noexcept
+        : overlapping(overlaps(run, block, size)), copy(kind, overlapping ? run : std::span<Element const>()),
+          run(run)
+    {
+    }
+
+    /// False if the copy was needed and could not be allocated.
+    bool is_valid() const noexcept { return copy.is_valid(); }
+
+    bool is_copied() const noexcept { return overlapping; }
+
+    std::span<Element const> elements() const noexcept { return overlapping ? copy.elements() : run; }
+
+private:
+    bool overlapping;
+    Copied_Run<Kind> copy;
+    std::span<Element const> run;
+};
+
+/// The same for plain elements of any array.
+template <class Element>
+using Own_Values = Own_Source<Plain_Elements<Element>>;
+
+} // namespace zeb

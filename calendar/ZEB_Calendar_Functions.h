@@ -26,15 +26,15 @@ ZEB_EXPORT ZEB_Gregorian_Date ZC_map_julian_day_to_gregorian_date(int32_t julian
 /** Writes month/day/year, and hours:minutes:seconds after a space unless the instant is midnight to the
     microsecond; the seconds have at most six decimals, and none that is needless. An instant that is not
     finite or whose Julian day number does not fit in 32 bits gives the empty text. The decimal point is '.'
-    in every locale. The buffer needs ZEB_DATE_TEXT_SIZE bytes; returns a pointer to the terminating null.
-    */
+    in every locale. The buffer needs ZEB_DATE_TEXT_SIZE bytes; returns a pointer to the terminating
+    null. */
 ZEB_EXPORT char *ZC_pretty_format_gregorian_date_from_seconds(char *buffer, double seconds_since_1970);
 
 /** How many characters at the start of a counted array form a date and time, white space in front included:
     month / day / year, followed by hours : minutes : seconds if that is complete, with white space allowed
     around every number. 0 when no date stands there. No field is checked for its range; at most 1023
     characters from the first that is no white space are looked at. The seconds are read as the C library
-    reads a double, with the decimal point of the locale in force. */
+    reads a double in its "C" locale. */
 ZEB_EXPORT uint32_t ZC_skip_valid_gregorian_date_char_c_array(const char *chars, uint32_t length);
 
 /** Reads the same text, stores its instant and returns the number of characters read; 0, with nothing

@@ -1,9 +1,8 @@
 #pragma once
 
-#if defined(__APPLE__)
-#include <xlocale.h>
-#else
 #include <locale.h>
+#if __has_include(<xlocale.h>)
+#include <xlocale.h>
 #endif
 
 namespace zeb

@@ -15,7 +15,7 @@
  * leave it past the day's end. A nil date is read as one that was never set; it equals no date.
  */
 ZEB_EXPORT
-@interface ZEB_Date : ZEB_Object <NSCopying, NSCoding> {
+@interface ZEB_Date : ZEB_Object <NSCopying> {
     ZEB_PROTECTED
     ZEB_Gregorian_Date date;
     int32_t julian_day;
@@ -122,7 +122,9 @@ ZEB_EXPORT
 @interface ZEB_Date (Text)
 
 /** Appends what the platform's strftime makes of the date in the locale in force, up to 2047 characters;
-    what is longer appends nothing. A null format is "%m/%d/%Y %H:%M:%S". */
+    what is longer appends nothing. The fields are the date's own, brought into their ranges and moved by no
+    time zone; zone letters give what the platform says of that local time. A null format is "%m/%d/%Y
+   %H:%M:%S". */
 - (void)append_strftime_text:(ZEB_String *)string format:(const char *)format;
 
 /** The same, with the string's own characters as the format, which stay in front of the text. */
@@ -140,9 +142,14 @@ ZEB_EXPORT
     the date is brought into its range. */
 - (void)assign_from_text:(ZEB_String *)string;
 
+/* ISO 8601 knows every year of 32 bits: its texts are made of year, month and day by the civil calendar, and
+   the day number does not count. Far out, beyond 1 March -4800 and the end of 1465072, the civil day number
+   differs from the one of `set_date_and_time:second:nanosecond:`; beyond 5874898 it wraps around in 32 bits.
+ */
+
 /** Appends "2021-03-04T10:20:30.5", the date by ISO 8601 in every locale, with up to nine decimals; years
-    outside 0 to 9999 have a sign and at least six digits. Time past the day's end is carried into the day;
-    nothing is appended when the day then leaves the 32-bit numbers. */
+    outside 0 to 9999 have a sign and at least six digits. A day outside its month, and time past the day's
+    end, count on; nothing is appended when the year then does not fit in 32 bits. */
 - (void)append_iso8601_text:(ZEB_String *)string;
 
 /** Appends "2021-03-04" from year, month and day as they stand. */
@@ -150,7 +157,7 @@ ZEB_EXPORT
 
 /** Takes an ISO 8601 date, and the time after 'T' or a space if it is valid, from the start of a string; a
     zone ("Z", "+01:00") is not read. Answers how many characters were read: 0, with nothing changed, when
-    no valid date stands there. */
+    no valid date stands there. The day number is the civil one. */
 - (uint32_t)assign_from_iso8601_text:(ZEB_String *)string;
 
 /** Writes the text of strftime by the stream's date format; nothing where that is empty or too long. */
@@ -160,8 +167,10 @@ ZEB_EXPORT
 
 @end
 
-/** Dates in archives: five 32-bit integers, under keys where the coder has them. */
-@interface ZEB_Date (Coding)
+/** Dates in archives: 32-bit integers, under keys where the coder has them. An archived object comes back
+   with its fields and its day number as they stood (second and nanosecond cut to 32 bits); where the archive
+   holds the five values of `encode:` alone, the day number is the one that belongs to them. */
+@interface ZEB_Date (Coding) <NSCoding>
 
 /** Writes nanosecond, second (both cut to 32 bits), day, month and year. */
 - (void)encode:(NSCoder *)coder;

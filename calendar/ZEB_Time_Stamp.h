@@ -34,8 +34,7 @@ ZEB_EXPORT
 /** 1 when seconds and nanoseconds are the same; 0 for nil. */
 - (uint8_t)is_equal_to:(ZEB_Time_Stamp *)other;
 
-/** Writes the seconds by the stream's format for unsigned longs, a point and the nanoseconds with nine
-    digits. */
+/** Writes the seconds, a point and the nanoseconds with nine digits, in one piece. */
 - (void)send_to_stream:(ZEB_Stream *)stream;
 - (void)send_text_to_stream:(ZEB_Stream *)stream;
 - (void)send_contents_to_stream:(ZEB_Stream *)stream;

@@ -5,6 +5,7 @@
 #import "core/ZEB_Description_Stream_Private.h"
 
 #include "calendar/engine/date_hash.hpp"
+#include "calendar/engine/date_text.hpp"
 #include "calendar/engine/local_time.hpp"
 #include "core/engine/notice.hpp"
 
@@ -71,9 +72,9 @@
 
 - (void)send_to_stream:(ZEB_Stream *)stream
 {
-    [stream write_unsigned_long:time.second];
-    [stream write_bytes:"." length:1];
-    [stream write_unsigned_long_with_format:time.nanosecond format:"%09lu"];
+    char text[zeb::time_stamp_text_size];
+    const char *const end = zeb::write_time_stamp(text, time);
+    [stream write_bytes:text length:static_cast<uint32_t>(end - text)];
 }
 
 - (void)send_text_to_stream:(ZEB_Stream *)stream

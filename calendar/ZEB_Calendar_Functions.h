@@ -15,8 +15,9 @@ ZEB_EXTERN_C_BEGIN
 
 /** The Julian day number of a Gregorian date. No field is checked: a day outside its month and the months
     0, 13 and 14 count on from their neighbours (month 0 is December of the year before); months further out
-    give the numbers of the same formula, which are no calendar months. Right from 1 March of the year -4800
-    to the end of 1465072. */
+    give the numbers of the same formula, which are no calendar months: month 18 lies a day or two late
+    (ZC_map_civil_date_to_julian_day and ZC_add_months_clamped count every month on). Right from 1 March of
+   the year -4800 to the end of 1465072. */
 ZEB_EXPORT int32_t ZC_map_gregorian_date_to_julian_day(ZEB_Gregorian_Date date);
 
 /** The Gregorian date of a Julian day number. A negative day number is read as unsigned and gives a year

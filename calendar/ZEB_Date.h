@@ -99,7 +99,8 @@ ZEB_EXPORT
 /** Adds `n` units; a code that names no unit adds none. Then one second is carried out of the nanoseconds
     and one day out of the seconds, no more: more than a day's worth of seconds leaves a second past the
     day's end. A day that its month does not have spills into the next: 31 January and one month is 2 or 3
-    March. */
+    March. Months and quarters that lead beyond February of the next year drift by days: 15 June and twelve
+    months is 16 or 17 June. `add_months_clamped:` does neither; adding years does not drift. */
 - (void)add_time_units:(ZEB_Time_Unit)unit n:(uint32_t)n;
 
 /** Adds months, or takes them away when negative; a day that its month does not have becomes the month's
@@ -113,7 +114,8 @@ ZEB_EXPORT
 
 /** Goes forward to the next start of a second, minute, hour, day, month, quarter or year, unless it is
     there. A week only drops the time of day; a second is not carried into the day, and a full minute or
-    hour keeps its nanoseconds. */
+    hour keeps its nanoseconds. From December the next quarter drifts by days, to 2 or 3 March: truncating
+    to the month and then `add_months_clamped:` does not. */
 - (void)advance_to_unit_boundary:(ZEB_Time_Unit)unit;
 
 @end

@@ -17,7 +17,7 @@ ZEB_EXTERN_C_BEGIN
     0, 13 and 14 count on from their neighbours (month 0 is December of the year before); months further out
     give the numbers of the same formula, which are no calendar months: month 18 lies a day or two late
     (ZC_map_civil_date_to_julian_day and ZC_add_months_clamped count every month on). Right from 1 March of
-   the year -4800 to the end of 1465072. */
+    the year -4800 to the end of 1465072. */
 ZEB_EXPORT int32_t ZC_map_gregorian_date_to_julian_day(ZEB_Gregorian_Date date);
 
 /** The Gregorian date of a Julian day number. A negative day number is read as unsigned and gives a year
@@ -78,7 +78,7 @@ ZEB_EXPORT char *ZC_format_iso8601_from_seconds(char *buffer, double seconds_sin
 /** Reads a date, and the time after 'T' or a space if it is valid, from the start of a counted array. The
     fraction of the seconds follows '.' or ','; nine of its decimals count. A year has four digits, or a
     sign and four to ten. A zone ("Z", "+01:00") is not read. Returns the number of characters read; 0, with
-   nothing stored, when no valid date stands there. time_of_day may be null. */
+    nothing stored, when no valid date stands there. time_of_day may be null. */
 ZEB_EXPORT uint32_t ZC_assign_date_from_iso8601_char_c_array(const char *chars, uint32_t length,
                                                              ZEB_Gregorian_Date *date,
                                                              ZEB_Time_Value *time_of_day);

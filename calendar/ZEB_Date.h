@@ -74,7 +74,8 @@ ZEB_EXPORT
     not fit in 32 bits, changes nothing. */
 - (void)set_seconds_since_1970:(double)seconds;
 
-/** The instant in seconds since 1970-01-01 00:00, from the day number and the time. */
+/** The instant in seconds since 1970-01-01 00:00, from the day number and the time. They know no zone: a
+    date that took the local clock is off by the zone, a ZEB_Time_Stamp is not. */
 - (double)seconds_since_1970;
 
 @end
@@ -104,7 +105,8 @@ ZEB_EXPORT
 - (void)add_time_units:(ZEB_Time_Unit)unit n:(uint32_t)n;
 
 /** Adds months, or takes them away when negative; a day that its month does not have becomes the month's
-    last: 31 January and one month is 28 or 29 February. The time of day stays. */
+    last: 31 January and one month is 28 or 29 February. The time of day stays, the day number becomes
+    the civil one. */
 - (void)add_months_clamped:(int32_t)months;
 
 /** Goes back to the start of the second, minute, hour, day (a week means the same), month, quarter or year.
@@ -125,8 +127,8 @@ ZEB_EXPORT
 
 /** Appends what the platform's strftime makes of the date in the locale in force, up to 2047 characters;
     what is longer appends nothing. The fields are the date's own, brought into their ranges and moved by no
-    time zone; zone letters give what the platform says of that local time. A null format is "%m/%d/%Y
-   %H:%M:%S". */
+    time zone; zone letters give what the platform says of that local time. A null format is
+    "%m/%d/%Y %H:%M:%S". */
 - (void)append_strftime_text:(ZEB_String *)string format:(const char *)format;
 
 /** The same, with the string's own characters as the format, which stay in front of the text. */
@@ -146,8 +148,8 @@ ZEB_EXPORT
 
 /* ISO 8601 knows every year of 32 bits: its texts are made of year, month and day by the civil calendar, and
    the day number does not count. Far out, beyond 1 March -4800 and the end of 1465072, the civil day number
-   differs from the one of `set_date_and_time:second:nanosecond:`; beyond 5874898 it wraps around in 32 bits.
- */
+   differs from the one of `set_date_and_time:second:nanosecond:`; beyond 5874898 it wraps around in 32
+   bits. */
 
 /** Appends "2021-03-04T10:20:30.5", the date by ISO 8601 in every locale, with up to nine decimals; years
     outside 0 to 9999 have a sign and at least six digits. A day outside its month, and time past the day's
@@ -170,8 +172,8 @@ ZEB_EXPORT
 @end
 
 /** Dates in archives: 32-bit integers, under keys where the coder has them. An archived object comes back
-   with its fields and its day number as they stood (second and nanosecond cut to 32 bits); where the archive
-   holds the five values of `encode:` alone, the day number is the one that belongs to them. */
+    with its fields and its day number as they stood (second and nanosecond cut to 32 bits); where the
+    archive holds the five values of `encode:` alone, the day number is the one that belongs to them. */
 @interface ZEB_Date (Coding) <NSCoding>
 
 /** Writes nanosecond, second (both cut to 32 bits), day, month and year. */

@@ -7,7 +7,7 @@
 
 /** The seconds and nanoseconds since 1970-01-01 00:00 UTC. */
 ZEB_EXPORT
-@interface ZEB_Time_Stamp : ZEB_Object <NSCopying> {
+@interface ZEB_Time_Stamp : ZEB_Object <NSCopying, NSCoding> {
     ZEB_PROTECTED
     ZEB_Time_Value time;
 }
@@ -23,6 +23,10 @@ ZEB_EXPORT
 
 /** A stamp of the same instant. */
 - (id)copyWithZone:(NSZone *)zone;
+
+/** Both fields in full, under keys where the coder has them; 0 for one that the archive lacks. */
+- (void)encodeWithCoder:(NSCoder *)coder;
+- (id)initWithCoder:(NSCoder *)coder;
 
 /** Takes the present instant, to the microsecond. */
 - (void)update_to_current_time;

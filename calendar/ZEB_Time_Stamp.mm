@@ -9,6 +9,38 @@
 #include "calendar/engine/local_time.hpp"
 #include "core/engine/notice.hpp"
 
+namespace
+{
+
+NSString *const second_key = @"ZEB_time_stamp_second";
+NSString *const nanosecond_key = @"ZEB_time_stamp_nanosecond";
+
+void write_time(NSCoder *coder, uint64_t second, uint64_t nanosecond)
+{
+    if ([coder allowsKeyedCoding]) {
+        [coder encodeInt64:static_cast<int64_t>(second) forKey:second_key];
+        [coder encodeInt64:static_cast<int64_t>(nanosecond) forKey:nanosecond_key];
+    } else {
+        [coder encodeValueOfObjCType:@encode(uint64_t) at:&second];
+        [coder encodeValueOfObjCType:@encode(uint64_t) at:&nanosecond];
+    }
+}
+
+ZEB_Time_Value read_time(NSCoder *coder)
+{
+    ZEB_Time_Value time{0, 0};
+    if ([coder allowsKeyedCoding]) {
+        time.second = static_cast<uint64_t>([coder decodeInt64ForKey:second_key]);
+        time.nanosecond = static_cast<uint64_t>([coder decodeInt64ForKey:nanosecond_key]);
+    } else {
+        [coder decodeValueOfObjCType:@encode(uint64_t) at:&time.second];
+        [coder decodeValueOfObjCType:@encode(uint64_t) at:&time.nanosecond];
+    }
+    return time;
+}
+
+} // namespace
+
 @implementation ZEB_Time_Stamp
 
 + (const char *)get_KVX_proprietary_software_notice
@@ -33,6 +65,17 @@
 - (id)copyWithZone:(NSZone *)zone
 {
     return [[[self class] allocWithZone:zone] init_with_time:time.second nanosecond:time.nanosecond];
+}
+
+- (void)encodeWithCoder:(NSCoder *)coder
+{
+    write_time(coder, time.second, time.nanosecond);
+}
+
+- (id)initWithCoder:(NSCoder *)coder
+{
+    const ZEB_Time_Value archived = read_time(coder);
+    return [self init_with_time:archived.second nanosecond:archived.nanosecond];
 }
 
 - (BOOL)isEqual:(id)other

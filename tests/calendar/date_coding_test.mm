@@ -56,6 +56,19 @@ TEST(Date_Coding, dates_come_back_as_themselves_from_both_kinds_of_archive)
     }
 }
 
+TEST(Date_Coding, time_stamps_come_back_in_full)
+{
+    ZEB_Time_Stamp *const stamp = [[[ZEB_Time_Stamp alloc] init_with_time:UINT64_MAX
+                                                               nanosecond:uint64_t{1} << 63] autorelease];
+    NSData *const keyed = [NSKeyedArchiver archivedDataWithRootObject:stamp];
+    EXPECT_TRUE([stamp isEqual:[NSKeyedUnarchiver unarchiveObjectWithData:keyed]]);
+    NSData *const plain = [NSArchiver archivedDataWithRootObject:stamp];
+    EXPECT_TRUE([stamp isEqual:[NSUnarchiver unarchiveObjectWithData:plain]]);
+    ZEB_Time_Stamp *const none =
+        [[[ZEB_Time_Stamp alloc] initWithCoder:archive_of([](NSCoder *) {})] autorelease];
+    EXPECT_EQ([none time_value].second, 0u);
+}
+
 TEST(Date_Coding, decoding_cuts_times_to_32_bits_and_brings_dates_into_range)
 {
     ZEB_Date *const date = date_of({2021, 2, 31}, (uint64_t{1} << 32) + 7, (uint64_t{5} << 32) + 9);

@@ -1,5 +1,7 @@
 #include "calendar/engine/civil_date.hpp"
 
+#include "calendar/engine/instant.hpp"
+
 #include <algorithm>
 #include <limits>
 
@@ -56,7 +58,7 @@ Date_Time make_civil_date_time(ZEB_Gregorian_Date date, ZEB_Time_Value time) noe
 double civil_seconds_since_1970(ZEB_Gregorian_Date date, ZEB_Time_Value time) noexcept
 {
     const std::int64_t days = day_from_civil_date(date) - julian_day_of_1970;
-    return static_cast<double>(days) * 86400.0 + static_cast<double>(time.second) +
+    return static_cast<double>(days) * seconds_per_day + static_cast<double>(time.second) +
            static_cast<double>(time.nanosecond) * 1e-9;
 }
 

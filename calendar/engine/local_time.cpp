@@ -7,40 +7,17 @@
 
 namespace zeb
 {
-
-ZEB_Time_Value current_time_value() noexcept
-{
-    timeval now{};
-    gettimeofday(&now, nullptr);
-    return {static_cast<std::uint64_t>(now.tv_sec), static_cast<std::uint64_t>(now.tv_usec) * 1000};
-}
-
-Date_Time local_date_time(std::time_t instant, std::uint64_t nanosecond) noexcept
-{
-    std::tm fields{};
-    tzset(); // localtime_r need not notice that the time zone changed
-    if (!localtime_r(&instant, &fields))
-        return unset_date_time;
-    const ZEB_Gregorian_Date date{wrapping_add(fields.tm_year, 1900), fields.tm_mon + 1, fields.tm_mday};
-    const int second = fields.tm_hour * 3600 + fields.tm_min * 60 + fields.tm_sec;
-    return make_date_time(date, static_cast<std::uint64_t>(second), nanosecond);
-}
-
-Date_Time current_local_date_time() noexcept
-{
-    const ZEB_Time_Value now = current_time_value(); // read once: another clock may be a second behind
-    return local_date_time(static_cast<std::time_t>(now.second), now.nanosecond);
-}
-
 namespace
 {
+
+constexpr std::uint64_t seconds_per_whole_day = 86400;
 
 // The fields of a date by the platform's names, each in its range; as they stand where the year does not fit.
 std::tm platform_fields(const Date_Time &value) noexcept
 {
-    const std::uint64_t second = value.time.second % 86400;
-    const std::int64_t day =
-        day_from_civil_date(value.date) + static_cast<std::int64_t>(value.time.second / 86400);
+    const std::uint64_t second = value.time.second % seconds_per_whole_day;
+    const std::int64_t day = day_from_civil_date(value.date) +
+                             static_cast<std::int64_t>(value.time.second / seconds_per_whole_day);
     const bool fits = has_civil_date(day);
     const ZEB_Gregorian_Date date = fits ? civil_date_from_day(day) : value.date;
     std::tm fields{};
@@ -70,6 +47,30 @@ void complete_zone(std::tm &fields) noexcept
 }
 
 } // namespace
+
+ZEB_Time_Value current_time_value() noexcept
+{
+    timeval now{};
+    gettimeofday(&now, nullptr);
+    return {static_cast<std::uint64_t>(now.tv_sec), static_cast<std::uint64_t>(now.tv_usec) * 1000};
+}
+
+Date_Time local_date_time(std::time_t instant, std::uint64_t nanosecond) noexcept
+{
+    std::tm fields{};
+    tzset(); // localtime_r need not notice that the time zone changed
+    if (!localtime_r(&instant, &fields))
+        return unset_date_time;
+    const ZEB_Gregorian_Date date{wrapping_add(fields.tm_year, 1900), fields.tm_mon + 1, fields.tm_mday};
+    const int second = fields.tm_hour * 3600 + fields.tm_min * 60 + fields.tm_sec;
+    return make_date_time(date, static_cast<std::uint64_t>(second), nanosecond);
+}
+
+Date_Time current_local_date_time() noexcept
+{
+    const ZEB_Time_Value now = current_time_value(); // read once: another clock may be a second behind
+    return local_date_time(static_cast<std::time_t>(now.second), now.nanosecond);
+}
 
 std::size_t format_with_strftime(char (&text)[strftime_limit], const char *format,
                                  const Date_Time &value) noexcept

@@ -52,7 +52,7 @@ TEST(Civil_Calendar, every_day_follows_the_one_before)
     const std::int64_t first_day = ZC_map_civil_date_to_julian_day({INT32_MIN, 1, 1}),
                        last_day = ZC_map_civil_date_to_julian_day({INT32_MAX, 12, 31});
     for (const std::int64_t start : {first_day, std::int64_t{INT32_MIN}, std::int64_t{-400000},
-                                     std::int64_t{INT32_MAX} - 200000, last_day - 399999}) {
+                                     std::int64_t{INT32_MAX} - 200000, last_day - 400000}) {
         const std::int64_t last = start == -400000 ? 3000000 : start + 399999;
         ZEB_Gregorian_Date expected = ZC_map_julian_day_to_civil_date(start);
         for (std::int64_t day = start; day <= last; ++day) {

@@ -39,9 +39,10 @@ uint32_t ZC_assign_seconds_from_gregorian_date_char_c_array(const char *chars, u
     return consumed;
 }
 
-ZEB_Gregorian_Date ZC_map_julian_day_to_civil_date(int32_t julian_day)
+ZEB_Gregorian_Date ZC_map_julian_day_to_civil_date(int64_t julian_day)
 {
-    return zeb::civil_date_from_day(julian_day);
+    return zeb::has_civil_date(julian_day) ? zeb::civil_date_from_day(julian_day)
+                                           : ZEB_Gregorian_Date{0, 0, 0};
 }
 
 int64_t ZC_map_civil_date_to_julian_day(ZEB_Gregorian_Date date) { return zeb::day_from_civil_date(date); }
@@ -58,7 +59,7 @@ char *ZC_format_iso8601_date(char *buffer, ZEB_Gregorian_Date date)
     return zeb::write_iso8601_date(buffer, date);
 }
 
-char *ZC_format_iso8601_date_and_time(char *buffer, int32_t julian_day, ZEB_Time_Value time_of_day)
+char *ZC_format_iso8601_date_and_time(char *buffer, int64_t julian_day, ZEB_Time_Value time_of_day)
 {
     return zeb::write_iso8601(buffer, julian_day, time_of_day);
 }
@@ -71,22 +72,17 @@ char *ZC_format_iso8601_from_seconds(char *buffer, double seconds_since_1970)
 uint32_t ZC_assign_date_from_iso8601_char_c_array(const char *chars, uint32_t length,
                                                   ZEB_Gregorian_Date *date, ZEB_Time_Value *time_of_day)
 {
-    zeb::Date_Time value;
-    const uint32_t consumed = zeb::scan_iso8601(chars, length, value);
-    if (consumed == 0)
-        return 0;
-    *date = value.date;
-    if (time_of_day)
-        *time_of_day = value.time;
-    return consumed;
+    ZEB_Time_Value unused_time;
+    return zeb::scan_iso8601(chars, length, *date, time_of_day ? *time_of_day : unused_time);
 }
 
 uint32_t ZC_assign_seconds_from_iso8601_char_c_array(const char *chars, uint32_t length,
                                                      double *seconds_since_1970)
 {
-    zeb::Date_Time value;
-    const uint32_t consumed = zeb::scan_iso8601(chars, length, value);
+    ZEB_Gregorian_Date date;
+    ZEB_Time_Value time_of_day;
+    const uint32_t consumed = zeb::scan_iso8601(chars, length, date, time_of_day);
     if (consumed != 0)
-        *seconds_since_1970 = zeb::seconds_since_1970(value);
+        *seconds_since_1970 = zeb::civil_seconds_since_1970(date, time_of_day);
     return consumed;
 }

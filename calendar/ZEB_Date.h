@@ -15,7 +15,7 @@
  * leave it past the day's end. A nil date is read as one that was never set; it equals no date.
  */
 ZEB_EXPORT
-@interface ZEB_Date : ZEB_Object <NSCopying, NSCoding> {
+@interface ZEB_Date : ZEB_Object <NSCopying> {
     ZEB_PROTECTED
     ZEB_Gregorian_Date date;
     int32_t julian_day;
@@ -74,7 +74,8 @@ ZEB_EXPORT
     not fit in 32 bits, changes nothing. */
 - (void)set_seconds_since_1970:(double)seconds;
 
-/** The instant in seconds since 1970-01-01 00:00, from the day number and the time. */
+/** The instant in seconds since 1970-01-01 00:00, from the day number and the time. They know no zone: a
+    date that took the local clock is off by the zone, a ZEB_Time_Stamp is not. */
 - (double)seconds_since_1970;
 
 @end
@@ -99,11 +100,13 @@ ZEB_EXPORT
 /** Adds `n` units; a code that names no unit adds none. Then one second is carried out of the nanoseconds
     and one day out of the seconds, no more: more than a day's worth of seconds leaves a second past the
     day's end. A day that its month does not have spills into the next: 31 January and one month is 2 or 3
-    March. */
+    March. Months and quarters that lead beyond February of the next year drift by days: 15 June and twelve
+    months is 16 or 17 June. `add_months_clamped:` does neither; adding years does not drift. */
 - (void)add_time_units:(ZEB_Time_Unit)unit n:(uint32_t)n;
 
 /** Adds months, or takes them away when negative; a day that its month does not have becomes the month's
-    last: 31 January and one month is 28 or 29 February. The time of day stays. */
+    last: 31 January and one month is 28 or 29 February. The time of day stays, the day number becomes
+    the civil one. */
 - (void)add_months_clamped:(int32_t)months;
 
 /** Goes back to the start of the second, minute, hour, day (a week means the same), month, quarter or year.
@@ -113,7 +116,8 @@ ZEB_EXPORT
 
 /** Goes forward to the next start of a second, minute, hour, day, month, quarter or year, unless it is
     there. A week only drops the time of day; a second is not carried into the day, and a full minute or
-    hour keeps its nanoseconds. */
+    hour keeps its nanoseconds. From December the next quarter drifts by days, to 2 or 3 March: truncating
+    to the month and then `add_months_clamped:` does not. */
 - (void)advance_to_unit_boundary:(ZEB_Time_Unit)unit;
 
 @end
@@ -122,7 +126,9 @@ ZEB_EXPORT
 @interface ZEB_Date (Text)
 
 /** Appends what the platform's strftime makes of the date in the locale in force, up to 2047 characters;
-    what is longer appends nothing. A null format is "%m/%d/%Y %H:%M:%S". */
+    what is longer appends nothing. The fields are the date's own, brought into their ranges and moved by no
+    time zone; zone letters give what the platform says of that local time. A null format is
+    "%m/%d/%Y %H:%M:%S". */
 - (void)append_strftime_text:(ZEB_String *)string format:(const char *)format;
 
 /** The same, with the string's own characters as the format, which stay in front of the text. */
@@ -140,9 +146,14 @@ ZEB_EXPORT
     the date is brought into its range. */
 - (void)assign_from_text:(ZEB_String *)string;
 
+/* ISO 8601 knows every year of 32 bits: its texts are made of year, month and day by the civil calendar, and
+   the day number does not count. Far out, beyond 1 March -4800 and the end of 1465072, the civil day number
+   differs from the one of `set_date_and_time:second:nanosecond:`; beyond 5874898 it wraps around in 32
+   bits. */
+
 /** Appends "2021-03-04T10:20:30.5", the date by ISO 8601 in every locale, with up to nine decimals; years
-    outside 0 to 9999 have a sign and at least six digits. Time past the day's end is carried into the day;
-    nothing is appended when the day then leaves the 32-bit numbers. */
+    outside 0 to 9999 have a sign and at least six digits. A day outside its month, and time past the day's
+    end, count on; nothing is appended when the year then does not fit in 32 bits. */
 - (void)append_iso8601_text:(ZEB_String *)string;
 
 /** Appends "2021-03-04" from year, month and day as they stand. */
@@ -150,7 +161,7 @@ ZEB_EXPORT
 
 /** Takes an ISO 8601 date, and the time after 'T' or a space if it is valid, from the start of a string; a
     zone ("Z", "+01:00") is not read. Answers how many characters were read: 0, with nothing changed, when
-    no valid date stands there. */
+    no valid date stands there. The day number is the civil one. */
 - (uint32_t)assign_from_iso8601_text:(ZEB_String *)string;
 
 /** Writes the text of strftime by the stream's date format; nothing where that is empty or too long. */
@@ -160,8 +171,10 @@ ZEB_EXPORT
 
 @end
 
-/** Dates in archives: five 32-bit integers, under keys where the coder has them. */
-@interface ZEB_Date (Coding)
+/** Dates in archives: 32-bit integers, under keys where the coder has them. An archived object comes back
+    with its fields and its day number as they stood (second and nanosecond cut to 32 bits); where the
+    archive holds the five values of `encode:` alone, the day number is the one that belongs to them. */
+@interface ZEB_Date (Coding) <NSCoding>
 
 /** Writes nanosecond, second (both cut to 32 bits), day, month and year. */
 - (void)encode:(NSCoder *)coder;

@@ -45,18 +45,6 @@
     return self;
 }
 
-- (id)initWithCoder:(NSCoder *)coder
-{
-    self = [self init];
-    [self decode:coder];
-    return self;
-}
-
-- (void)encodeWithCoder:(NSCoder *)coder
-{
-    [self encode:coder];
-}
-
 - (id)copyWithZone:(NSZone *)zone
 {
     ZEB_Date *const made = [[[self class] allocWithZone:zone] init];

@@ -8,6 +8,7 @@ namespace
 /// The keys of an archived date's values, in the order of their writing.
 NSString *const keys[] = {@"ZEB_date_nanosecond", @"ZEB_date_second", @"ZEB_date_day", @"ZEB_date_month",
                           @"ZEB_date_year"};
+NSString *const day_number_key = @"ZEB_date_julian_day";
 
 using Archived = std::array<int32_t, std::size(keys)>;
 
@@ -17,13 +18,11 @@ Archived archived(const zeb::Date_Time &value)
             value.date.day, value.date.month, value.date.year};
 }
 
+/// The fields as they were archived, with the day number that belongs to them.
 zeb::Date_Time restored(const Archived &values)
 {
-    zeb::Date_Time value =
-        zeb::make_date_time({values[4], values[3], values[2]}, static_cast<uint32_t>(values[1]),
-                            static_cast<uint32_t>(values[0]));
-    zeb::update_date(value);
-    return value;
+    return zeb::make_date_time({values[4], values[3], values[2]}, static_cast<uint32_t>(values[1]),
+                               static_cast<uint32_t>(values[0]));
 }
 
 void write_keyed(NSCoder *coder, const Archived &values)
@@ -33,12 +32,46 @@ void write_keyed(NSCoder *coder, const Archived &values)
 }
 
 /// A missing key leaves what stands.
-void read_keyed(NSCoder *coder, Archived &values)
+void read_key(NSCoder *coder, NSString *key, int32_t &value)
 {
     // The wider reader accepts every integer, where the 32-bit one throws at what does not fit.
+    if ([coder containsValueForKey:key])
+        value = static_cast<int32_t>([coder decodeInt64ForKey:key]);
+}
+
+void read_keyed(NSCoder *coder, Archived &values)
+{
     for (std::size_t i = 0; i < values.size(); ++i)
-        if ([coder containsValueForKey:keys[i]])
-            values[i] = static_cast<int32_t>([coder decodeInt64ForKey:keys[i]]);
+        read_key(coder, keys[i], values[i]);
+}
+
+/// What `encode:` wrote; what stands where a value is missing.
+zeb::Date_Time read_date(ZEB_Date *date, NSCoder *coder)
+{
+    Archived values = archived(zeb::value_of(date));
+    if ([coder allowsKeyedCoding])
+        read_keyed(coder, values);
+    else
+        [coder decodeArrayOfObjCType:@encode(int32_t) count:values.size() at:values.data()];
+    return restored(values);
+}
+
+/// The day number, which the five values do not always tell: that of a date that was never set, or lies far
+/// out.
+void write_day_number(NSCoder *coder, int32_t julian_day)
+{
+    if ([coder allowsKeyedCoding])
+        [coder encodeInt32:julian_day forKey:day_number_key];
+    else
+        [coder encodeValueOfObjCType:@encode(int32_t) at:&julian_day];
+}
+
+void read_day_number(NSCoder *coder, int32_t &julian_day)
+{
+    if ([coder allowsKeyedCoding])
+        read_key(coder, day_number_key, julian_day);
+    else
+        [coder decodeValueOfObjCType:@encode(int32_t) at:&julian_day];
 }
 
 } // namespace
@@ -56,12 +89,26 @@ void read_keyed(NSCoder *coder, Archived &values)
 
 - (void)decode:(NSCoder *)coder
 {
-    Archived values = archived(zeb::value_of(self));
-    if ([coder allowsKeyedCoding])
-        read_keyed(coder, values);
-    else
-        [coder decodeArrayOfObjCType:@encode(int32_t) count:values.size() at:values.data()];
-    zeb::set_value(self, restored(values));
+    zeb::Date_Time value = read_date(self, coder);
+    zeb::update_date(value);
+    zeb::set_value(self, value);
+}
+
+- (void)encodeWithCoder:(NSCoder *)coder
+{
+    [self encode:coder];
+    write_day_number(coder, julian_day);
+}
+
+- (id)initWithCoder:(NSCoder *)coder
+{
+    self = [self init];
+    if (self == nil)
+        return nil;
+    zeb::Date_Time value = read_date(self, coder);
+    read_day_number(coder, value.julian_day);
+    zeb::set_value(self, value);
+    return self;
 }
 
 @end

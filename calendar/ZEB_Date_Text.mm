@@ -3,6 +3,7 @@
 #import <Korvane_ZEB/ZEB_Stream.h>
 #import <Korvane_ZEB/ZEB_String_Text.h>
 
+#include "calendar/engine/civil_date.hpp"
 #include "calendar/engine/date_text.hpp"
 #include "calendar/engine/iso8601.hpp"
 #include "calendar/engine/local_time.hpp"
@@ -70,7 +71,7 @@ void with_strftime_text(ZEB_Date *date, const char *format, Take take)
 - (void)append_iso8601_text:(ZEB_String *)string
 {
     char text[zeb::iso8601_text_size];
-    append(string, text, zeb::write_iso8601(text, julian_day, time));
+    append(string, text, zeb::write_iso8601(text, zeb::day_from_civil_date(date), time));
 }
 
 - (void)append_iso8601_date_text:(ZEB_String *)string
@@ -82,8 +83,9 @@ void with_strftime_text(ZEB_Date *date, const char *format, Take take)
 - (uint32_t)assign_from_iso8601_text:(ZEB_String *)string
 {
     zeb::Date_Time value = value_of(self);
-    const uint32_t consumed = zeb::scan_iso8601([string char_data], [string count], value);
-    zeb::set_value(self, value);
+    const uint32_t consumed = zeb::scan_iso8601([string char_data], [string count], value.date, value.time);
+    if (consumed != 0)
+        zeb::set_value(self, zeb::make_civil_date_time(value.date, value.time));
     return consumed;
 }
 

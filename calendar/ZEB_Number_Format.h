@@ -31,10 +31,10 @@ ZEB_EXPORT
 /** A format with the same settings, results and characters. */
 - (id)copyWithZone:(NSZone *)zone;
 
-/** Appends a number: "0" for a magnitude of at most 1e-12 * `zero_reference`; fixed notation from 0.0001 to
-    below 1000000, with at most 12 decimals below 1 and 10 from there on; outside that "1.23 106", mantissa
-    and power of `exponent_base` ("e" for Euler's number), whose exponent is to be shown raised. Infinite
-    numbers are "Inf", what is not a number is "NaN", what this base cannot show is "Err". */
+/** Appends a number: "0" for a magnitude of at most 1e-12 times `zero_reference`; fixed notation from
+    0.0001 to below 1000000, with at most 12 decimals below 1 and 10 from there on; outside that "1.23 106",
+    mantissa and power of `exponent_base` ("e" for Euler's number), whose exponent is to be shown raised.
+    Infinite numbers are "Inf", what is not a number is "NaN", what this base cannot show is "Err". */
 - (void)format_value:(double)value;
 
 /** Appends a number with exactly `precision` decimals. A text of more than 63 characters is not made:
@@ -66,8 +66,8 @@ ZEB_EXPORT
 - (ZEB_Index_Range)range;
 - (void)set_range:(ZEB_Index_Range)value;
 
-/** The string that receives the texts. One that is set is retained in its place; nil sets a new, empty one.
- */
+/** The string that receives the texts. One that is set is retained in its place; nil sets a new,
+    empty one. */
 - (ZEB_Wide_String *)text;
 - (void)set_text:(ZEB_Wide_String *)string;
 

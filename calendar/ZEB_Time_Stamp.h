@@ -7,7 +7,7 @@
 
 /** The seconds and nanoseconds since 1970-01-01 00:00 UTC. */
 ZEB_EXPORT
-@interface ZEB_Time_Stamp : ZEB_Object <NSCopying> {
+@interface ZEB_Time_Stamp : ZEB_Object <NSCopying, NSCoding> {
     ZEB_PROTECTED
     ZEB_Time_Value time;
 }
@@ -24,6 +24,10 @@ ZEB_EXPORT
 /** A stamp of the same instant. */
 - (id)copyWithZone:(NSZone *)zone;
 
+/** Both fields in full, under keys where the coder has them; 0 for one that the archive lacks. */
+- (void)encodeWithCoder:(NSCoder *)coder;
+- (id)initWithCoder:(NSCoder *)coder;
+
 /** Takes the present instant, to the microsecond. */
 - (void)update_to_current_time;
 
@@ -34,8 +38,7 @@ ZEB_EXPORT
 /** 1 when seconds and nanoseconds are the same; 0 for nil. */
 - (uint8_t)is_equal_to:(ZEB_Time_Stamp *)other;
 
-/** Writes the seconds by the stream's format for unsigned longs, a point and the nanoseconds with nine
-    digits. */
+/** Writes the seconds, a point and the nanoseconds with nine digits, in one piece. */
 - (void)send_to_stream:(ZEB_Stream *)stream;
 - (void)send_text_to_stream:(ZEB_Stream *)stream;
 - (void)send_contents_to_stream:(ZEB_Stream *)stream;

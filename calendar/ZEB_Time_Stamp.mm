@@ -5,8 +5,41 @@
 #import "core/ZEB_Description_Stream_Private.h"
 
 #include "calendar/engine/date_hash.hpp"
+#include "calendar/engine/date_text.hpp"
 #include "calendar/engine/local_time.hpp"
 #include "core/engine/notice.hpp"
+
+namespace
+{
+
+NSString *const second_key = @"ZEB_time_stamp_second";
+NSString *const nanosecond_key = @"ZEB_time_stamp_nanosecond";
+
+void write_time(NSCoder *coder, uint64_t second, uint64_t nanosecond)
+{
+    if ([coder allowsKeyedCoding]) {
+        [coder encodeInt64:static_cast<int64_t>(second) forKey:second_key];
+        [coder encodeInt64:static_cast<int64_t>(nanosecond) forKey:nanosecond_key];
+    } else {
+        [coder encodeValueOfObjCType:@encode(uint64_t) at:&second];
+        [coder encodeValueOfObjCType:@encode(uint64_t) at:&nanosecond];
+    }
+}
+
+ZEB_Time_Value read_time(NSCoder *coder)
+{
+    ZEB_Time_Value time{0, 0};
+    if ([coder allowsKeyedCoding]) {
+        time.second = static_cast<uint64_t>([coder decodeInt64ForKey:second_key]);
+        time.nanosecond = static_cast<uint64_t>([coder decodeInt64ForKey:nanosecond_key]);
+    } else {
+        [coder decodeValueOfObjCType:@encode(uint64_t) at:&time.second];
+        [coder decodeValueOfObjCType:@encode(uint64_t) at:&time.nanosecond];
+    }
+    return time;
+}
+
+} // namespace
 
 @implementation ZEB_Time_Stamp
 
@@ -32,6 +65,17 @@
 - (id)copyWithZone:(NSZone *)zone
 {
     return [[[self class] allocWithZone:zone] init_with_time:time.second nanosecond:time.nanosecond];
+}
+
+- (void)encodeWithCoder:(NSCoder *)coder
+{
+    write_time(coder, time.second, time.nanosecond);
+}
+
+- (id)initWithCoder:(NSCoder *)coder
+{
+    const ZEB_Time_Value archived = read_time(coder);
+    return [self init_with_time:archived.second nanosecond:archived.nanosecond];
 }
 
 - (BOOL)isEqual:(id)other
@@ -71,9 +115,9 @@
 
 - (void)send_to_stream:(ZEB_Stream *)stream
 {
-    [stream write_unsigned_long:time.second];
-    [stream write_bytes:"." length:1];
-    [stream write_unsigned_long_with_format:time.nanosecond format:"%09lu"];
+    char text[zeb::time_stamp_text_size];
+    const char *const end = zeb::write_time_stamp(text, time);
+    [stream write_bytes:text length:static_cast<uint32_t>(end - text)];
 }
 
 - (void)send_text_to_stream:(ZEB_Stream *)stream

@@ -13,6 +13,8 @@ namespace
 template <class Array>
 zeb::Byte_Run bytes_from(Array *source, uint32_t offset)
 {
+    if (source == nil)
+        return {nullptr, 0};
     const auto elements = zeb::storage_of_array(source).elements();
     if (elements.size() <= offset)
         return {nullptr, 0};
@@ -30,18 +32,26 @@ zeb::Fix_Report report_for(ZEB_Byte_Array *destination)
     return { destination, @selector(append_bytes:count:) };
 }
 
+template <class Into, class Work>
+int32_t run_zlib(zeb::Byte_Run source, Into *destination, Work work)
+{
+    if (source.length == 0)
+        return 0;
+    if (destination == nil)
+        return -1;
+    return zeb::run_zlib(source, zeb::storage_of_array(destination), report_for(destination), work);
+}
+
 template <class From, class Into>
 int32_t compress(From *source, Into *destination)
 {
-    return zeb::run_zlib(bytes_from(source, 0), zeb::storage_of_array(destination), report_for(destination),
-                         zeb::compress);
+    return run_zlib(bytes_from(source, 0), destination, zeb::compress);
 }
 
 template <class From, class Into>
 int32_t decompress(From *source, Into *destination, uint32_t offset)
 {
-    return zeb::run_zlib(bytes_from(source, offset), zeb::storage_of_array(destination),
-                         report_for(destination), zeb::decompress);
+    return run_zlib(bytes_from(source, offset), destination, zeb::decompress);
 }
 
 } // namespace

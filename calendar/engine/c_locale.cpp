@@ -1,14 +1,12 @@
 #include "calendar/engine/c_locale.hpp"
 
-#include <langinfo.h>
-
 namespace zeb
 {
 
-bool decimal_point_is_full_stop() noexcept
+locale_t c_locale() noexcept
 {
-    const char *point = nl_langinfo(RADIXCHAR);
-    return point[0] == '.' && point[1] == '\0';
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;
 }
 
 } // namespace zeb

@@ -1,6 +1,9 @@
 #include "calendar/engine/civil_date.hpp"
 
+#include "calendar/engine/instant.hpp"
+
 #include <algorithm>
+#include <limits>
 
 namespace zeb
 {
@@ -25,9 +28,7 @@ constexpr Month_Of_Year month_of_year(std::int64_t year, std::int64_t month) noe
     return {year + years, month - 12 * years};
 }
 
-} // namespace
-
-std::int64_t day_from_civil_date(ZEB_Gregorian_Date date) noexcept
+constexpr std::int64_t day_from_any_civil_date(ZEB_Gregorian_Date date) noexcept
 {
     const Month_Of_Year normal = month_of_year(date.year, date.month);
     const bool before_march = normal.month < 3;
@@ -36,6 +37,29 @@ std::int64_t day_from_civil_date(ZEB_Gregorian_Date date) noexcept
     const std::int64_t days_before_year =
         365 * year + floor_divide(year, 4) - floor_divide(year, 100) + floor_divide(year, 400);
     return days_before_year + (979 * month - 2919) / 32 + date.day - 1 + julian_day_of_march_1_of_year_0;
+}
+
+} // namespace
+
+std::int64_t day_from_civil_date(ZEB_Gregorian_Date date) noexcept { return day_from_any_civil_date(date); }
+
+bool has_civil_date(std::int64_t julian_day) noexcept
+{
+    constexpr std::int64_t first = day_from_any_civil_date({std::numeric_limits<std::int32_t>::min(), 1, 1});
+    constexpr std::int64_t last = day_from_any_civil_date({std::numeric_limits<std::int32_t>::max(), 12, 31});
+    return julian_day >= first && julian_day <= last;
+}
+
+Date_Time make_civil_date_time(ZEB_Gregorian_Date date, ZEB_Time_Value time) noexcept
+{
+    return {date, static_cast<std::int32_t>(day_from_civil_date(date)), time};
+}
+
+double civil_seconds_since_1970(ZEB_Gregorian_Date date, ZEB_Time_Value time) noexcept
+{
+    const std::int64_t days = day_from_civil_date(date) - julian_day_of_1970;
+    return static_cast<double>(days) * seconds_per_day + static_cast<double>(time.second) +
+           static_cast<double>(time.nanosecond) * 1e-9;
 }
 
 bool is_leap_year(std::int32_t year) noexcept
@@ -62,8 +86,7 @@ ZEB_Gregorian_Date add_months_clamped(ZEB_Gregorian_Date date, std::int32_t mont
 
 void add_months_clamped(Date_Time &value, std::int32_t months) noexcept
 {
-    value.date = add_months_clamped(value.date, months);
-    value.julian_day = julian_day_from_date(value.date);
+    value = make_civil_date_time(add_months_clamped(value.date, months), value.time);
 }
 
 } // namespace zeb

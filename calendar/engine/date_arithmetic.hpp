@@ -7,7 +7,7 @@ namespace zeb
 
 /// Calendar arithmetic by unit codes. Fields wrap around in their own width and never overflow; a date field
 /// that leaves its range is brought back through the day number, so that a month after 31 January is 2 or 3
-/// March (add_months_clamped keeps inside the month).
+/// March, and months beyond the 14th drift by days (add_months_clamped does neither).
 
 /// Adds `count` units; months in a quarter and seconds in an hour are multiplied in 32 bits. Afterwards one
 /// second is carried out of the nanoseconds and one day out of the seconds, no more: adding more than a day's

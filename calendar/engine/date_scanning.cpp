@@ -60,6 +60,7 @@ bool scan_seconds_with_c_library(Text_Cursor &cursor, double &seconds) noexcept
     std::memcpy(text, cursor.chars + cursor.position, length);
     text[length] = '\0';
     int consumed = 0;
+    const C_Locale_Scope in_c_locale;
     if (std::sscanf(text, "%lf%n", &seconds, &consumed) != 1 || consumed <= 0)
         return false;
     cursor.position += static_cast<std::uint32_t>(consumed);
@@ -71,9 +72,7 @@ bool scan_seconds(Text_Cursor &cursor, double &seconds) noexcept
     cursor.skip_spaces();
     if (cursor.position >= cursor.length)
         return false;
-    if (decimal_point_is_full_stop() && scan_plain_seconds(cursor, seconds))
-        return true;
-    return scan_seconds_with_c_library(cursor, seconds);
+    return scan_plain_seconds(cursor, seconds) || scan_seconds_with_c_library(cursor, seconds);
 }
 
 } // namespace

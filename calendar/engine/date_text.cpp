@@ -40,6 +40,15 @@ char *write_slash_text(char *buffer, const Date_Time &value) noexcept
     return end;
 }
 
+char *write_time_stamp(char *buffer, ZEB_Time_Value time) noexcept
+{
+    char *end = put_unsigned_64(buffer, time.second);
+    *end++ = '.';
+    end = put_zero_padded(end, time.nanosecond, 9);
+    *end = '\0';
+    return end;
+}
+
 Date_Time read_spaced_text(const char *chars, std::uint32_t length) noexcept
 {
     Text_Cursor cursor{chars, length, 0};

@@ -14,6 +14,13 @@ inline constexpr std::uint32_t slash_text_size = 96;
 /// '.' in every locale. The buffer needs slash_text_size bytes; returns a pointer to the terminating null.
 char *write_slash_text(char *buffer, const Date_Time &value) noexcept;
 
+/// Room for every text of a time stamp.
+inline constexpr std::uint32_t time_stamp_text_size = 48;
+
+/// Writes the seconds, a point and the nanoseconds with nine digits at least; returns a pointer to the
+/// terminating null.
+char *write_time_stamp(char *buffer, ZEB_Time_Value time) noexcept;
+
 /// Reads "month / day / year hours : minutes : seconds . nanoseconds" from a counted array, with white space
 /// allowed around every number; what stands after '.' is a count of nanoseconds (".5" is five of them). Every
 /// field where the reading stopped, and all after it, is 0; then every date field is brought into its range.

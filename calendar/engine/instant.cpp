@@ -60,18 +60,25 @@ char *put_clock_time(char *out, std::uint32_t hour, Clock_Time time) noexcept
 
 } // namespace
 
-bool split_instant(double seconds_since_1970, Split_Instant &split) noexcept
+bool split_any_instant(double seconds_since_1970, Split_Instant &split) noexcept
 {
     // Far inside the 64-bit integers, and false for what is not a number.
-    if (!(seconds_since_1970 > -1e15 && seconds_since_1970 < 1e15))
+    if (!(seconds_since_1970 > -1e17 && seconds_since_1970 < 1e17))
         return false;
     const std::int64_t days =
         static_cast<std::int64_t>(seconds_since_1970 / seconds_per_day) - (seconds_since_1970 < 0);
-    const std::int64_t julian_day = days + julian_day_of_1970;
-    if (!fits_in_32_bits(julian_day))
-        return false;
-    split.julian_day = julian_day;
+    split.julian_day = days + julian_day_of_1970;
+    // The product is exact: a multiple of 128 below 2^60.
     split.remainder = seconds_since_1970 - static_cast<double>(days) * seconds_per_day;
+    return true;
+}
+
+bool split_instant(double seconds_since_1970, Split_Instant &split) noexcept
+{
+    Split_Instant any;
+    if (!split_any_instant(seconds_since_1970, any) || !fits_in_32_bits(any.julian_day))
+        return false;
+    split = any;
     return true;
 }
 

@@ -15,8 +15,11 @@ struct Split_Instant {
 
 /// Splits the seconds since 1970-01-01 00:00. An instant before 1970 always counts a day back, so that a
 /// negative multiple of 86400 leaves a remainder of 86400.
-/// Answers false, with `split` unchanged, when the instant is not finite or its Julian day number does not
-/// fit in a signed 32-bit integer.
+/// Answers false, with `split` unchanged, when the instant is not finite or more than 1e17 seconds away,
+/// beyond every date.
+bool split_any_instant(double seconds_since_1970, Split_Instant &split) noexcept;
+
+/// The same; refuses also an instant whose Julian day number does not fit in a signed 32-bit integer.
 bool split_instant(double seconds_since_1970, Split_Instant &split) noexcept;
 
 /// A fraction of a second (0 to below 1) in microseconds: the exact value rounded to nearest, ties to even,

@@ -6,8 +6,6 @@
 #include "calendar/engine/instant.hpp"
 #include "calendar/engine/unsigned_text.hpp"
 
-#include <limits>
-
 namespace zeb
 {
 namespace
@@ -41,12 +39,12 @@ char *put_time(char *out, std::uint64_t second, std::uint64_t nanosecond) noexce
     return put_decimals(out, nanosecond, fraction_decimals);
 }
 
-// Between `fewest` and `most` digits, as many as there are; how many there were, 0 for too few.
+// Between `fewest` and `most` (at most 18) digits, as many as there are; how many there were, 0 for too few.
 std::uint32_t scan_digits(Text_Cursor &cursor, std::uint32_t fewest, std::uint32_t most,
-                          std::int32_t &value) noexcept
+                          std::int64_t &value) noexcept
 {
     std::uint32_t count = 0;
-    std::int32_t number = 0;
+    std::int64_t number = 0;
     while (count < most && cursor.position + count < cursor.length &&
            is_ascii_digit(cursor.chars[cursor.position + count]))
         number = number * 10 + (cursor.chars[cursor.position + count++] - '0');
@@ -68,17 +66,22 @@ bool skip_character(Text_Cursor &cursor, char c) noexcept
 // The separator and two digits up to `most`.
 bool scan_field(Text_Cursor &cursor, char separator, std::int32_t most, std::int32_t &value) noexcept
 {
-    return skip_character(cursor, separator) && scan_digits(cursor, 2, 2, value) && value <= most;
+    std::int64_t number = 0;
+    if (!skip_character(cursor, separator) || scan_digits(cursor, 2, 2, number) == 0 || number > most)
+        return false;
+    value = static_cast<std::int32_t>(number);
+    return true;
 }
 
 bool scan_year(Text_Cursor &cursor, std::int32_t &year) noexcept
 {
     const bool negative = skip_character(cursor, '-');
     const bool has_sign = negative || skip_character(cursor, '+');
-    if (!scan_digits(cursor, 4, has_sign ? 9 : 4, year))
+    std::int64_t number = 0;
+    if (scan_digits(cursor, 4, has_sign ? 10 : 4, number) == 0)
         return false;
-    year = negative ? -year : year;
-    return true;
+    year = static_cast<std::int32_t>(negative ? -number : number);
+    return year == (negative ? -number : number); // else it does not fit
 }
 
 bool scan_date(Text_Cursor &cursor, ZEB_Gregorian_Date &date) noexcept
@@ -91,7 +94,7 @@ bool scan_date(Text_Cursor &cursor, ZEB_Gregorian_Date &date) noexcept
 std::uint64_t scan_fraction(Text_Cursor &cursor) noexcept
 {
     const std::uint32_t point = cursor.position;
-    std::int32_t nanoseconds = 0;
+    std::int64_t nanoseconds = 0;
     std::uint32_t count = 0;
     if (skip_character(cursor, '.') || skip_character(cursor, ','))
         count = scan_digits(cursor, 1, fraction_decimals, nanoseconds);
@@ -126,11 +129,6 @@ bool scan_time(Text_Cursor &cursor, ZEB_Time_Value &time) noexcept
     return true;
 }
 
-constexpr bool is_day_number(std::int64_t day) noexcept
-{
-    return day >= std::numeric_limits<std::int32_t>::min() && day <= std::numeric_limits<std::int32_t>::max();
-}
-
 } // namespace
 
 char *write_iso8601_date(char *buffer, ZEB_Gregorian_Date date) noexcept
@@ -140,16 +138,16 @@ char *write_iso8601_date(char *buffer, ZEB_Gregorian_Date date) noexcept
     return end;
 }
 
-char *write_iso8601(char *buffer, std::int32_t julian_day, ZEB_Time_Value time) noexcept
+char *write_iso8601(char *buffer, std::int64_t julian_day, ZEB_Time_Value time) noexcept
 {
-    // Neither sum overflows: the quotients are far below their types' limits.
     const std::uint64_t carried_seconds = time.nanosecond / nanoseconds_per_second;
     const std::uint64_t seconds = time.second % seconds_per_whole_day + carried_seconds;
-    const std::uint64_t days = time.second / seconds_per_whole_day + seconds / seconds_per_whole_day;
-    const std::int64_t day = julian_day + static_cast<std::int64_t>(days);
+    const std::int64_t days =
+        static_cast<std::int64_t>(time.second / seconds_per_whole_day + seconds / seconds_per_whole_day);
+    // No sum overflows: the quotients, and the days that have a date, are far below their types' limits.
     char *end = buffer;
-    if (is_day_number(day)) {
-        end = put_date(end, civil_date_from_day(static_cast<std::int32_t>(day)));
+    if (has_civil_date(julian_day) && has_civil_date(julian_day + days)) {
+        end = put_date(end, civil_date_from_day(julian_day + days));
         end = put_time(end, seconds % seconds_per_whole_day, time.nanosecond % nanoseconds_per_second);
     }
     *end = '\0';
@@ -159,30 +157,29 @@ char *write_iso8601(char *buffer, std::int32_t julian_day, ZEB_Time_Value time) 
 char *write_iso8601_instant(char *buffer, double seconds_since_1970) noexcept
 {
     Split_Instant split;
-    if (!split_instant(seconds_since_1970, split)) {
+    if (!split_any_instant(seconds_since_1970, split)) {
         *buffer = '\0';
         return buffer;
     }
     const std::uint64_t second = static_cast<std::uint64_t>(split.remainder);
     const double fraction = split.remainder - static_cast<double>(second);
     const std::uint64_t nanosecond = std::uint64_t{1000} * rounded_microseconds(fraction);
-    return write_iso8601(buffer, static_cast<std::int32_t>(split.julian_day), {second, nanosecond});
+    return write_iso8601(buffer, split.julian_day, {second, nanosecond});
 }
 
-std::uint32_t scan_iso8601(const char *chars, std::uint32_t length, Date_Time &value) noexcept
+std::uint32_t scan_iso8601(const char *chars, std::uint32_t length, ZEB_Gregorian_Date &date,
+                           ZEB_Time_Value &time) noexcept
 {
     Text_Cursor cursor{chars, length, 0};
-    ZEB_Gregorian_Date date{0, 0, 0};
-    if (!scan_date(cursor, date))
-        return 0;
-    const std::int64_t day = day_from_civil_date(date);
-    if (!is_day_number(day))
+    ZEB_Gregorian_Date scanned_date{0, 0, 0};
+    if (!scan_date(cursor, scanned_date))
         return 0;
     Text_Cursor time_cursor = cursor;
-    ZEB_Time_Value time{0, 0};
-    if (scan_time(time_cursor, time))
+    ZEB_Time_Value scanned_time{0, 0};
+    if (scan_time(time_cursor, scanned_time))
         cursor = time_cursor;
-    value = {date, static_cast<std::int32_t>(day), time};
+    date = scanned_date;
+    time = scanned_time;
     return cursor.position;
 }
 

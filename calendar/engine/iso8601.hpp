@@ -1,6 +1,8 @@
 #pragma once
 
-#include "calendar/engine/date_time.hpp"
+#include <Korvane_ZEB/ZEB_Types.h>
+
+#include <cstdint>
 
 namespace zeb
 {
@@ -16,20 +18,21 @@ inline constexpr std::uint32_t iso8601_text_size = 64;
 char *write_iso8601_date(char *buffer, ZEB_Gregorian_Date date) noexcept;
 
 /// Writes year-month-dayThours:minutes:seconds, and a fraction of up to nine decimals unless the nanoseconds
-/// are 0. A time past the day's end is carried into the day; when the day then leaves the signed 32-bit
-/// numbers the text is empty. Returns a pointer to the terminating null.
-char *write_iso8601(char *buffer, std::int32_t julian_day, ZEB_Time_Value time) noexcept;
+/// are 0. A time past the day's end is carried into the day; a day whose year does not fit in 32 bits gives
+/// the empty text. Returns a pointer to the terminating null.
+char *write_iso8601(char *buffer, std::int64_t julian_day, ZEB_Time_Value time) noexcept;
 
 /// The same for seconds since 1970-01-01 00:00, rounded to the microsecond; empty for an instant that is not
-/// finite or whose Julian day number does not fit in 32 bits.
+/// finite or whose year does not fit in 32 bits.
 char *write_iso8601_instant(char *buffer, double seconds_since_1970) noexcept;
 
 /// Reads a date from the start of a counted array, and a time when 'T', 't' or a space and hours:minutes or
 /// hours:minutes:seconds follow; the seconds may have a fraction after '.' or ',', of which nine decimals
-/// count. A year has four digits, or a sign and four to nine. Every field must lie in its range (hours 0 to
-/// 23, seconds 0 to 59). A zone ("Z", "+01:00") is not read: the count ends before it. Returns the number of
-/// characters read; 0, with `value` unchanged, when no date stands there or its day number does not fit in 32
-/// bits. Without a valid time the date alone is read and the time is 0.
-std::uint32_t scan_iso8601(const char *chars, std::uint32_t length, Date_Time &value) noexcept;
+/// count. A year has four digits, or a sign and four to ten. Every field must lie in its range (the year in
+/// 32 bits, hours 0 to 23, seconds 0 to 59). A zone ("Z", "+01:00") is not read: the count ends before it.
+/// Returns the number of characters read; 0, with nothing stored, when no date stands there. Without a valid
+/// time the date alone is read and the time is 0.
+std::uint32_t scan_iso8601(const char *chars, std::uint32_t length, ZEB_Gregorian_Date &date,
+                           ZEB_Time_Value &time) noexcept;
 
 } // namespace zeb

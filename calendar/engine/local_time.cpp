@@ -1,11 +1,52 @@
 #include "calendar/engine/local_time.hpp"
 
+#include "calendar/engine/civil_date.hpp"
 #include "calendar/engine/wrapping.hpp"
 
 #include <sys/time.h>
 
 namespace zeb
 {
+namespace
+{
+
+constexpr std::uint64_t seconds_per_whole_day = 86400;
+
+// The fields of a date by the platform's names, each in its range; as they stand where the year does not fit.
+std::tm platform_fields(const Date_Time &value) noexcept
+{
+    const std::uint64_t second = value.time.second % seconds_per_whole_day;
+    const std::int64_t day = day_from_civil_date(value.date) +
+                             static_cast<std::int64_t>(value.time.second / seconds_per_whole_day);
+    const bool fits = has_civil_date(day);
+    const ZEB_Gregorian_Date date = fits ? civil_date_from_day(day) : value.date;
+    std::tm fields{};
+    fields.tm_sec = static_cast<int>(second % 60);
+    fields.tm_min = static_cast<int>(second / 60 % 60);
+    fields.tm_hour = static_cast<int>(second / 3600);
+    fields.tm_mday = date.day;
+    fields.tm_mon = wrapping_subtract(date.month, 1);
+    fields.tm_year = wrapping_subtract(date.year, 1900);
+    fields.tm_wday = fits ? static_cast<int>(((day + 1) % 7 + 7) % 7) : 0;
+    fields.tm_yday = fits ? static_cast<int>(day - day_from_civil_date({date.year, 1, 1})) : 0;
+    return fields;
+}
+
+// What the platform says of the zone at that local time; no hour is moved.
+void complete_zone(std::tm &fields) noexcept
+{
+    std::tm local = fields;
+    local.tm_isdst = -1; // let the platform find out
+    local.tm_wday = -1;  // stays where it fails
+    (void)std::mktime(&local);
+    if (local.tm_wday < 0)
+        return;
+    fields.tm_isdst = local.tm_isdst;
+    fields.tm_gmtoff = local.tm_gmtoff;
+    fields.tm_zone = local.tm_zone;
+}
+
+} // namespace
 
 ZEB_Time_Value current_time_value() noexcept
 {
@@ -27,22 +68,15 @@ Date_Time local_date_time(std::time_t instant, std::uint64_t nanosecond) noexcep
 
 Date_Time current_local_date_time() noexcept
 {
-    const std::uint64_t nanosecond = current_time_value().nanosecond;
-    return local_date_time(std::time(nullptr), nanosecond);
+    const ZEB_Time_Value now = current_time_value(); // read once: another clock may be a second behind
+    return local_date_time(static_cast<std::time_t>(now.second), now.nanosecond);
 }
 
 std::size_t format_with_strftime(char (&text)[strftime_limit], const char *format,
                                  const Date_Time &value) noexcept
 {
-    const std::uint64_t second = value.time.second;
-    std::tm fields{};
-    fields.tm_sec = static_cast<int>(second % 60);
-    fields.tm_min = static_cast<int>(second / 60 % 60);
-    fields.tm_hour = static_cast<int>(second / 3600);
-    fields.tm_mday = value.date.day;
-    fields.tm_mon = wrapping_subtract(value.date.month, 1);
-    fields.tm_year = wrapping_subtract(value.date.year, 1900);
-    (void)std::mktime(&fields); // where it fails the fields stay as they are
+    std::tm fields = platform_fields(value);
+    complete_zone(fields);
     return std::strftime(text, sizeof text, format, &fields);
 }
 

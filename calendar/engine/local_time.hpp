@@ -23,9 +23,10 @@ Date_Time current_local_date_time() noexcept;
 /// What strftime may write, its terminating null included.
 inline constexpr std::size_t strftime_limit = 2048;
 
-/// Formats a date with the platform's strftime, in the locale in force, after the platform's mktime has
-/// completed it (without daylight saving time, so that mktime may move the hour where that is in force).
-/// Returns the length of the text in `text`; 0 when it is empty or does not fit.
+/// Formats a date with the platform's strftime, in the locale in force. The text is the date's own fields,
+/// each brought into its range by the civil calendar; no time zone moves them, and the zone letters of a
+/// format give what the platform says of that local time. Returns the length of the text in `text`; 0 when it
+/// is empty or does not fit.
 std::size_t format_with_strftime(char (&text)[strftime_limit], const char *format,
                                  const Date_Time &value) noexcept;
 

@@ -4,12 +4,14 @@
 #include "calendar/engine/pretty_number.hpp"
 
 #include <cmath>
+#include <cstring>
 
 namespace zeb
 {
 namespace
 {
 
+constexpr std::uint32_t fixed_text_size = 64;
 constexpr Number_Format_Result failed_result{not_a_number_result, number_format_error, {0, 0}};
 
 char *write_not_finite(char *buffer, double x, Number_Format_Result &result) noexcept
@@ -42,8 +44,11 @@ char *format_fixed(char *buffer, std::uint32_t decimals, double x, Number_Format
 {
     if (!std::isfinite(x))
         return write_not_finite(buffer, x, result);
-    const std::uint32_t length = length_without_padding(buffer, put_padded_fixed(buffer, 64, decimals, x));
+    char padded[fixed_text_size];
+    const std::uint32_t length =
+        length_without_padding(padded, put_padded_fixed(padded, fixed_text_size, decimals, x));
     result = length == 0 ? failed_result : Number_Format_Result{fixed_result, 0, {0, 0}};
+    std::memcpy(buffer, padded, length);
     buffer[length] = '\0';
     return buffer + length;
 }

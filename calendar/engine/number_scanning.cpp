@@ -19,7 +19,8 @@ namespace
 
 constexpr std::uint32_t longest_number = 31;
 
-// `convert` is one of the strto... functions: text and the place for the end of the number.
+// `convert` is one of the strto..._l functions in the "C" locale: text and the place for the end of the
+// number.
 template <typename Result, typename Convert>
 std::uint32_t scan_with_c_library(const char *chars, std::uint32_t length, Result &result,
                                   Convert convert) noexcept
@@ -47,7 +48,7 @@ std::uint32_t scan_signed(const char *chars, std::uint32_t length, int base, Sig
     if (!is_base(base))
         return 0;
     return scan_with_c_library(chars, length, result, [base](const char *text, char **end) {
-        return std::strtoll(text, end, base);
+        return strtoll_l(text, end, base, c_locale());
     });
 }
 
@@ -57,7 +58,7 @@ std::uint32_t scan_natural(const char *chars, std::uint32_t length, int base, Un
     if (!is_base(base))
         return 0;
     return scan_with_c_library(chars, length, result, [base](const char *text, char **end) {
-        return std::strtoull(text, end, base);
+        return strtoull_l(text, end, base, c_locale());
     });
 }
 
@@ -76,7 +77,7 @@ template <typename Real>
 std::uint32_t scan_plain(const char *chars, std::uint32_t length, Real &result) noexcept
 {
     const std::uint32_t size = std::min(length, longest_number);
-    if (!starts_plainly(chars, size) || !decimal_point_is_full_stop())
+    if (!starts_plainly(chars, size))
         return 0;
     Real value;
     const auto answer = fast_float::from_chars(chars, chars + size, value);
@@ -103,7 +104,7 @@ std::uint32_t scan_double(const char *chars, std::uint32_t length, double &resul
     if (const std::uint32_t consumed = scan_plain(chars, length, result))
         return consumed;
     return scan_with_c_library(chars, length, result,
-                               [](const char *text, char **end) { return std::strtod(text, end); });
+                               [](const char *text, char **end) { return strtod_l(text, end, c_locale()); });
 }
 
 std::uint32_t scan_float(const char *chars, std::uint32_t length, float &result) noexcept
@@ -111,7 +112,7 @@ std::uint32_t scan_float(const char *chars, std::uint32_t length, float &result)
     if (const std::uint32_t consumed = scan_plain(chars, length, result))
         return consumed;
     return scan_with_c_library(chars, length, result,
-                               [](const char *text, char **end) { return std::strtof(text, end); });
+                               [](const char *text, char **end) { return strtof_l(text, end, c_locale()); });
 }
 
 std::uint32_t scan_int(const char *chars, std::uint32_t length, int base, std::int32_t &result) noexcept

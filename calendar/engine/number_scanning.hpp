@@ -7,9 +7,9 @@ namespace zeb
 
 /// Numbers from the start of a counted array, of which the first 31 characters are looked at. Each scanner
 /// returns how many characters it consumed, white space in front included, and stores the number; when no
-/// number stands there it returns 0 and leaves `result` untouched. The C library is the judge of what a
-/// number is: the real scanners know its exponents, hexadecimal forms, "inf" and "nan", and the decimal point
-/// of the locale in force.
+/// number stands there it returns 0 and leaves `result` untouched. The C library in its "C" locale is the
+/// judge of what a number is, whatever locale is in force: the real scanners know its exponents, hexadecimal
+/// forms, "inf" and "nan", and the decimal point is '.'.
 
 std::uint32_t scan_double(const char *chars, std::uint32_t length, double &result) noexcept;
 std::uint32_t scan_float(const char *chars, std::uint32_t length, float &result) noexcept;

@@ -22,9 +22,11 @@ struct Power_Form {
 
 bool is_eulers_number(double base) noexcept { return std::fabs(base - eulers_number) < 1e-12; }
 
-// False when a step is not finite.
+// False when the base or a step is not finite.
 bool take_apart(const Scientific_Rules &rules, double magnitude, Power_Form &form) noexcept
 {
+    if (rules.base == 0 || !std::isfinite(rules.base))
+        return false;
     if (magnitude <= 1e-12 * rules.zero_reference) {
         form = {0.0, 1};
         return true;
@@ -78,10 +80,32 @@ char *put_base(char *out, double base) noexcept
     return printed == 0 ? nullptr : out + length_without_point(out, trimmed_length(out, printed));
 }
 
-char *finish(char *buffer, const char *word) noexcept
+// The parts are printed with padding, and some may fail after others: they are put together here, so that
+// the caller's buffer is touched once.
+struct Scientific_Text {
+    char text[scientific_text_size];
+    char *exponent = nullptr;
+    char *end = nullptr;
+};
+
+bool put_together(Scientific_Text &result, const Scientific_Rules &rules, double x) noexcept
 {
-    std::memcpy(buffer, word, 4);
-    return buffer + 3;
+    Power_Form form;
+    if (!take_apart(rules, std::fabs(x), form))
+        return false;
+    char *const base = put_mantissa(result.text, rules.precision, form.mantissa, x < 0);
+    result.exponent = base ? put_base(base, rules.base) : nullptr;
+    if (!result.exponent)
+        return false;
+    result.end = put_signed_64(result.exponent, form.exponent);
+    return true;
+}
+
+char *finish(char *buffer, const char *text, std::size_t length) noexcept
+{
+    std::memcpy(buffer, text, length);
+    buffer[length] = '\0';
+    return buffer + length;
 }
 
 } // namespace
@@ -96,22 +120,15 @@ char *write_scientific(char *buffer, const Scientific_Rules &rules, double x, st
     exponent_range = {0, 0};
     kind = not_a_number_result;
     if (!std::isfinite(x))
-        return finish(buffer, std::isnan(x) ? "NaN" : "Inf");
+        return finish(buffer, std::isnan(x) ? "NaN" : "Inf", 3);
 
-    Power_Form form;
-    char *end = take_apart(rules, std::fabs(x), form) ? buffer : nullptr;
-    if (end)
-        end = put_mantissa(end, rules.precision, form.mantissa, x < 0);
-    if (end)
-        end = put_base(end, rules.base);
-    if (!end)
-        return finish(buffer, "Err");
-    exponent_range.start = static_cast<std::uint32_t>(end - buffer);
-    end = put_signed_64(end, form.exponent);
-    exponent_range.end = static_cast<std::uint32_t>(end - buffer) - 1;
+    Scientific_Text made;
+    if (!put_together(made, rules, x))
+        return finish(buffer, "Err", 3);
+    exponent_range = {static_cast<std::uint32_t>(made.exponent - made.text),
+                      static_cast<std::uint32_t>(made.end - made.text) - 1};
     kind = general_result;
-    *end = '\0';
-    return end;
+    return finish(buffer, made.text, static_cast<std::size_t>(made.end - made.text));
 }
 
 } // namespace zeb

@@ -30,10 +30,10 @@ struct Scientific_Rules {
 /// and `range` holds the zero-based offsets of its first and last character in this text. The mantissa lies
 /// in [1, base), for Euler's number, whose text is "e", in (1/e, 1]. A mantissa of one character before its
 /// point is dropped (with precision 0) is left out together with the space. Infinity gives "Inf", not a
-/// number "NaN", what has no finite logarithm, power or mantissa in this base, or is too long for a part's
-/// place, "Err", each with kind 0 and range 0; the kind is general_result otherwise. result_kind and range
-/// may be null. The decimal point is '.' in every locale. The buffer needs scientific_text_size bytes;
-/// returns a pointer to the terminating null.
+/// number "NaN", a base of 0 or that is not finite, what has no finite logarithm, power or mantissa in this
+/// base, or is too long for a part's place, "Err", each with kind 0 and range 0; the kind is general_result
+/// otherwise. result_kind and range may be null. The decimal point is '.' in every locale. The buffer needs
+/// scientific_text_size bytes; nothing is written after the terminating null, a pointer to which is returned.
 char *write_scientific(char *buffer, const Scientific_Rules &rules, double x, std::uint32_t *result_kind,
                        ZEB_Index_Range *range) noexcept;
 

@@ -34,15 +34,13 @@ struct Array_Sink {
     }
 };
 
-/// Runs `work` (compress or decompress) from `source` into the end of `array`. A link refuses as an append
-/// does, before anything is done, and -1 is answered. A source within the array's own block is copied
-/// first.
+/// Runs `work` (compress or decompress) from `source`, which is not empty, into the end of `array`. A link
+/// refuses as an append does, before anything is done, and -1 is answered. A source within the array's own
+/// block is copied first.
 template <class Element, class Report, class Work>
 std::int32_t run_zlib(Byte_Run source, Array_Storage<Plain_Elements<Element>> array, Report report,
                       Work work) noexcept
 {
-    if (source.length == 0)
-        return 0;
     if (array.is_link()) {
         report(notes::append_array_through_link);
         return -1;

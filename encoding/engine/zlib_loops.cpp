@@ -8,9 +8,10 @@ namespace zeb
 namespace
 {
 
-// A truncated stream can make zlib go on for ever when it is fed again. These bounds lie far beyond what
-// any stream needs that does end.
+// A truncated stream can make zlib go on for ever when it is fed again, with or without output. These bounds
+// lie far beyond what any stream needs that does end.
 constexpr std::uint32_t greatest_pass_count = 65536;
+constexpr std::uint64_t greatest_refed_input = std::uint64_t{256} << 20;
 constexpr std::uint64_t greatest_refed_output = std::uint64_t{64} << 20;
 
 constexpr std::int32_t no_verdict = 1;
@@ -78,16 +79,17 @@ std::int32_t inflate_pass(z_stream &stream, Zlib_Output output, std::uint64_t ou
 std::int32_t inflate_to_end(z_stream &stream, const char *bytes, std::uint32_t length,
                             Zlib_Output output) noexcept
 {
-    std::uint64_t output_limit = UINT64_MAX;
-    for (std::uint32_t pass = 0; pass < greatest_pass_count; ++pass) {
+    give_input(stream, bytes, length);
+    std::int32_t verdict = inflate_pass(stream, output, UINT64_MAX);
+    const std::uint64_t output_limit = stream.total_out + greatest_refed_output;
+    std::uint64_t refed_input = 0;
+    for (std::uint32_t pass = 1;
+         verdict == no_verdict && pass < greatest_pass_count && refed_input < greatest_refed_input; ++pass) {
         give_input(stream, bytes, length);
-        const std::int32_t verdict = inflate_pass(stream, output, output_limit);
-        if (verdict != no_verdict)
-            return verdict;
-        if (pass == 0)
-            output_limit = stream.total_out + greatest_refed_output;
+        refed_input += length;
+        verdict = inflate_pass(stream, output, output_limit);
     }
-    return Z_DATA_ERROR;
+    return verdict == no_verdict ? Z_DATA_ERROR : verdict;
 }
 
 } // namespace

@@ -25,7 +25,8 @@ struct Zlib_Output {
 std::int32_t compress(const char *bytes, std::uint32_t length, Zlib_Output output) noexcept;
 
 /// Decompresses the zlib stream in `length` bytes. A stream that does not end is handed to zlib again from
-/// its start, and zlib's answer to that is the answer; where none comes, Z_DATA_ERROR ends it. What was
+/// its start, and zlib's answer to that is the answer; where none comes within 65,536 passes, 256 MiB of
+/// input handed in again and 64 MiB of output beyond the first pass's, Z_DATA_ERROR ends it. What was
 /// appended before a failure stays. Answers 0 for length 0.
 std::int32_t decompress(const char *bytes, std::uint32_t length, Zlib_Output output) noexcept;
 

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
 #include <random>
 #include <vector>
@@ -81,16 +82,34 @@ TEST(Date_Arithmetic, every_unit_agrees_with_the_transcription_on_seeded_dates)
 
 TEST(Date_Arithmetic, known_steps)
 {
-    Date_Time value = zeb::make_date_time({2021, 1, 31}, 0, 0);
-    zeb::add_time_units(value, ZEB_UNIT_MONTH, 1);
-    EXPECT_EQ(reference::slash_text(value), "3/3/2021");
-    zeb::add_time_units(value, ZEB_UNIT_SECOND, 90000);
-    EXPECT_EQ(reference::slash_text(value), "3/4/2021 01:00:00");
-    value = zeb::make_date_time({2021, 2, 15}, 5, 5);
-    zeb::truncate_to_unit(value, ZEB_UNIT_QUARTER);
-    EXPECT_EQ(reference::slash_text(value), "12/1/2020");
-    zeb::advance_to_unit_boundary(value, ZEB_UNIT_QUARTER); // stays on a boundary
-    EXPECT_EQ(reference::slash_text(value), "12/1/2020");
+    const auto add = [](std::uint32_t count) {
+        return [count](Date_Time &value, ZEB_Time_Unit unit) { zeb::add_time_units(value, unit, count); };
+    };
+    const struct {
+        ZEB_Gregorian_Date date;
+        std::uint64_t second;
+        std::function<void(Date_Time &, ZEB_Time_Unit)> step;
+        ZEB_Time_Unit unit;
+        const char *text;
+    } rows[] = {
+        {{2021, 1, 31}, 0, add(1), ZEB_UNIT_MONTH, "3/3/2021"},
+        {{2021, 3, 3}, 0, add(90000), ZEB_UNIT_SECOND, "3/4/2021 01:00:00"},
+        {{2021, 2, 15}, 5, zeb::truncate_to_unit, ZEB_UNIT_QUARTER, "12/1/2020"},
+        {{2020, 12, 1}, 0, zeb::advance_to_unit_boundary, ZEB_UNIT_QUARTER, "12/1/2020"}, // stays
+        {{2021, 12, 31}, 86399, zeb::truncate_to_unit, ZEB_UNIT_MINUTE, "12/31/2021 23:59:00"},
+        {{2021, 12, 31}, 86399, zeb::truncate_to_unit, ZEB_UNIT_HOUR, "12/31/2021 23:00:00"},
+        {{2021, 12, 31}, 86399, zeb::truncate_to_unit, ZEB_UNIT_YEAR, "1/1/2021"},
+        {{2021, 12, 31}, 86399, zeb::advance_to_unit_boundary, ZEB_UNIT_MINUTE, "1/1/2022"},
+        {{2021, 12, 31}, 86399, zeb::advance_to_unit_boundary, ZEB_UNIT_MONTH, "1/1/2022"},
+        // Beyond month 14 the mapping drifts.
+        {{2021, 6, 15}, 0, add(12), ZEB_UNIT_MONTH, "6/17/2022"},
+        {{2021, 12, 31}, 86399, zeb::advance_to_unit_boundary, ZEB_UNIT_QUARTER, "3/3/2022"},
+    };
+    for (const auto &row : rows) {
+        Date_Time value = zeb::make_date_time(row.date, row.second, 0);
+        row.step(value, row.unit);
+        EXPECT_EQ(reference::slash_text(value), row.text) << "unit " << row.unit;
+    }
 }
 
 TEST(Date_Arithmetic, instants_agree_with_the_transcription)

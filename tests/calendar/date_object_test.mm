@@ -1,6 +1,7 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
 #include "tests/reference/calendar_arithmetic.hpp"
+#include "tests/support/captured.hpp"
 
 #include <gtest/gtest.h>
 
@@ -156,6 +157,10 @@ TEST(Time_Stamp, is_an_instant_and_nothing_else)
     EXPECT_TRUE([copied isEqual:stamp]);
     EXPECT_EQ([copied hash], [stamp hash]);
     EXPECT_STREQ([[stamp description] UTF8String], "5.000000060");
+    // In one piece, also where a stream sends its unsigned longs elsewhere.
+    EXPECT_EQ(
+        support::standard_error_of([=] { [[ZEB_Error_Stream shared_error_stream] write_object:stamp]; }),
+        "5.000000060");
     [copied set_time_value:5 nanosecond:61];
     EXPECT_EQ([copied is_equal_to:stamp], 0);
     [copied set_time_value:6 nanosecond:60];

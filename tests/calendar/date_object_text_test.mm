@@ -116,6 +116,26 @@ TEST_F(Date_Text, iso_8601_text_comes_back)
     }
 }
 
+TEST_F(Date_Text, iso_8601_and_clamped_months_agree_far_out)
+{
+    for (const int32_t year :
+         {INT32_MIN, -10000000, -5000, -4801, -4800, -4713, 1465073, 5874899, 11761191, INT32_MAX}) {
+        ZEB_Date *const any = date_of({year, 1, 31}, 86399, 1);
+        ZEB_String *const text = string_of(""), *const date_text = string_of("");
+        [any append_iso8601_text:text];
+        [any append_iso8601_date_text:date_text];
+        EXPECT_EQ(text_of(text), text_of(date_text) + "T23:59:59.000000001");
+        ZEB_Date *const read = date_of({1, 1, 1}, 1, 1);
+        EXPECT_EQ([read assign_from_iso8601_text:text], [text count]) << text_of(text);
+        EXPECT_EQ([read year], year);
+        EXPECT_EQ([read day], 31);
+        [any add_months_clamped:0];
+        EXPECT_TRUE([any isEqual:read]) << text_of(text);
+        [any add_months_clamped:1];
+        EXPECT_EQ([any days_since:read], [any day]) << text_of(text);
+    }
+}
+
 TEST_F(Date_Text, a_stream_writes_it_by_its_own_date_format)
 {
     ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];

@@ -1,12 +1,12 @@
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "calendar/engine/date_text.hpp"
+#include "tests/calendar/guarded_text.hpp"
 #include "tests/calendar/random_text.hpp"
 #include "tests/reference/calendar_arithmetic.hpp"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <memory>
 #include <vector>
 
 using namespace zeb_test;
@@ -16,10 +16,9 @@ namespace
 
 std::string pretty(double seconds)
 {
-    const std::unique_ptr<char[]> buffer(new char[ZEB_DATE_TEXT_SIZE]);
-    const char *end = ZC_pretty_format_gregorian_date_from_seconds(buffer.get(), seconds);
-    EXPECT_EQ(*end, '\0');
-    return {static_cast<const char *>(buffer.get()), end};
+    return guarded_text(ZEB_DATE_TEXT_SIZE, [=](char *buffer) {
+        return ZC_pretty_format_gregorian_date_from_seconds(buffer, seconds);
+    });
 }
 
 std::string plainly(double seconds)
@@ -140,9 +139,9 @@ TEST(Slash_Text, seeded_dates_agree_with_the_transcription_and_fit)
             random() % 3 ? random() % 100000 : 0, random() % 3 ? random() % 1000000000 : 0);
         if (random() % 4 == 0)
             value.time = {random() >> random() % 64, random() % 9000000000000000};
-        const std::unique_ptr<char[]> buffer(new char[zeb::slash_text_size]);
-        const char *end = zeb::write_slash_text(buffer.get(), value);
-        ASSERT_EQ(std::string(static_cast<const char *>(buffer.get()), end), reference::slash_text(value));
+        ASSERT_EQ(guarded_text(zeb::slash_text_size,
+                               [&](char *buffer) { return zeb::write_slash_text(buffer, value); }),
+                  reference::slash_text(value));
     }
     char buffer[zeb::slash_text_size];
     constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();

@@ -47,13 +47,16 @@ TEST(Day_Mapping, fields_of_every_size_agree_with_the_transcription)
 
 TEST(Civil_Calendar, every_day_follows_the_one_before)
 {
-    // Over several cycles of 400 years on both sides of day 0, and at both ends of the day numbers.
-    const std::int32_t starts[] = {INT32_MIN, -400000, INT32_MAX - 400000};
-    for (const std::int32_t start : starts) {
-        const std::int64_t last = start == -400000 ? 3000000 : std::int64_t{start} + 400000;
+    // Over several cycles of 400 years on both sides of day 0, and at both ends of the day numbers and of the
+    // years of 32 bits.
+    const std::int64_t first_day = ZC_map_civil_date_to_julian_day({INT32_MIN, 1, 1}),
+                       last_day = ZC_map_civil_date_to_julian_day({INT32_MAX, 12, 31});
+    for (const std::int64_t start : {first_day, std::int64_t{INT32_MIN}, std::int64_t{-400000},
+                                     std::int64_t{INT32_MAX} - 200000, last_day - 400000}) {
+        const std::int64_t last = start == -400000 ? 3000000 : start + 399999;
         ZEB_Gregorian_Date expected = ZC_map_julian_day_to_civil_date(start);
         for (std::int64_t day = start; day <= last; ++day) {
-            const ZEB_Gregorian_Date date = ZC_map_julian_day_to_civil_date(static_cast<std::int32_t>(day));
+            const ZEB_Gregorian_Date date = ZC_map_julian_day_to_civil_date(day);
             ASSERT_EQ(shown(date), shown(expected)) << day;
             ASSERT_EQ(ZC_map_civil_date_to_julian_day(date), day);
             if (++expected.day > ZC_days_in_month(expected.year, expected.month)) {
@@ -110,4 +113,7 @@ TEST(Civil_Calendar, clamped_months_agree_with_the_standard_library)
     zeb::add_months_clamped(value, 1);
     EXPECT_EQ(value.julian_day, ZC_map_gregorian_date_to_julian_day({2024, 4, 30}));
     EXPECT_EQ(value.time.second, 5U);
+    value = zeb::make_date_time({-5000, 3, 31}, 0, 0); // the day number is the civil one far out too
+    zeb::add_months_clamped(value, -1);
+    EXPECT_EQ(value.julian_day, ZC_map_civil_date_to_julian_day({-5000, 2, 28}));
 }

@@ -1,5 +1,6 @@
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "calendar/engine/iso8601.hpp"
+#include "tests/calendar/guarded_text.hpp"
 #include "tests/calendar/random_text.hpp"
 
 #include <gtest/gtest.h>
@@ -7,7 +8,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <memory>
 #include <vector>
 
 using namespace zeb_test;
@@ -15,18 +15,22 @@ using namespace zeb_test;
 namespace
 {
 
-std::string text_of(std::int32_t day, ZEB_Time_Value time)
+std::string text_of(std::int64_t day, ZEB_Time_Value time)
 {
-    const std::unique_ptr<char[]> buffer(new char[ZEB_DATE_TEXT_SIZE]);
-    const char *end = ZC_format_iso8601_date_and_time(buffer.get(), day, time);
-    EXPECT_EQ(*end, '\0');
-    return {static_cast<const char *>(buffer.get()), end};
+    return guarded_text(ZEB_DATE_TEXT_SIZE,
+                        [=](char *buffer) { return ZC_format_iso8601_date_and_time(buffer, day, time); });
 }
 
 std::string text_of_seconds(double seconds)
 {
-    char buffer[ZEB_DATE_TEXT_SIZE];
-    return {buffer, ZC_format_iso8601_from_seconds(buffer, seconds)};
+    return guarded_text(ZEB_DATE_TEXT_SIZE,
+                        [=](char *buffer) { return ZC_format_iso8601_from_seconds(buffer, seconds); });
+}
+
+std::string text_of_date(ZEB_Gregorian_Date date)
+{
+    return guarded_text(ZEB_DATE_TEXT_SIZE,
+                        [=](char *buffer) { return ZC_format_iso8601_date(buffer, date); });
 }
 
 } // namespace
@@ -35,19 +39,26 @@ TEST(ISO_8601, seeded_dates_and_times_come_back_from_their_text)
 {
     std::mt19937_64 random(8601);
     for (int i = 0; i < 200000; ++i) {
-        const std::int32_t day =
-            static_cast<std::int32_t>(static_cast<std::int64_t>(random()) >> (32 + random() % 32));
+        // Of every size up to the last year of 32 bits.
+        const std::int64_t day = static_cast<std::int64_t>(random()) % 784000000000 >> random() % 40;
         const std::uint64_t scales[] = {1, 1000, 1000000, 100000000};
         const std::uint64_t scale = scales[random() % 4];
         const ZEB_Time_Value time{random() % 86400, random() % (1000000000 / scale) * scale};
         const std::string text = text_of(day, time);
-        ASSERT_LT(text.size(), std::size_t{ZEB_DATE_TEXT_SIZE});
-        zeb::Date_Time value = zeb::unset_date_time;
-        ASSERT_EQ(zeb::scan_iso8601(text.data(), static_cast<std::uint32_t>(text.size()), value), text.size())
+        ZEB_Gregorian_Date date;
+        ZEB_Time_Value read;
+        const std::uint32_t length = static_cast<std::uint32_t>(text.size());
+        ASSERT_EQ(ZC_assign_date_from_iso8601_char_c_array(text.data(), length, &date, &read), length)
             << text;
-        ASSERT_EQ(value.julian_day, day) << text;
-        ASSERT_EQ(value.time.second, time.second) << text;
-        ASSERT_EQ(value.time.nanosecond, time.nanosecond) << text;
+        ASSERT_EQ(ZC_map_civil_date_to_julian_day(date), day) << text;
+        ASSERT_EQ(read.second, time.second) << text;
+        ASSERT_EQ(read.nanosecond, time.nanosecond) << text;
+        double seconds = 0;
+        const std::string midnight = text_of(day, {0, 0});
+        ASSERT_EQ(ZC_assign_seconds_from_iso8601_char_c_array(
+                      midnight.data(), static_cast<std::uint32_t>(midnight.size()), &seconds),
+                  midnight.size());
+        ASSERT_EQ(text_of_seconds(seconds), midnight);
     }
 }
 
@@ -58,17 +69,23 @@ TEST(ISO_8601, known_texts)
     EXPECT_EQ(text_of(0, {0, 0}), "-004713-11-24T00:00:00");
     EXPECT_EQ(text_of(2451544, {86399, 1000000000}), "2000-01-01T00:00:00"); // carried twice
     EXPECT_EQ(text_of(INT32_MAX, {86399, 0}), "+5874898-06-03T23:59:59");
-    EXPECT_EQ(text_of(INT32_MAX, {86400, 0}), "");
+    EXPECT_EQ(text_of(INT32_MAX, {86400, 0}), "+5874898-06-04T00:00:00");
     EXPECT_EQ(text_of(INT32_MAX, {UINT64_MAX, UINT64_MAX}), "");
+    const std::int64_t last_day = ZC_map_civil_date_to_julian_day({INT32_MAX, 12, 31});
+    EXPECT_EQ(text_of(last_day, {86399, 0}), "+2147483647-12-31T23:59:59");
+    EXPECT_EQ(text_of(last_day, {86400, 0}), "");
+    const std::int64_t first_day = ZC_map_civil_date_to_julian_day({INT32_MIN, 1, 1});
+    EXPECT_EQ(text_of(first_day, {0, 0}), "-2147483648-01-01T00:00:00");
+    for (const std::int64_t day : {first_day - 1, INT64_MIN, INT64_MAX}) {
+        EXPECT_EQ(text_of(day, {0, 0}), "");
+        EXPECT_EQ(ZC_map_julian_day_to_civil_date(day).month, 0);
+    }
     EXPECT_EQ(text_of_seconds(-0.25), "1969-12-31T23:59:59.75");
     EXPECT_EQ(text_of_seconds(-86400.0), "1969-12-31T00:00:00");
     EXPECT_EQ(text_of_seconds(59.9999999), "1970-01-01T00:01:00");
     EXPECT_EQ(text_of_seconds(std::numeric_limits<double>::infinity()), "");
-    char buffer[ZEB_DATE_TEXT_SIZE];
-    ZC_format_iso8601_date(buffer, {44, 3, 15});
-    EXPECT_STREQ(buffer, "0044-03-15");
-    ZC_format_iso8601_date(buffer, {INT32_MIN, INT32_MIN, INT32_MIN}); // fits whatever the fields are
-    EXPECT_LT(std::strlen(buffer), std::size_t{ZEB_DATE_TEXT_SIZE});
+    EXPECT_EQ(text_of_date({44, 3, 15}), "0044-03-15");
+    text_of_date({INT32_MIN, INT32_MIN, INT32_MIN}); // fits whatever the fields are
 }
 
 TEST(ISO_8601, a_text_is_read_as_far_as_it_is_valid)
@@ -99,8 +116,14 @@ TEST(ISO_8601, a_text_is_read_as_far_as_it_is_valid)
         {"19700-01-01", 0, -7}, // five digits need a sign
         {"+970-01-01", 0, -7},
         {" 1970-01-01", 0, -7},
-        {"+5874898-06-04", 0, -7}, // past the last day number
-        {"-999999999-01-01", 0, -7},
+        {"+5874898-06-04T00:00:01", 23, 185331720384001},
+        {"+999999999-12-31T23:59:59", 25, 31556889832780799.0},
+        {"+2147483647-12-31", 17, 67767976233446400.0},
+        {"-2147483648-01-01", 17, -67768100567971200.0},
+        {"+0000001970-01-02", 17, 86400},
+        {"+2147483648-01-01", 0, -7}, // no year of 32 bits
+        {"-2147483649-01-01", 0, -7},
+        {"+00000001970-01-01", 0, -7},
         {"", 0, -7},
     };
     for (const auto &row : rows) {
@@ -128,18 +151,22 @@ TEST(ISO_8601, spoiled_texts_are_never_read_past_their_end)
             "0123456789-:T .+Z");
         const std::vector<char> exact(
             text.begin(), text.begin() + static_cast<std::ptrdiff_t>(random() % (text.size() + 1)));
-        zeb::Date_Time value = zeb::unset_date_time;
-        const std::uint32_t count =
-            zeb::scan_iso8601(exact.data(), static_cast<std::uint32_t>(exact.size()), value);
+        ZEB_Gregorian_Date date;
+        ZEB_Time_Value time;
+        const std::uint32_t count = ZC_assign_date_from_iso8601_char_c_array(
+            exact.data(), static_cast<std::uint32_t>(exact.size()), &date, &time);
         ASSERT_LE(count, exact.size());
         if (count == 0)
             continue;
-        char again[zeb::iso8601_text_size]; // what was read is a real day and time
-        const char *end = zeb::write_iso8601(again, value.julian_day, value.time);
-        zeb::Date_Time second_value = zeb::unset_date_time;
-        ASSERT_EQ(zeb::scan_iso8601(again, static_cast<std::uint32_t>(end - again), second_value),
-                  end - again)
+        // What was read is a real day and time.
+        const std::string again = text_of(ZC_map_civil_date_to_julian_day(date), time);
+        ZEB_Gregorian_Date date_again;
+        ZEB_Time_Value time_again;
+        ASSERT_EQ(ZC_assign_date_from_iso8601_char_c_array(
+                      again.data(), static_cast<std::uint32_t>(again.size()), &date_again, &time_again),
+                  again.size())
             << text;
-        ASSERT_TRUE(zeb::is_equal(value, second_value)) << text;
+        ASSERT_EQ(again.substr(0, again.find('T')), text_of_date(date)) << text;
+        ASSERT_EQ(text_of(ZC_map_civil_date_to_julian_day(date_again), time_again), again) << text;
     }
 }

@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <limits>
+#include <thread>
 
 /// Local time in a zone of the test's choice.
 class Local_Time : public testing::Test
@@ -64,7 +66,63 @@ TEST_F(Local_Time, now_lies_between_two_readings_of_the_clock)
     EXPECT_NEAR(static_cast<double>(stamp.second) + 3 * 3600, zeb::seconds_since_1970(last), 60.0);
 }
 
-TEST_F(Local_Time, strftime_text_is_completed_by_the_platform)
+TEST_F(Local_Time, now_never_steps_back_where_the_second_turns)
+{
+    set_zone("UTC0");
+    const std::uint64_t nanosecond = zeb::current_time_value().nanosecond;
+    std::this_thread::sleep_for(
+        std::chrono::nanoseconds(nanosecond < 999000000 ? 999000000 - nanosecond : 0));
+    const std::uint64_t start = zeb::current_time_value().second;
+    zeb::Date_Time last = zeb::current_local_date_time();
+    // Until well into the next second: the platform's coarser clocks turn some milliseconds late.
+    while (zeb::current_time_value().second == start || zeb::current_time_value().nanosecond < 5000000) {
+        const zeb::Date_Time now = zeb::current_local_date_time();
+        ASSERT_TRUE(zeb::is_at_or_before(last, now));
+        last = now;
+    }
+}
+
+TEST_F(Local_Time, strftime_text_is_the_date_s_own_in_summer_and_in_gap_hours)
+{
+    const char *const new_york = "EST5EDT,M3.2.0,M11.1.0", *const berlin = "CET-1CEST,M3.5.0,M10.5.0/3",
+                      *const lord_howe = "<+1030>-10:30<+11>-11,M10.1.0,M4.1.0";
+    const struct {
+        const char *zone;
+        ZEB_Gregorian_Date date;
+        std::uint64_t second;
+        const char *text;
+    } rows[] = {
+        {"UTC0", {2021, 7, 1}, 43200, "2021-07-01 12:00:00 Thu 182 UTC +0000"},
+        {new_york, {2021, 7, 1}, 43200, "2021-07-01 12:00:00 Thu 182 EDT -0400"},
+        {new_york, {2021, 1, 1}, 43200, "2021-01-01 12:00:00 Fri 001 EST -0500"},
+        {berlin, {2024, 7, 31}, 0, "2024-07-31 00:00:00 Wed 213 CEST +0200"}, // midnight keeps its day
+        {berlin, {1969, 12, 31}, 86399, "1969-12-31 23:59:59 Wed 365 CET +0100"},
+        {lord_howe, {2021, 1, 1}, 0, "2021-01-01 00:00:00 Fri 001 +11 +1100"},
+        {lord_howe, {2021, 7, 1}, 0, "2021-07-01 00:00:00 Thu 182 +1030 +1030"},
+    };
+    constexpr char format[] = "%Y-%m-%d %H:%M:%S %a %j %Z %z";
+    for (const auto &row : rows) {
+        set_zone(row.zone);
+        EXPECT_EQ(formatted(format, zeb::make_date_time(row.date, row.second, 0)), row.text) << row.zone;
+    }
+    const struct {
+        const char *zone;
+        ZEB_Gregorian_Date date;
+        std::uint64_t second;
+        const char *text;
+    } gaps[] = {
+        // hours that the local clock leaves out
+        {new_york, {2021, 3, 14}, 9000, "2021-03-14 02:30:00"},
+        {berlin, {2021, 3, 28}, 9000, "2021-03-28 02:30:00"},
+        {lord_howe, {2021, 10, 3}, 8100, "2021-10-03 02:15:00"},
+    };
+    for (const auto &row : gaps) {
+        set_zone(row.zone);
+        EXPECT_EQ(formatted("%Y-%m-%d %H:%M:%S", zeb::make_date_time(row.date, row.second, 0)), row.text);
+    }
+}
+
+TEST_F(Local_Time, strftime_text_is_completed_and_bounded)
 {
     set_zone("UTC0");
     const zeb::Date_Time date = zeb::make_date_time({2021, 3, 4}, 37230, 0);
@@ -72,6 +130,7 @@ TEST_F(Local_Time, strftime_text_is_completed_by_the_platform)
     EXPECT_EQ(formatted("%d.%m.%Y", zeb::make_date_time({2021, 2, 31}, 0, 0)),
               "03.03.2021"); // brought into range
     EXPECT_EQ(formatted("%d %H", zeb::make_date_time({2021, 2, 1}, 90000, 0)), "02 01");
+    EXPECT_EQ(formatted("%Y %a %j", zeb::make_date_time({-4713, 1, 1}, 0, 0)), "-4713 Wed 001");
     EXPECT_EQ(formatted("", date), "");
     EXPECT_EQ(formatted(std::string(2047, 'x').c_str(), date).size(), 2047U);
     EXPECT_EQ(formatted(std::string(2048, 'x').c_str(), date), ""); // does not fit

@@ -1,11 +1,11 @@
 #include "calendar/ZEB_Number_Functions.h"
+#include "tests/calendar/guarded_text.hpp"
 #include "tests/reference/number_text.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <random>
 
 namespace
@@ -14,15 +14,11 @@ namespace
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
-/// What a writer puts into a buffer of exactly `size` bytes, a sanitizer watching the end.
 template <typename Writer, typename... Arguments>
-std::string written(std::size_t size, Writer writer, Arguments... arguments)
+std::string written(Writer writer, Arguments... arguments)
 {
-    const std::unique_ptr<char[]> buffer(new char[size]);
-    const char *end = writer(buffer.get(), arguments...);
-    EXPECT_EQ(*end, '\0');
-    EXPECT_EQ(static_cast<std::size_t>(end - buffer.get()), std::strlen(buffer.get()));
-    return buffer.get();
+    return zeb_test::guarded_text(ZEB_NUMBER_TEXT_SIZE,
+                                  [&](char *buffer) { return writer(buffer, arguments...); });
 }
 
 } // namespace
@@ -54,7 +50,7 @@ TEST(Pretty_Double, texts_of_its_ranges_and_their_edges)
         {-std::numeric_limits<double>::max(), "-1.79769313486232e+308"},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(written(std::strlen(row.text) + 1, ZC_pretty_format_double, row.value), row.text);
+        EXPECT_EQ(written(ZC_pretty_format_double, row.value), row.text);
 }
 
 TEST(Pretty_Float, texts_of_its_ranges_and_their_edges)
@@ -72,7 +68,7 @@ TEST(Pretty_Float, texts_of_its_ranges_and_their_edges)
         {std::numeric_limits<float>::infinity(), "Inf"},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(written(std::strlen(row.text) + 1, ZC_pretty_format_float, row.value), row.text);
+        EXPECT_EQ(written(ZC_pretty_format_float, row.value), row.text);
 }
 
 TEST(Fixed_Text, every_count_of_decimals_agrees_with_the_transcription)
@@ -85,23 +81,22 @@ TEST(Fixed_Text, every_count_of_decimals_agrees_with_the_transcription)
         if (random() % 2) // few decimals, and ties
             value = std::floor(value * 1e3) / 1e3 + 0.5 * std::pow(0.1, static_cast<double>(random() % 14));
         const float rounded = static_cast<float>(value);
-        ASSERT_EQ(written(32, ZC_format_fixed_double, decimals, value), reference::fixed(decimals, value))
+        ASSERT_EQ(written(ZC_format_fixed_double, decimals, value), reference::fixed(decimals, value))
             << value;
-        ASSERT_EQ(written(32, ZC_format_fraction_double, decimals, value),
-                  reference::fraction(decimals, value));
-        ASSERT_EQ(written(32, ZC_format_fixed_float, decimals, rounded),
+        ASSERT_EQ(written(ZC_format_fraction_double, decimals, value), reference::fraction(decimals, value));
+        ASSERT_EQ(written(ZC_format_fixed_float, decimals, rounded),
                   reference::fixed(decimals, static_cast<double>(rounded)));
     }
 }
 
 TEST(Fixed_Text, what_has_no_64_bit_digits_takes_another_form)
 {
-    EXPECT_EQ(written(32, ZC_format_fixed_double, 0U, 9223372036854774784.0), "9223372036854774784");
-    EXPECT_EQ(written(32, ZC_format_fixed_double, 0U, -9223372036854775808.0), "-9.22337203685478e+18");
-    EXPECT_EQ(written(32, ZC_format_fixed_double, 13U, 922337.25), "9.2233725e+05");
-    EXPECT_EQ(written(32, ZC_format_fixed_float, 4U, -1e30F), "-1e+30");
-    EXPECT_EQ(written(32, ZC_format_fixed_double, 4294967295U, 0.5), "0.5"); // counts as 13
-    EXPECT_EQ(written(32, ZC_format_fixed_double, 2U, -infinity), "Inf");
-    EXPECT_EQ(written(32, ZC_format_fraction_double, 2U, not_a_number), "NaN");
-    EXPECT_EQ(written(32, ZC_format_fraction_double, 0U, -1e300), "1e+300"); // no sign
+    EXPECT_EQ(written(ZC_format_fixed_double, 0U, 9223372036854774784.0), "9223372036854774784");
+    EXPECT_EQ(written(ZC_format_fixed_double, 0U, -9223372036854775808.0), "-9.22337203685478e+18");
+    EXPECT_EQ(written(ZC_format_fixed_double, 13U, 922337.25), "9.2233725e+05");
+    EXPECT_EQ(written(ZC_format_fixed_float, 4U, -1e30F), "-1e+30");
+    EXPECT_EQ(written(ZC_format_fixed_double, 4294967295U, 0.5), "0.5"); // counts as 13
+    EXPECT_EQ(written(ZC_format_fixed_double, 2U, -infinity), "Inf");
+    EXPECT_EQ(written(ZC_format_fraction_double, 2U, not_a_number), "NaN");
+    EXPECT_EQ(written(ZC_format_fraction_double, 0U, -1e300), "1e+300"); // no sign
 }

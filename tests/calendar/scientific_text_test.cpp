@@ -1,50 +1,52 @@
 #include "calendar/ZEB_Number_Functions.h"
 #include "calendar/engine/number_format.hpp"
+#include "tests/calendar/guarded_text.hpp"
 #include "tests/reference/scientific_text.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <random>
+
+using zeb_test::guarded_text;
 
 namespace
 {
 
+constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double eulers_number = 2.718281828459045;
 
 reference::Scientific scientific(std::uint32_t precision, double x, double base, double zero_reference)
 {
-    const std::unique_ptr<char[]> buffer(new char[ZEB_SCIENTIFIC_TEXT_SIZE]);
     reference::Scientific result;
     ZEB_Index_Range range{77, 77};
-    const char *end =
-        ZC_format_scientific_double(buffer.get(), precision, &result.kind, &range, x, base, zero_reference);
-    result.text = {static_cast<const char *>(buffer.get()), end};
+    result.text = guarded_text(ZEB_SCIENTIFIC_TEXT_SIZE, [&](char *buffer) {
+        return ZC_format_scientific_double(buffer, precision, &result.kind, &range, x, base, zero_reference);
+    });
     result.start = range.start;
     result.end = range.end;
     return result;
 }
 
-reference::Scientific in_result(const char *text, const char *end, const zeb::Number_Format_Result &result)
+template <typename Format>
+reference::Scientific formatted(std::size_t size, Format format)
 {
-    return {std::string(text, end), result.result_kind, result.error_code, result.range.start,
-            result.range.end};
+    zeb::Number_Format_Result result{9, 9, {9, 9}};
+    const std::string text = guarded_text(size, [&](char *buffer) { return format(buffer, result); });
+    return {text, result.result_kind, result.error_code, result.range.start, result.range.end};
 }
 
 reference::Scientific value_text(const zeb::Scientific_Rules &rules, double x)
 {
-    char buffer[zeb::scientific_text_size];
-    zeb::Number_Format_Result result{9, 9, {9, 9}};
-    return in_result(buffer, zeb::format_value(buffer, rules, x, result), result);
+    return formatted(zeb::scientific_text_size,
+                     [&](char *buffer, auto &result) { return zeb::format_value(buffer, rules, x, result); });
 }
 
 reference::Scientific fixed_text(std::uint32_t decimals, double x)
 {
-    char buffer[64];
-    zeb::Number_Format_Result result{9, 9, {9, 9}};
-    return in_result(buffer, zeb::format_fixed(buffer, decimals, x, result), result);
+    return formatted(
+        64, [&](char *buffer, auto &result) { return zeb::format_fixed(buffer, decimals, x, result); });
 }
 
 void expect_same(const reference::Scientific &made, const reference::Scientific &expected)
@@ -70,7 +72,12 @@ TEST(Scientific_Text, known_texts_and_their_raised_ranges)
     expect_same(scientific(3, 5.0, 1.0, 0.0), {"Err"});            // no power of 1
     expect_same(scientific(3, 0.0, 10.0, -1.0), {"Err"});          // no logarithm of 0
     expect_same(scientific(4294967295U, 5.0, 10.0, 1.0), {"Err"}); // no room for the mantissa
-    expect_same(scientific(3, -std::numeric_limits<double>::infinity(), 10.0, 1.0), {"Inf"});
+    expect_same(scientific(3, -infinity, 10.0, 1.0), {"Inf"});
+    for (const double no_base : {0.0, -0.0, infinity, -infinity, std::nan("")}) {
+        expect_same(scientific(3, 5.0, no_base, 1.0), {"Err"});
+        expect_same(scientific(3, 0.0, no_base, 1.0), {"Err"}); // also where no logarithm is asked for
+    }
+    expect_same(scientific(3, -1.5, 1e31, 1.0), {"Err"}); // the base does not fit behind the mantissa
     char buffer[ZEB_SCIENTIFIC_TEXT_SIZE];
     ZC_format_scientific_double(buffer, 2, nullptr, nullptr, 1234567.0, 10.0, 1.0);
     EXPECT_STREQ(buffer, "1.23 106");
@@ -80,10 +87,11 @@ TEST(Scientific_Text, seeded_values_and_bases_agree_with_the_transcription)
 {
     std::mt19937_64 random(10);
     std::uniform_real_distribution<double> power(-320.0, 308.0), small_power(-9.0, 9.0);
-    const double bases[] = {10.0, 2.0, eulers_number, 1.5, 16.0, 0.5, 1e28, 60.0, -2.0, 1.0000001};
+    const double bases[] = {10.0, 2.0,  eulers_number, 1.5, 16.0, 0.5,     1e28,
+                            60.0, -2.0, 1.0000001,     0.0, 1e31, infinity};
     for (int i = 0; i < 100000; ++i) {
         const std::uint32_t precision = static_cast<std::uint32_t>(random() % 34);
-        const double base = bases[random() % 10];
+        const double base = bases[random() % std::size(bases)];
         const double reference_value = random() % 4 ? 1.0 : std::pow(10.0, small_power(random));
         double x =
             std::pow(10.0, random() % 2 ? small_power(random) : power(random)) * (random() % 2 ? 1 : -1);
@@ -103,7 +111,7 @@ TEST(Number_Format, special_values_and_failures)
 {
     const zeb::Scientific_Rules rules{6, 10.0, 1.0};
     expect_same(value_text(rules, std::nan("")), {"NaN", 0, 201});
-    expect_same(value_text(rules, -std::numeric_limits<double>::infinity()), {"Inf", 0, 201});
+    expect_same(value_text(rules, -infinity), {"Inf", 0, 201});
     expect_same(value_text(rules, -1e-12), {"0", 1});
     expect_same(value_text(rules, -1.1e-12), {"-1.1 10-12", 3, 0, 7, 9});
     expect_same(value_text(rules, -0.25), {"-0.25", 2});

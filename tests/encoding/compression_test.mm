@@ -59,7 +59,17 @@ TEST(Compression, nothing_gives_nothing)
     EXPECT_EQ(ZC_compress_string_to_string(text(""), out), 0);
     EXPECT_EQ(ZC_decompress_string_to_string(text("abc"), out, 3), 0);
     EXPECT_EQ(ZC_decompress_bytes_to_string(bytes("abc"), out, 4), 0);
+    EXPECT_EQ(ZC_compress_string_to_bytes(nil, nil), 0);
+    EXPECT_EQ(ZC_decompress_bytes_to_bytes(nil, bytes("")), 0);
+    EXPECT_EQ(ZC_decompress_string_to_string(nil, out, 7), 0);
     EXPECT_TRUE([out isEqual:text("kept")]);
+}
+
+TEST(Compression, a_nil_destination_is_refused)
+{
+    EXPECT_EQ(ZC_compress_string_to_string(text("abc"), nil), -1);
+    EXPECT_EQ(ZC_compress_bytes_to_bytes(bytes("abc"), nil), -1);
+    EXPECT_EQ(ZC_decompress_bytes_to_string(bytes("abc"), nil, 0), -1);
 }
 
 TEST(Compression, a_link_refuses_once_and_before_anything_is_done)

@@ -2,9 +2,27 @@
 
 #include <gtest/gtest.h>
 
+#include <dlfcn.h>
 #include <random>
 #include <string>
 #include <zlib.h>
+
+namespace
+{
+
+std::uint64_t bytes_inflated = 0;
+
+} // namespace
+
+// Stands before zlib's own, and counts what that consumes.
+extern "C" int inflate(z_streamp stream, int flush)
+{
+    static const auto original = reinterpret_cast<int (*)(z_streamp, int)>(dlsym(RTLD_NEXT, "inflate"));
+    const uInt given = stream->avail_in;
+    const int status = original(stream, flush);
+    bytes_inflated += given - stream->avail_in;
+    return status;
+}
 
 namespace
 {
@@ -129,6 +147,21 @@ TEST(Zlib, ends_on_what_would_never_end)
                            "AAA";
     Sink sink;
     EXPECT_EQ(decompress_into(sink, std::string(endless, 10)), Z_DATA_ERROR);
+}
+
+TEST(Zlib, ends_on_input_that_gives_next_to_no_output)
+{
+    // Empty blocks, and the head of one that takes in the stream's first two bytes when they come again.
+    std::string empty_blocks("\x78\x9C", 2);
+    for (int i = 0; i < 4000; ++i)
+        empty_blocks.append("\x00\x00\x00\xFF\xFF", 5);
+    empty_blocks.append("\x00\x02\x00\xFD\xFF", 5);
+    Sink sink;
+    bytes_inflated = 0;
+    EXPECT_EQ(decompress_into(sink, empty_blocks), Z_DATA_ERROR);
+    constexpr std::uint64_t bound = std::uint64_t{256} << 20;
+    EXPECT_GE(bytes_inflated, bound);
+    EXPECT_LE(bytes_inflated, bound + 2 * empty_blocks.size());
 }
 
 TEST(Zlib, says_what_is_wrong)

@@ -46,6 +46,8 @@ inline Scientific scientific(unsigned p, double x, double b, double z)
         return {"Inf"};
     if (std::isnan(x))
         return {"NaN"};
+    if (b == 0 || !std::isfinite(b))
+        return {"Err"};
     const bool euler = std::fabs(b - 2.718281828459045) < 1e-12;
     double mantissa = 0.0, exponent = 1.0;
     if (!(std::fabs(x) <= 1e-12 * z)) {

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace zeb_test
+{
+
+/// The text that a writer puts into a place of at most `size` bytes; nothing behind its null may change.
+template <typename Write>
+std::string guarded_text(std::size_t size, Write write)
+{
+    constexpr char pattern = '\x5A'; // in no text of a writer
+    std::string place(size + 64, pattern);
+    const char *const start = place.data();
+    const char *const end = write(place.data());
+    EXPECT_EQ(*end, '\0');
+    const std::string text = start;
+    EXPECT_EQ(end, start + text.size());
+    EXPECT_LT(text.size(), size);
+    EXPECT_EQ(place.find_first_not_of(pattern, text.size() + 1), std::string::npos)
+        << "written behind \"" << text << '"';
+    return text;
+}
+
+} // namespace zeb_test

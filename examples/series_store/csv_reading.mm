@@ -81,8 +81,8 @@ void tell_unreadable(const char *path, uint32_t number, Line line)
 Csv_Outcome read_csv(const char *path, Series *series)
 {
     const char *fault;
-    ZEB_Byte_Array *const contents = contents_of(file_at(path), &fault);
-    if (contents == nil) {
+    ZEB_Byte_Array *const contents = [ZEB_Byte_Array array_with_capacity:0];
+    if (read_file(path, contents, &fault) != FILE_READ) {
         complain(path, fault);
         return CSV_FAILED;
     }

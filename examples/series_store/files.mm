@@ -1,33 +1,51 @@
 #import "files.h"
 
+#include <errno.h>
 #include <stdio.h>
 #include <string.h>
+
+namespace
+{
+
+uint32_t length_of(const char *text) { return static_cast<uint32_t>(strlen(text)); }
+
+} // namespace
 
 ZEB_File *file_at(const char *path)
 {
     ZEB_File *const file = [[[ZEB_File alloc] init] autorelease];
-    ZEB_String *const text = [[ZEB_String alloc] init];
-    [text set_chars:path count:static_cast<uint32_t>(strlen(path))];
-    [file set_path:text];
-    [text release];
     [file set_report_errors:0];
-    return file;
+    [file set_path:[ZEB_String link_to_chars:const_cast<char *>(path) count:length_of(path)]];
+    return [file last_error] == 0 ? file : nil;
 }
 
-ZEB_Byte_Array *contents_of(ZEB_File *file, const char **fault)
+File_Outcome read_file(const char *path, ZEB_Byte_Array *contents, const char **fault)
 {
-    ZEB_Byte_Array *const contents = [ZEB_Byte_Array array_with_capacity:0];
-    *fault = NULL;
+    ZEB_File *const file = file_at(path);
     [file refresh_status];
-    if ([file last_error] == 0 && ![file exists])
+    if (file != nil && [file last_error] == 0 && ![file exists]) {
         *fault = "it is not there";
-    else if ([file last_error] == 0 && [file kind] != ZEB_FILE_KIND_REGULAR)
+        return FILE_MISSING;
+    }
+    if ([file exists] && [file kind] != ZEB_FILE_KIND_REGULAR) {
         *fault = "it is no regular file";
-    else if ([file last_error] == 0 && [file size] != 0)
+        return FILE_UNREADABLE;
+    }
+    // The framework takes reading an empty file for an error.
+    if ([file size] != 0)
         [file read_contents:contents];
-    if ([file last_error] != 0)
-        *fault = strerror([file last_error]);
-    return *fault == NULL ? contents : nil;
+    const int error = file != nil ? [file last_error] : ENOMEM;
+    *fault = error != 0 ? strerror(error) : NULL;
+    return error == 0 ? FILE_READ : FILE_UNREADABLE;
+}
+
+const char *path_with_suffix(const char *path, const char *suffix)
+{
+    const uint32_t length = length_of(path), suffix_length = length_of(suffix);
+    ZEB_String *const text = [ZEB_String array_with_capacity:length + suffix_length + 1];
+    [text append_chars:path count:length];
+    [text append_chars:suffix count:suffix_length + 1];
+    return [text count] == length + suffix_length + 1 ? [text char_data] : NULL;
 }
 
 bool complain(const char *path, const char *fault)

@@ -12,6 +12,7 @@
 #import "store.h"
 #import "summary.h"
 
+#include <errno.h>
 #include <stdio.h>
 #include <string.h>
 
@@ -30,7 +31,7 @@ bool load_and_compare(const char *path, Series *series, uint32_t raw_size)
     ZEB_File *const file = file_at(path);
     [file refresh_status];
     if (![file exists])
-        return complain(path, strerror([file last_error]));
+        return complain(path, strerror(file != nil ? [file last_error] : ENOMEM));
     print_series(loaded);
     printf("%-12s%u bytes\n", "raw size", raw_size);
     printf("%-12s%llu bytes in %s\n", "stored size", (unsigned long long)[file size], path);

@@ -6,26 +6,23 @@
 #include <errno.h>
 #include <stdio.h>
 #include <string.h>
-#include <string>
 
 namespace
 {
 
 struct Paths {
-    explicit Paths(const char *path) : store(path), aside(store + "~"), part(store + ".part") {}
-
-    std::string store;
-    std::string aside;
-    std::string part;
+    const char *store;
+    const char *aside;
+    const char *part;
 };
 
 /// What stands at a path; tells what is wrong with it where it is not to be written over.
-Store_State state_of(const std::string &path)
+Store_State state_of(const char *path)
 {
     const char *fault;
-    const Store_State state = load_series(path.c_str(), [[[Series alloc] init] autorelease], &fault);
+    const Store_State state = load_series(path, [[[Series alloc] init] autorelease], &fault);
     if (state == STORE_UNKNOWN)
-        complain(path.c_str(), fault);
+        complain(path, fault);
     return state;
 }
 
@@ -38,9 +35,9 @@ bool may_be_replaced(const Paths &paths, Store_State present)
     if (aside == STORE_UNKNOWN)
         return false;
     if (present == STORE_CUT_SHORT && aside != STORE_WHOLE)
-        return complain(paths.store.c_str(), "it is cut short, and no other is set aside: remove it first");
+        return complain(paths.store, "it is cut short, and no other is set aside: remove it first");
     if (present != STORE_WHOLE && aside == STORE_WHOLE)
-        printf("%-12s%s, because %s is %s\n", "kept", paths.aside.c_str(), paths.store.c_str(),
+        printf("%-12s%s, because %s is %s\n", "kept", paths.aside, paths.store,
                present == STORE_MISSING ? "not there" : "cut short");
     return true;
 }
@@ -54,44 +51,44 @@ bool write_part(const char *part, Series *series, ZEB_String *contents)
         load_series(part, loaded, &fault);
     if (fault == NULL && ![series is_identical_to:loaded])
         fault = "it does not come back as it was";
-    if (fault == NULL)
-        return true;
-    complain(part, fault);
-    // Nothing is lost where it stays: the next run writes over it.
-    remove(part);
-    return false;
+    return fault == NULL || complain(part, fault);
 }
 
-bool set_aside(const Paths &paths)
+bool set_aside(const char *store)
 {
-    ZEB_File *const file = file_at(paths.store.c_str());
+    ZEB_File *const file = file_at(store);
     if ([file backstore] != 1)
-        return complain(paths.store.c_str(), strerror([file last_error]));
+        return complain(store, strerror(file != nil ? [file last_error] : ENOMEM));
     printf("%-12s%s\n", "backstored", [[file path] char_data]);
     return true;
 }
 
-void bring_back(const Paths &paths)
+/// Moves the new store into the place of the one that was set aside, or brings that one back.
+bool move_in(const Paths &paths, bool is_set_aside)
 {
-    ZEB_File *const file = file_at(paths.store.c_str());
-    if ([file restore] != 1)
-        complain(paths.aside.c_str(), "it is now the only store");
+    if (rename(paths.part, paths.store) == 0)
+        return true;
+    complain(paths.store, strerror(errno));
+    if (is_set_aside && [file_at(paths.store) restore] != 1)
+        complain(paths.aside, "it is now the only store");
+    return false;
 }
 
 } // namespace
 
 bool replace_store(const char *path, Series *series, ZEB_String *contents)
 {
-    const Paths paths(path);
-    const Store_State present = state_of(paths.store);
-    if (!may_be_replaced(paths, present) || !write_part(paths.part.c_str(), series, contents))
+    const Paths paths{path, path_with_suffix(path, "~"), path_with_suffix(path, ".part")};
+    if (paths.aside == NULL || paths.part == NULL)
+        return complain(path, strerror(ENOMEM));
+    const Store_State present = state_of(path);
+    if (!may_be_replaced(paths, present))
         return false;
-    if (present == STORE_WHOLE && !set_aside(paths))
-        return false;
-    if (rename(paths.part.c_str(), path) == 0)
-        return true;
-    complain(path, strerror(errno));
-    if (present == STORE_WHOLE)
-        bring_back(paths);
-    return false;
+    const bool has_store = present == STORE_WHOLE;
+    const bool is_replaced = write_part(paths.part, series, contents) && (!has_store || set_aside(path)) &&
+                             move_in(paths, has_store);
+    // Where that fails too, the next run writes over it.
+    if (!is_replaced)
+        remove(paths.part);
+    return is_replaced;
 }

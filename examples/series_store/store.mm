@@ -2,7 +2,10 @@
 
 #import "files.h"
 
+#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
+
 #include <algorithm>
+#include <errno.h>
 #include <string.h>
 
 namespace
@@ -35,6 +38,13 @@ bool agrees_with_header(ZEB_Byte_Array *contents)
     ZEB_write_binary_header(header);
     const uint32_t size = std::min([contents count], header_text_length);
     return size == 0 || memcmp([contents byte_data], [header char_data], size) == 0;
+}
+
+/// As an empty file does, and one that the power failed before.
+bool holds_only_zeros(ZEB_Byte_Array *stored)
+{
+    const auto bytes = zeb::elements(stored);
+    return std::all_of(bytes.begin(), bytes.end(), [](uint8_t byte) { return byte == 0; });
 }
 
 /// Whether a stream that does not end is the beginning of a compressed series. `contents` is what came of it.
@@ -87,7 +97,8 @@ const char *load_stored(ZEB_Byte_Array *stored, Series *series, bool &is_cut_sho
     const int32_t status = ZC_decompress_bytes_to_bytes(stored, contents);
     if (status == memory_is_short)
         return "there is no memory for it";
-    is_cut_short = [stored is_empty] || (status == is_no_whole_stream && is_beginning(stored, contents));
+    is_cut_short =
+        holds_only_zeros(stored) || (status == is_no_whole_stream && is_beginning(stored, contents));
     if (is_cut_short)
         return "it is cut short";
     return status != 0 ? "it is no store" : decode_series(contents, series);
@@ -107,10 +118,10 @@ ZEB_String *encoded_series(Series *series)
 Store_State load_series(const char *path, Series *series, const char **fault)
 {
     const Quiet_Diagnostics quiet;
-    ZEB_File *const file = file_at(path);
-    ZEB_Byte_Array *const stored = contents_of(file, fault);
-    if (stored == nil)
-        return [file last_error] == 0 && ![file exists] ? STORE_MISSING : STORE_UNKNOWN;
+    ZEB_Byte_Array *const stored = [ZEB_Byte_Array array_with_capacity:0];
+    const File_Outcome outcome = read_file(path, stored, fault);
+    if (outcome != FILE_READ)
+        return outcome == FILE_MISSING ? STORE_MISSING : STORE_UNKNOWN;
     bool is_cut_short = false;
     *fault = load_stored(stored, series, is_cut_short);
     if (*fault == NULL)
@@ -123,6 +134,7 @@ const char *write_store(const char *path, ZEB_String *contents)
     ZEB_File *const file = file_at(path);
     [file set_contents_compressed:1];
     const uint32_t answer = [file write_contents:[contents char_data] length:[contents count]];
+    const int error = file != nil ? [file last_error] : ENOMEM;
     // Where bytes were lost without an error of the platform's, the answer is 1 all the same.
-    return answer == 1 && [file last_error] == 0 ? NULL : strerror([file last_error]);
+    return answer == 1 && error == 0 ? NULL : strerror(error);
 }

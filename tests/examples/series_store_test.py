@@ -83,7 +83,8 @@ with tempfile.TemporaryDirectory() as name:
     sunspots = data / "sunspots-monthly.csv"
     good = (folder / "sunspots-monthly.zeb").read_bytes()
     raw = zlib.decompress(good)
-    cut_short = {"cut short": good[:1000], "cut shorter": good[:20], "one byte": good[:1], "empty": b""}
+    cut_short = {"cut short": good[:1000], "cut shorter": good[:20], "one byte": good[:1], "empty": b"",
+                 "zeros": bytes(len(good))}
     unknown = {
         "foreign": b"some other file\n",
         "compressed foreign": zlib.compress(b"some other text, long enough to hold a header" * 9),

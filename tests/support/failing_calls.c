@@ -183,18 +183,18 @@ static int is_the_runtime(const void *caller)
            (strstr(place.dli_fname, "libobjc") != NULL || strstr(place.dli_fname, "libgnustep") != NULL);
 }
 
-static int is_refused_memory(size_t size, const void *caller)
+static int is_refused_memory(const void *caller)
 {
-    if (size < 1024 || atomic_load(&calls[ANY_FILE]) == 0 || is_the_runtime(caller) || !is_due(MEMORY))
+    if (atomic_load(&calls[ANY_FILE]) == 0 || is_the_runtime(caller) || !is_due(MEMORY))
         return 0;
     errno = ENOMEM;
     return 1;
 }
 
-#define UNLESS_REFUSED(size, call) return is_refused_memory(size, __builtin_return_address(0)) ? NULL : (call)
+#define UNLESS_REFUSED(call) return is_refused_memory(__builtin_return_address(0)) ? NULL : (call)
 
-void *malloc(size_t size) { UNLESS_REFUSED(size, __libc_malloc(size)); }
+void *malloc(size_t size) { UNLESS_REFUSED(__libc_malloc(size)); }
 
-void *calloc(size_t count, size_t size) { UNLESS_REFUSED(count * size, __libc_calloc(count, size)); }
+void *calloc(size_t count, size_t size) { UNLESS_REFUSED(__libc_calloc(count, size)); }
 
-void *realloc(void *block, size_t size) { UNLESS_REFUSED(size, __libc_realloc(block, size)); }
+void *realloc(void *block, size_t size) { UNLESS_REFUSED(__libc_realloc(block, size)); }

@@ -1,7 +1,6 @@
 /* Calls to the platform that fail as planned: linked to a test, or preloaded into a program, which is then
- * told by its environment. Counted are calls on files beneath one folder, and allocations of 1 KiB or more
- * after the first of these calls that the Objective-C runtime does not make for itself. Not on macOS;
- * allocations not beneath a sanitizer. */
+ * told by its environment. Counted are calls on files beneath one folder, and allocations after the first of
+ * these calls, save those of the Objective-C runtime. Not on macOS; allocations not beneath a sanitizer. */
 #ifndef ZEB_FAILING_CALLS_H
 #define ZEB_FAILING_CALLS_H
 

@@ -3,6 +3,7 @@
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_Compression.h>
 
+#import "arrays/ZEB_Char_Storage_Private.h"
 #import "filesystem/ZEB_File_Private.h"
 
 #include "encoding/engine/zlib_loops.hpp"
@@ -16,6 +17,10 @@ namespace messages = zeb::messages;
 
 namespace
 {
+
+/// What a path has behind it when its file is set aside, and its size with the null.
+constexpr char suffix[] = "~";
+constexpr uint32_t suffix_size = sizeof suffix;
 
 /// Tells the failure, and is false.
 bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
@@ -159,18 +164,26 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
         [=] { return [file put_contents:bytes length:length]; });
 }
 
+/// Whether the path can be extended without another block, after one was made where needed.
+- (BOOL)has_room_for_suffix
+{
+    [path ensure_room_for:suffix_size];
+    return zeb::storage_of_array(path).capacity > [path count] + suffix_size;
+}
+
 /// The visible path gains "~", and a null behind it is counted from now on.
 - (void)extend_path_by_suffix
 {
     [path set_count:zeb::visible_path(path).length];
-    [path append_chars:"~" count:2];
+    [path append_chars:suffix count:suffix_size];
 }
 
 - (uint32_t)set_aside
 {
     const zeb::Platform_Path from(path);
-    const zeb::Platform_Path to(path, "~");
-    const int error = renaming_error(from, to);
+    const zeb::Platform_Path to(path, suffix);
+    // A path that could not follow the file would lead nowhere.
+    const int error = [self has_room_for_suffix] ? renaming_error(from, to) : ENOMEM;
     if (error != 0)
         return failed(self, messages::error_backstoring, error);
     zeb::tell_success(self, messages::backstored);
@@ -193,7 +206,7 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
 
 - (uint32_t)restore
 {
-    const zeb::Platform_Path from(path, "~");
+    const zeb::Platform_Path from(path, suffix);
     const zeb::Platform_Path to(path);
     const int error = renaming_error(from, to);
     if (error != 0)

@@ -153,25 +153,43 @@ TEST_F(Failing_Calls, of_backstore_and_restore)
 
 TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
 {
-    put_file(path, old_text);
-    ZEB_String *const long_path = text(folder / std::string(2000, 'd'));
-    ZEB_File *const file = entry(path);
-    ZEB_File *const far = entry(text_of(long_path));
-    const auto calls_without_memory = [&](auto work) {
+    const auto is_refused_memory = [&](unsigned number, auto work) {
+        unsigned calls = 0;
         standard_error_of([&] {
-            zeb_plan_failure(folder.path.c_str(), "memory", 1, ENOMEM);
+            zeb_plan_failure(folder.path.c_str(), "memory", number, ENOMEM);
             struct stat found;
             stat(path.c_str(), &found);
             work();
+            calls = zeb_calls_made("memory");
+            zeb_plan_failure("", "file", 0, 0);
         });
-        const unsigned calls = zeb_calls_made("memory");
-        zeb_plan_failure("", "file", 0, 0);
-        return calls;
+        return calls >= number;
     };
-    if (calls_without_memory([&] { [far refresh_status]; }) == 0)
+    std::string deep = folder.path;
+    while (deep.size() < 1800) {
+        deep += "/" + std::string(120, 'd');
+        mkdir(deep.c_str(), 0700);
+    }
+    // The first length behind which "~" needs another block.
+    deep += "/" + std::string(2045 - deep.size(), 'f');
+    put_file(deep, "far");
+    ZEB_File *const far = entry(deep);
+    if (!is_refused_memory(1, [&] { [far refresh_status]; }))
         GTEST_SKIP() << "beneath a sanitizer allocations are its own";
     EXPECT_EQ([far last_error], ENOMEM);
-    calls_without_memory([&] { [file set_path:long_path]; });
+    uint32_t answer = 0;
+    for (unsigned number = 1; is_refused_memory(number, [&] { answer = [far backstore]; }); ++number) {
+        EXPECT_EQ(answer, 0u);
+        EXPECT_EQ([far last_error], ENOMEM);
+        EXPECT_EQ(text_of([far path]), deep);
+        EXPECT_EQ(file_text(deep), "far");
+    }
+    EXPECT_EQ(answer, 1u);
+
+    put_file(path, old_text);
+    ZEB_File *const file = entry(path);
+    ZEB_String *const long_path = text(deep);
+    is_refused_memory(1, [&] { [file set_path:long_path]; });
     EXPECT_EQ([file last_error], ENOMEM);
     standard_error_of([&] { EXPECT_EQ([file write_contents:"x" length:1], 0u); });
     EXPECT_EQ(file_text(path), old_text);

@@ -34,8 +34,11 @@ bool begins_with_date(Line line)
     return ZC_skip_valid_gregorian_date_char_c_array(line.text, line.length) != 0;
 }
 
-/// Reads a date at the line's start and answers its length, or 0. The scanner lets days run on (30 February
-/// into March), and its day numbers before -4800 are not those of the calendar: both are made good here.
+bool is_below(int bound, int number) { return number >= 0 && number < bound; }
+
+/// Reads a date, and a time behind it, at the line's start and answers their length, or 0. The scanner lets
+/// numbers run on (30 February into March), and its day numbers before -4800 are not those of the calendar:
+/// both are made good here.
 uint32_t read_instant(Line line, double &instant)
 {
     const uint32_t length =
@@ -43,9 +46,12 @@ uint32_t read_instant(Line line, double &instant)
     char text[ZEB_DATE_TEXT_SIZE];
     snprintf(text, sizeof text, "%.*s", static_cast<int>(length), line.text);
     ZEB_Gregorian_Date date;
-    if (sscanf(text, "%d / %d / %d", &date.month, &date.day, &date.year) != 3)
+    int hour = 0, minute = 0, second = 0;
+    if (sscanf(text, "%d / %d / %d %d : %d : %d", &date.month, &date.day, &date.year, &hour, &minute,
+               &second) < 3)
         return 0;
-    if (date.day < 1 || date.day > ZC_days_in_month(date.year, date.month))
+    if (!is_below(ZC_days_in_month(date.year, date.month), date.day - 1) || !is_below(24, hour) ||
+        !is_below(60, minute) || !is_below(60, second))
         return 0;
     const int64_t civil_day = ZC_map_civil_date_to_julian_day(date);
     instant += static_cast<double>(civil_day - ZC_map_gregorian_date_to_julian_day(date)) * seconds_per_day;

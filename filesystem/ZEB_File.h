@@ -66,11 +66,11 @@ ZEB_EXPORT
 - (void)set_path:(ZEB_String *)string;
 
 /** Asks the platform what the path leads to, symbolic links followed, and takes the answer into the
-    fields. Where nothing is there, `exists` and `size` become 0 and the rest stays; the same where the
-    platform cannot tell (no right to look, a failing device), but then `last_error` has the reason: what is
-    there may be overwritten by what takes it for nothing. With `load_details`
-    the effective access is worked out too; it keeps what it was where this process is neither the owner
-    nor in the group, and others have no right either. Answers 1, or what an interceptor answers. */
+    fields. Where nothing is there, `exists` and `size` become 0 and the rest stays. The same happens where
+    the platform cannot tell (no right to look, a failing device), but then `last_error` has the reason: look
+    at it before writing there. With `load_details` the effective access is worked out too; it keeps what it
+    was where this process is neither the owner nor in the group, and others have no right either. Answers 1,
+    or what an interceptor answers. */
 - (uint32_t)refresh_status;
 
 @end

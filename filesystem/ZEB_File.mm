@@ -83,7 +83,9 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
     made->log_actions = log_actions;
     made->report_errors = report_errors;
     made->interceptor = interceptor;
-    made->last_error = last_error;
+    // A path that could not be taken is the copy's own error.
+    if (made->last_error == 0)
+        made->last_error = last_error;
     return made;
 }
 

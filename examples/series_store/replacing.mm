@@ -13,7 +13,7 @@ namespace
 struct Paths {
     const char *store;
     const char *aside;
-    const char *part;
+    const char *fresh;
 };
 
 /// What stands at a path; tells what is wrong with it where it is not to be written over.
@@ -29,7 +29,7 @@ Store_State state_of(const char *path)
 /// Whether all three paths may be written over. `present` is the state of the store.
 bool may_be_replaced(const Paths &paths, Store_State present)
 {
-    if (present == STORE_UNKNOWN || state_of(paths.part) == STORE_UNKNOWN)
+    if (present == STORE_UNKNOWN || state_of(paths.fresh) == STORE_UNKNOWN)
         return false;
     const Store_State aside = state_of(paths.aside);
     if (aside == STORE_UNKNOWN)
@@ -43,15 +43,15 @@ bool may_be_replaced(const Paths &paths, Store_State present)
 }
 
 /// Writes the new store beside the old one, and reads it again.
-bool write_part(const char *part, Series *series, ZEB_String *contents)
+bool write_fresh(const char *fresh, Series *series, ZEB_String *contents)
 {
     Series *const loaded = [[[Series alloc] init] autorelease];
-    const char *fault = write_store(part, contents);
+    const char *fault = write_store(fresh, contents);
     if (fault == NULL)
-        load_series(part, loaded, &fault);
+        load_series(fresh, loaded, &fault);
     if (fault == NULL && ![series is_identical_to:loaded])
         fault = "it does not come back as it was";
-    return fault == NULL || complain(part, fault);
+    return fault == NULL || complain(fresh, fault);
 }
 
 bool set_aside(const char *store)
@@ -66,7 +66,7 @@ bool set_aside(const char *store)
 /// Moves the new store into the place of the one that was set aside, or brings that one back.
 bool move_in(const Paths &paths, bool is_set_aside)
 {
-    if (rename(paths.part, paths.store) == 0)
+    if (rename(paths.fresh, paths.store) == 0)
         return true;
     complain(paths.store, strerror(errno));
     if (is_set_aside && [file_at(paths.store) restore] != 1)
@@ -78,17 +78,17 @@ bool move_in(const Paths &paths, bool is_set_aside)
 
 bool replace_store(const char *path, Series *series, ZEB_String *contents)
 {
-    const Paths paths{path, path_with_suffix(path, "~"), path_with_suffix(path, ".part")};
-    if (paths.aside == NULL || paths.part == NULL)
+    const Paths paths{path, path_with_suffix(path, "~"), path_with_suffix(path, "~new")};
+    if (paths.aside == NULL || paths.fresh == NULL)
         return complain(path, strerror(ENOMEM));
     const Store_State present = state_of(path);
     if (!may_be_replaced(paths, present))
         return false;
     const bool has_store = present == STORE_WHOLE;
-    const bool is_replaced = write_part(paths.part, series, contents) && (!has_store || set_aside(path)) &&
+    const bool is_replaced = write_fresh(paths.fresh, series, contents) && (!has_store || set_aside(path)) &&
                              move_in(paths, has_store);
     // Where that fails too, the next run writes over it.
     if (!is_replaced)
-        remove(paths.part);
+        remove(paths.fresh);
     return is_replaced;
 }

@@ -37,10 +37,11 @@ bool agrees_with_header(ZEB_Byte_Array *contents)
     ZEB_String *const header = [ZEB_String array_with_capacity:ZEB_BINARY_HEADER_SIZE];
     ZEB_write_binary_header(header);
     const uint32_t size = std::min([contents count], header_text_length);
-    return size == 0 || memcmp([contents byte_data], [header char_data], size) == 0;
+    return size == 0 ||
+           ([header count] >= size && memcmp([contents byte_data], [header char_data], size) == 0);
 }
 
-/// As an empty file does, and one that the power failed before.
+/// As a file that never got its contents: an empty one, or one that the power failed on.
 bool holds_only_zeros(ZEB_Byte_Array *stored)
 {
     const auto bytes = zeb::elements(stored);

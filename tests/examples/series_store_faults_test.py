@@ -80,7 +80,7 @@ def check_fault(name, before, after, call, number, outcome):
         passed.add(state)
         check(result.returncode == 0, f"{told}: the next run fails: {result.stderr!r}")
         check(found.get("store") == new, f"{told}: the next run stores")
-        check("store.part" not in found, f"{told}: the next run leaves something")
+        check("store~new" not in found, f"{told}: the next run leaves something")
 
 
 def count_calls(before):
@@ -107,8 +107,8 @@ every = {call for call, outcome in failing + harmless}
 starts = {
     "a store and one set aside": ({"store": old, "store~": older}, old, every),
     "nothing": ({}, None, {"rename", "stat", "file"}),
-    "a store only set aside, as between two renames": ({"store~": old, "store.part": new}, old, {"stat", "file"}),
-    "a store cut short": ({"store": old[:200], "store~": older, "store.part": new[:100]}, older,
+    "a store only set aside, as between two renames": ({"store~": old, "store~new": new}, old, {"stat", "file"}),
+    "a store cut short": ({"store": old[:200], "store~": older, "store~new": new[:100]}, older,
                           {"rename", "stat", "memory", "file"}),
 }
 jobs = []

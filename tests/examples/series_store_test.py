@@ -98,7 +98,7 @@ with tempfile.TemporaryDirectory() as name:
         made = folder / what
         made.mkdir()
         for name, contents in files.items():
-            (made / name.replace("_", "~").replace("7", ".")).write_bytes(contents)
+            (made / name.replace("_", "~")).write_bytes(contents)
         return made
 
     for what, contents in (cut_short | unknown).items():
@@ -109,10 +109,10 @@ with tempfile.TemporaryDirectory() as name:
         check_refused(what + ", with one set aside", sunspots, place / "store")
         place = new_folder(what + ", set aside", store=good, store_=contents)
         check_refused(what + ", set aside", sunspots, place / "store")
-        place = new_folder(what + ", beside", store=good, store7part=contents)
+        place = new_folder(what + ", beside", store=good, store_new=contents)
         check_refused(what + ", beside", sunspots, place / "store")
     for what, contents in cut_short.items():
-        place = new_folder(what + ", with one set aside", store=contents, store_=older, store7part=contents)
+        place = new_folder(what + ", with one set aside", store=contents, store_=older, store_new=contents)
         result = run(sunspots, place / "store")
         check(result.returncode == 0 and "kept" in result.stdout, f"{what}: is replaced: {result}")
         check(contents_of(place) == {"store": good, "store~": older}, f"{what}: the one set aside stays")
@@ -141,7 +141,7 @@ with tempfile.TemporaryDirectory() as name:
         if not entry.name.startswith("store"):
             check_refused(f"CSV, {entry.name}", entry, place / "store")
     check_refused("CSV, the store itself", place / "store", place / "store")
-    for csv in ("store~", "store.part"):
+    for csv in ("store~", "store~new"):
         place = new_folder("CSV is " + csv, store=good)
         (place / csv).write_bytes(sunspots.read_bytes())
         check_refused("CSV is " + csv, place / csv, place / "store")

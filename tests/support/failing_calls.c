@@ -4,6 +4,7 @@
 #include <dlfcn.h>
 #include <errno.h>
 #include <fcntl.h>
+#include <limits.h>
 #include <signal.h>
 #include <stdarg.h>
 #include <stdatomic.h>
@@ -20,15 +21,17 @@ static const char *const call_names[CALL_COUNT] = {"open",      "read", "write",
 
 static char folder[4096];
 static int planned_call = CALL_COUNT;
-static unsigned planned_number;
+static unsigned first_number, last_number;
 static int outcome;
 static atomic_uint calls[CALL_COUNT];
 static unsigned char is_watched[1024];
 
 static int call_named(const char *name)
 {
+    const size_t length = strcspn(name, "+");
     int call = 0;
-    while (call < CALL_COUNT && strcmp(call_names[call], name) != 0)
+    while (call < CALL_COUNT &&
+           (strlen(call_names[call]) != length || strncmp(call_names[call], name, length) != 0))
         ++call;
     return call;
 }
@@ -39,7 +42,8 @@ void zeb_plan_failure(const char *new_folder, const char *call, unsigned number,
     snprintf(folder, sizeof folder, "%s", new_folder);
     for (int i = 0; i < CALL_COUNT; ++i)
         atomic_store(&calls[i], 0);
-    planned_number = number;
+    first_number = number;
+    last_number = strchr(call, '+') != NULL ? UINT_MAX : number;
     outcome = new_outcome;
     planned_call = call_named(call);
 }
@@ -65,14 +69,16 @@ __attribute__((destructor)) static void tell_counts(void)
     fclose(file);
 }
 
+static int is_planned(unsigned number) { return number >= first_number && number <= last_number; }
+
 /* Counts a call, and whether it is the planned one. */
 static int is_due(int call)
 {
     const unsigned number = atomic_fetch_add(&calls[call], 1) + 1;
-    int due = planned_call == call && number == planned_number;
+    int due = planned_call == call && is_planned(number);
     if (call != MEMORY) {
         const unsigned any = atomic_fetch_add(&calls[ANY_FILE], 1) + 1;
-        due = due || (planned_call == ANY_FILE && any == planned_number);
+        due = due || (planned_call == ANY_FILE && is_planned(any));
     }
     if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE)
         raise(SIGKILL);

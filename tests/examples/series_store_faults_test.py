@@ -109,7 +109,7 @@ every = {call for call, outcome in failing + harmless} - {"memory+"}
 starts = {
     "a store and one set aside": ({"store": old, "store~": older}, old, every),
     "nothing": ({}, None, {"rename", "stat", "file"}),
-    "a store only set aside, as between two renames": ({"store~": old, "store~new": new}, old, {"stat", "file"}),
+    "a store only set aside, as between renames": ({"store~": old, "store~new": new}, old, {"stat", "file"}),
     "a store cut short": ({"store": old[:200], "store~": older, "store~new": new[:100]}, older,
                           {"rename", "stat", "memory+", "file"}),
 }

@@ -44,7 +44,8 @@ def check_refused(what, csv, store):
 
 def days_since_1970(year, month, day):
     """Of the proleptic Gregorian calendar, whose years repeat after 400; date knows no year before 1."""
-    return datetime.date(year % 400 + 400, month, day).toordinal() - 719163 + (year - year % 400 - 400) // 400 * 146097
+    cycles, year_of_cycle = divmod(year - 400, 400)
+    return datetime.date(year_of_cycle + 400, month, day).toordinal() - 719163 + cycles * 146097
 
 
 def rows_of(csv):
@@ -153,11 +154,11 @@ with tempfile.TemporaryDirectory() as name:
         "no lines": (b"date,value\n1/1/2000,1.5\nno date,2\n1/2/2000,x\n1/3/2000,2.5\n", 2,
                      ["rows        2\n", "line 3 cannot be read: no date,2\n",
                       "line 4 cannot be read: 1/2/2000,x\n"]),
-        "no days": (b"1/1/2000,1\n02/30/2000,2\n2/29/1900,3\n13/1/2000,4\n2/29/2000,5\n0/1/2000,6\n1/0/2000,7\n",
-                    2, ["rows        2\n", "line 2 cannot be read: 02/30/2000,2\n", "line 3 ", "line 4 ",
+        "no days": (b"1/1/2000,1\n02/30/2000,2\n2/29/1900,3\n13/1/2000,4\n2/29/2000,5\n0/1/2000,6\n"
+                    b"1/0/2000,7\n", 2, ["rows        2\n", "line 2 cannot be read: 02/30/2000,2\n", "line 3 ", "line 4 ",
                         "line 6 ", "line 7 "]),
-        "no times": (b"1/1/2000 23:59:59.5,1\n1/1/2000 24:00:00,2\n1/1/2000 10:60:00,3\n1/1/2000 10:00:60,4\n", 2,
-                     ["rows        1\n", "2000-01-01T23:59:59.5\n", "line 2 ", "line 3 ", "line 4 "]),
+        "no times": (b"1/1/2000 23:59:59.5,1\n1/1/2000 24:00:00,2\n1/1/2000 10:60:00,3\n"
+                     b"1/1/2000 10:00:60,4\n", 2, ["rows        1\n", "2000-01-01T23:59:59.5\n", "line 2 ", "line 3 ", "line 4 "]),
         "a long line": (b"1/1/2000,1\n" + b"x" * 5000, 2, [": " + "x" * 80 + "\n"]),
         "no number first": (b"1/1/2000,nan\n1/2/2000,3\n1/3/2000,1\n1/4/2000,nan\n", 0,
                             ["minimum     1\n", "maximum     3\n"]),

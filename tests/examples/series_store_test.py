@@ -155,10 +155,11 @@ with tempfile.TemporaryDirectory() as name:
                      ["rows        2\n", "line 3 cannot be read: no date,2\n",
                       "line 4 cannot be read: 1/2/2000,x\n"]),
         "no days": (b"1/1/2000,1\n02/30/2000,2\n2/29/1900,3\n13/1/2000,4\n2/29/2000,5\n0/1/2000,6\n"
-                    b"1/0/2000,7\n", 2, ["rows        2\n", "line 2 cannot be read: 02/30/2000,2\n", "line 3 ", "line 4 ",
-                        "line 6 ", "line 7 "]),
+                    b"1/0/2000,7\n", 2, ["rows        2\n", "line 2 cannot be read: 02/30/2000,2\n", "line 3 ",
+                                        "line 4 ", "line 6 ", "line 7 "]),
         "no times": (b"1/1/2000 23:59:59.5,1\n1/1/2000 24:00:00,2\n1/1/2000 10:60:00,3\n"
-                     b"1/1/2000 10:00:60,4\n", 2, ["rows        1\n", "2000-01-01T23:59:59.5\n", "line 2 ", "line 3 ", "line 4 "]),
+                     b"1/1/2000 10:00:60,4\n", 2, ["rows        1\n", "2000-01-01T23:59:59.5\n", "line 2 ", "line 3 ",
+                                                   "line 4 "]),
         "a long line": (b"1/1/2000,1\n" + b"x" * 5000, 2, [": " + "x" * 80 + "\n"]),
         "no number first": (b"1/1/2000,nan\n1/2/2000,3\n1/3/2000,1\n1/4/2000,nan\n", 0,
                             ["minimum     1\n", "maximum     3\n"]),

@@ -11,7 +11,7 @@
  *
  * Successes are told on the shared standard-output stream when `log_actions` is set, failures on the
  * shared error stream when `report_errors` is: one line with a fixed text and the path, whatever
- * `verbose` says, and uncounted. Nothing throws. Nothing is locked.
+ * `verbose` says, and uncounted. Either way `last_error` keeps the cause. Nothing throws. Nothing is locked.
  */
 ZEB_EXPORT
 @interface ZEB_File : ZEB_Object <NSCopying> {
@@ -45,6 +45,7 @@ ZEB_EXPORT
     uint8_t log_actions;
     uint8_t report_errors;
     id<ZEB_File_Interceptor> interceptor;
+    int32_t last_error;
 }
 
 /** The proprietary notice. */
@@ -54,19 +55,22 @@ ZEB_EXPORT
     owner, with `contents_compressed` and `log_actions` off and every other setting on. */
 - (id)init;
 
-/** A copy of the path, the snapshot, the settings and the interceptor. */
+/** A copy of the path, the snapshot, the settings, the interceptor and the last error. */
 - (id)copyWithZone:(NSZone *)zone;
 
 /** The entry's path, which stays the entry's. */
 - (ZEB_String *)path;
 
-/** Replaces the path and ends it with a null that is not counted. The snapshot stays. */
+/** Replaces the path and ends it with a null that is not counted. The snapshot stays. Where there is no
+    memory for it the path becomes empty, which every operation refuses, and `last_error` is ENOMEM. */
 - (void)set_path:(ZEB_String *)string;
 
 /** Asks the platform what the path leads to, symbolic links followed, and takes the answer into the
-    fields. Where nothing is there, `exists` and `size` become 0 and the rest stays. With `load_details`
-    the effective access is worked out too; it keeps what it was where this process is neither the owner
-    nor in the group, and others have no right either. Answers 1, or what an interceptor answers. */
+    fields. Where nothing is there, `exists` and `size` become 0 and the rest stays. The same happens where
+    the platform cannot tell (no right to look, a failing device), but then `last_error` has the reason: look
+    at it before writing there. With `load_details` the effective access is worked out too; it keeps what it
+    was where this process is neither the owner nor in the group, and others have no right either. Answers 1,
+    or what an interceptor answers. */
 - (uint32_t)refresh_status;
 
 @end
@@ -117,6 +121,21 @@ ZEB_EXPORT
 - (void)set_other_write:(uint8_t)value;
 - (uint8_t)other_execute;
 - (void)set_other_execute:(uint8_t)value;
+
+@end
+
+/** How its last operation went. */
+@interface ZEB_File (Errors)
+
+/** Why the last operation on the platform failed, or lost bytes: the platform's code, as in <errno.h>; 0
+    after a success. Beside the platform's own causes: EINVAL for a path with a null inside, ENOMEM where an
+    array could not grow, ENODATA for a file without contents or shorter than the snapshot's size, EILSEQ for
+    contents that cannot be decompressed, EIO for bytes that were not written, ECANCELED where the interceptor
+    refused. */
+- (int32_t)last_error;
+
+/** For an interceptor that acts in the entry's place; each action begins with 0. */
+- (void)set_last_error:(int32_t)error;
 
 @end
 

@@ -83,6 +83,9 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
     made->log_actions = log_actions;
     made->report_errors = report_errors;
     made->interceptor = interceptor;
+    // A path that could not be taken is the copy's own error.
+    if (made->last_error == 0)
+        made->last_error = last_error;
     return made;
 }
 
@@ -94,6 +97,11 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
 - (void)set_path:(ZEB_String *)string
 {
     [path set_contents_of_array:string];
+    // A path that did not change would lead elsewhere than its caller believes.
+    const BOOL is_taken = [path count] == [string count];
+    last_error = is_taken ? 0 : ENOMEM;
+    if (!is_taken)
+        [path clear];
     [path append_null_terminator];
 }
 
@@ -115,10 +123,13 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
 
 - (uint32_t)take_status
 {
+    const zeb::Platform_Path platform_path(path);
     zeb::File_Status status;
-    if (!zeb::read_status(zeb::Platform_Path(path).c_string(), status)) {
+    const int error = platform_path.cause_of(zeb::read_status(platform_path.c_string(), status));
+    if (error != 0) {
         exists = 0;
         size = 0;
+        last_error = error == ENOENT || error == ENOTDIR ? 0 : error;
         return 1;
     }
     exists = 1;
@@ -133,7 +144,7 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
 {
     ZEB_File *const file = self;
     return zeb::intercepted(
-        file, ZEB_FILE_REFRESH_STATUS,
+        file, ZEB_FILE_REFRESH_STATUS, @selector(intercept_refresh_status:),
         [=](id<ZEB_File_Interceptor> other) { return [other intercept_refresh_status:file]; },
         [=] { return [file take_status]; }, zeb::After_Acting::stops);
 }

@@ -3,8 +3,10 @@
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_Compression.h>
 
+#import "arrays/ZEB_Char_Storage_Private.h"
 #import "filesystem/ZEB_File_Private.h"
 
+#include "encoding/engine/zlib_loops.hpp"
 #include "filesystem/engine/file_contents.hpp"
 #include "filesystem/engine/file_messages.hpp"
 
@@ -16,33 +18,42 @@ namespace messages = zeb::messages;
 namespace
 {
 
+/// What a path has behind it when its file is set aside, and its size with the null.
+constexpr char suffix[] = "~";
+constexpr uint32_t suffix_size = sizeof suffix;
+
+/// Tells the failure, and is false.
+bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
+{
+    zeb::tell_failure(file, message, error);
+    return false;
+}
+
 /// Reads the file into `target`, whose length becomes `size`; what did not come reads as zero. False, after
 /// the failure was told, where nothing can be read.
 bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
 {
-    zeb::Open_File input = zeb::Open_File::for_reading(zeb::Platform_Path([file path]).c_string());
-    if (!input.is_open()) {
-        zeb::tell_failure(file, messages::error_opening);
-        return false;
-    }
-    if (size == 0) {
-        zeb::tell_failure(file, messages::error_no_size);
-        return false;
-    }
+    const zeb::Platform_Path path([file path]);
+    zeb::Open_File input = zeb::Open_File::for_reading(path.c_string());
+    if (input.opening_error() != 0)
+        return failed(file, messages::error_opening, path.cause_of(input.opening_error()));
+    if (size == 0)
+        return failed(file, messages::error_no_size, ENODATA);
     const uint32_t length = size < UINT32_MAX ? static_cast<uint32_t>(size) : UINT32_MAX;
     [target set_length:length];
-    // An array that could not take the length has said so.
-    if ([target count] != length)
-        return false;
-    size_t count = 0;
-    if (!input.read([target byte_data], length, count)) {
-        zeb::tell_failure(file, messages::error_reading);
+    if ([target count] != length) {
+        // The array has said so.
+        [file set_last_error:ENOMEM];
         return false;
     }
+    size_t count = 0;
+    const int error = input.read([target byte_data], length, count);
+    if (error != 0)
+        return failed(file, messages::error_reading, error);
     memset([target byte_data] + count, 0, length - count);
     if (count != size)
         zeb::tell_discrepancy(file, messages::warning_length_read, count, messages::against_content_size,
-                              size, messages::while_reading);
+                              size, messages::while_reading, ENODATA);
     return true;
 }
 
@@ -56,24 +67,23 @@ bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
         [destination clear];
         status = ZC_decompress_bytes_to_bytes(stored, destination);
         if (status != 0)
-            zeb::tell_failure(file, messages::error_decompressing);
+            zeb::tell_failure(file, messages::error_decompressing,
+                              status == zeb::zlib_out_of_memory ? ENOMEM : EILSEQ);
     }
     [stored release];
     return was_read && status == 0;
 }
 
-/// Writes the bytes into the open file; false after the failure was told.
+/// Makes the bytes the contents of the open file; false after the failure was told.
 bool write_out(ZEB_File *file, zeb::Open_File &output, const void *bytes, uint32_t length)
 {
     size_t count = 0;
-    const bool went = output.write(bytes, length, count);
-    if (!output.close() || !went) {
-        zeb::tell_failure(file, messages::error_writing);
-        return false;
-    }
+    const int error = output.write_all_and_close(bytes, length, count);
+    if (error != 0)
+        return failed(file, messages::error_writing, error);
     if (count != length)
         zeb::tell_discrepancy(file, messages::warning_length_written, count,
-                              messages::against_specified_length, length, messages::while_writing);
+                              messages::against_specified_length, length, messages::while_writing, EIO);
     return true;
 }
 
@@ -85,15 +95,22 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
                                                 count:length];
     ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
     const int32_t status = ZC_compress_bytes_to_bytes(source, stored);
-    bool is_written = false;
-    // An entry that reports no errors does not look at this one: it stores what there is.
-    if (status != 0 && [file report_errors])
-        zeb::tell_failure(file, messages::error_compressing);
-    else
-        is_written = write_out(file, output, [stored byte_data], [stored count]);
+    if (status != 0)
+        zeb::tell_failure(file, messages::error_compressing,
+                          status == zeb::zlib_out_of_memory ? ENOMEM : EIO);
+    // An entry that reports no errors stores what there is, and keeps the error alone.
+    const bool is_written =
+        (status == 0 || ![file report_errors]) && write_out(file, output, [stored byte_data], [stored count]);
     [source release];
     [stored release];
     return is_written;
+}
+
+/// Renames an entry, over what stands at the other path. Answers 0, or what the platform says.
+int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
+{
+    const int error = rename(from.c_string(), to.c_string()) == 0 ? 0 : errno;
+    return to.cause_of(from.cause_of(error));
 }
 
 } // namespace
@@ -113,7 +130,7 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
 {
     ZEB_File *const file = self;
     zeb::intercepted(
-        file, ZEB_FILE_READ_CONTENTS,
+        file, ZEB_FILE_READ_CONTENTS, @selector(intercept_read_contents:destination:),
         [=](id<ZEB_File_Interceptor> other) {
             return [other intercept_read_contents:file destination:destination];
         },
@@ -127,11 +144,10 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
 
 - (uint32_t)put_contents:(const void *)bytes length:(uint32_t)length
 {
-    zeb::Open_File output = zeb::Open_File::for_writing(zeb::Platform_Path(path).c_string());
-    if (!output.is_open()) {
-        zeb::tell_failure(self, messages::error_opening);
-        return 0;
-    }
+    const zeb::Platform_Path platform_path(path);
+    zeb::Open_File output = zeb::Open_File::for_writing(platform_path.c_string());
+    if (output.opening_error() != 0)
+        return failed(self, messages::error_opening, platform_path.cause_of(output.opening_error()));
     const bool is_written = contents_compressed ? write_compressed(self, output, bytes, length)
                                                 : write_out(self, output, bytes, length);
     return is_written ? 1 : 0;
@@ -141,28 +157,35 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
 {
     ZEB_File *const file = self;
     return zeb::intercepted(
-        file, ZEB_FILE_WRITE_CONTENTS,
+        file, ZEB_FILE_WRITE_CONTENTS, @selector(intercept_write_contents:bytes:length:),
         [=](id<ZEB_File_Interceptor> other) {
             return [other intercept_write_contents:file bytes:bytes length:length];
         },
         [=] { return [file put_contents:bytes length:length]; });
 }
 
+/// Whether the path can be extended without another block, after one was made where needed.
+- (BOOL)has_room_for_suffix
+{
+    [path ensure_room_for:suffix_size];
+    return zeb::storage_of_array(path).capacity > [path count] + suffix_size;
+}
+
 /// The visible path gains "~", and a null behind it is counted from now on.
 - (void)extend_path_by_suffix
 {
     [path set_count:zeb::visible_path(path).length];
-    [path append_chars:"~" count:2];
+    [path append_chars:suffix count:suffix_size];
 }
 
 - (uint32_t)set_aside
 {
     const zeb::Platform_Path from(path);
-    const zeb::Platform_Path to(path, "~");
-    if (rename(from.c_string(), to.c_string()) != 0) {
-        zeb::tell_failure(self, messages::error_backstoring);
-        return 0;
-    }
+    const zeb::Platform_Path to(path, suffix);
+    // A path that could not follow the file would lead nowhere.
+    const int error = [self has_room_for_suffix] ? renaming_error(from, to) : ENOMEM;
+    if (error != 0)
+        return failed(self, messages::error_backstoring, error);
     zeb::tell_success(self, messages::backstored);
     [self extend_path_by_suffix];
     return 1;
@@ -172,7 +195,7 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
 {
     ZEB_File *const file = self;
     return zeb::intercepted(
-        file, ZEB_FILE_BACKSTORE,
+        file, ZEB_FILE_BACKSTORE, @selector(intercept_backstore:),
         [=](id<ZEB_File_Interceptor> other) { return [other intercept_backstore:file]; },
         [=] { return [file set_aside]; }, zeb::After_Acting::runs,
         [=](uint32_t answer) {
@@ -183,12 +206,12 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
 
 - (uint32_t)restore
 {
-    const zeb::Platform_Path from(path, "~");
+    const zeb::Platform_Path from(path, suffix);
     const zeb::Platform_Path to(path);
-    if (rename(from.c_string(), to.c_string()) != 0) {
-        zeb::tell_failure(self, messages::error_restoring);
-        return 0;
-    }
+    const int error = renaming_error(from, to);
+    if (error != 0)
+        return failed(self, messages::error_restoring, error);
+    last_error = 0;
     zeb::tell_success(self, messages::restored);
     return 1;
 }

@@ -20,7 +20,7 @@ enum {
     ZEB_FILE_BACKSTORE
 };
 
-/** What an interceptor decides; any other value lets the entry act. */
+/** What an interceptor decides; any other value lets the entry act, as if there were no interceptor. */
 enum {
     ZEB_INTERCEPT_REFUSE = 0,     /* the action does nothing and answers 0 */
     ZEB_INTERCEPT_ACT = 2,        /* the interceptor acts, and its answer is the action's */
@@ -29,9 +29,12 @@ enum {
 
 /**
  * Asked before each action of an entry that has it as its interceptor. It has one operation for each
- * action, which gets the entry and the action's arguments, and answers what the action would.
+ * action, which gets the entry and the action's arguments, and answers what the action would; it may
+ * leave the cause of a failure in the entry's `last_error`. Each operation is optional: the entry acts itself
+ * where the interceptor does not decide, and where it lacks the operation that it decided to act by.
  */
 @protocol ZEB_File_Interceptor
+@optional
 
 /** The decision on an action. */
 - (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file;

@@ -34,8 +34,24 @@ ZEB_Char_Span visible_path(ZEB_String *path)
 
 Platform_Path::Platform_Path(ZEB_String *path, const char *suffix)
     : text([path char_data], is_whole_path([path char_data], [path count]) ? visible_path(path).length : 0,
-           is_whole_path([path char_data], [path count]) ? suffix : "")
+           is_whole_path([path char_data], [path count]) ? suffix : ""),
+      fault(0)
 {
+    if (!is_whole_path([path char_data], [path count]))
+        fault = EINVAL;
+    else if (*text.c_string() == '\0' && visible_path(path).length != 0)
+        fault = ENOMEM;
+}
+
+uint32_t decision_on(ZEB_File *file, ZEB_File_Action action, SEL operation)
+{
+    constexpr uint32_t entry_acts = 1;
+    const id interceptor = [file interceptor];
+    if (![interceptor respondsToSelector:@selector(decide_action:file:)])
+        return entry_acts;
+    const uint32_t decision = [interceptor decide_action:action file:file];
+    return decision == ZEB_INTERCEPT_REFUSE || [interceptor respondsToSelector:operation] ? decision
+                                                                                          : entry_acts;
 }
 
 void tell_success(ZEB_File *file, ZEB_Char_Span message)
@@ -44,15 +60,17 @@ void tell_success(ZEB_File *file, ZEB_Char_Span message)
         write_line([ZEB_Stream shared_stream], message, file);
 }
 
-void tell_failure(ZEB_File *file, ZEB_Char_Span message)
+void tell_failure(ZEB_File *file, ZEB_Char_Span message, int error)
 {
+    [file set_last_error:error];
     if ([file report_errors])
         write_line([ZEB_Error_Stream shared_error_stream], message, file);
 }
 
 void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
-                      uint64_t expected, ZEB_Char_Span occasion)
+                      uint64_t expected, ZEB_Char_Span occasion, int error)
 {
+    [file set_last_error:error];
     if (![file report_errors])
         return;
     // The error stream leaves its unsigned-long writer to standard output: numbers go as text.

@@ -1,5 +1,19 @@
 #import <Korvane_ZEB/ZEB_File.h>
 
+@implementation ZEB_File (Errors)
+
+- (int32_t)last_error
+{
+    return last_error;
+}
+
+- (void)set_last_error:(int32_t)error
+{
+    last_error = error;
+}
+
+@end
+
 @implementation ZEB_File (Settings)
 
 - (uint8_t)first_general_setting

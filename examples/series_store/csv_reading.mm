@@ -1,26 +1,68 @@
 #import "csv_reading.h"
 
-#import "store.h"
+#import "files.h"
 
+#include <algorithm>
 #include <stdio.h>
 #include <string.h>
 
 namespace
 {
 
+constexpr char byte_order_mark[] = {'\xEF', '\xBB', '\xBF'};
+constexpr uint32_t greatest_told_length = 80;
+constexpr double seconds_per_day = 86400;
+
 struct Line {
     const char *text;
     uint32_t length;
 };
 
-bool is_blank(Line line) { return line.length == 0; }
+/// The line that begins at `at`, its line break left out; moves `at` behind it.
+Line next_line(const char *text, uint32_t length, uint32_t &at)
+{
+    const uint32_t start = at;
+    while (at < length && text[at] != '\n' && text[at] != '\r')
+        ++at;
+    const Line line{text + start, at - start};
+    at += length - at >= 2 && memcmp(text + at, "\r\n", 2) == 0 ? 2 : 1;
+    return line;
+}
+
+bool begins_with_date(Line line)
+{
+    return ZC_skip_valid_gregorian_date_char_c_array(line.text, line.length) != 0;
+}
+
+bool is_below(int bound, int number) { return number >= 0 && number < bound; }
+
+/// Reads a date, and a time behind it, at the line's start and answers their length, or 0. The scanner lets
+/// numbers run on (30 February into March), and its day numbers before -4800 are not those of the calendar:
+/// both are made good here.
+uint32_t read_instant(Line line, double &instant)
+{
+    const uint32_t length =
+        ZC_assign_seconds_from_gregorian_date_char_c_array(line.text, line.length, &instant);
+    char text[ZEB_DATE_TEXT_SIZE];
+    snprintf(text, sizeof text, "%.*s", static_cast<int>(length), line.text);
+    ZEB_Gregorian_Date date;
+    int hour = 0, minute = 0, second = 0;
+    if (sscanf(text, "%d / %d / %d %d : %d : %d", &date.month, &date.day, &date.year, &hour, &minute,
+               &second) < 3)
+        return 0;
+    if (!is_below(ZC_days_in_month(date.year, date.month), date.day - 1) || !is_below(24, hour) ||
+        !is_below(60, minute) || !is_below(60, second))
+        return 0;
+    const int64_t civil_day = ZC_map_civil_date_to_julian_day(date);
+    instant += static_cast<double>(civil_day - ZC_map_gregorian_date_to_julian_day(date)) * seconds_per_day;
+    return length;
+}
 
 /// Reads `date,value` to the end of the line.
 bool append_row(Series *series, Line line)
 {
     double instant;
-    const uint32_t date_length =
-        ZC_assign_seconds_from_gregorian_date_char_c_array(line.text, line.length, &instant);
+    const uint32_t date_length = read_instant(line, instant);
     if (date_length == 0 || date_length >= line.length || line.text[date_length] != ',')
         return false;
     const uint32_t at = date_length + 1;
@@ -34,46 +76,47 @@ bool append_row(Series *series, Line line)
     return true;
 }
 
-/// The line that begins at `at`, its line break left out; moves `at` behind it.
-Line next_line(const char *text, uint32_t length, uint32_t &at)
+void tell_unreadable(const char *path, uint32_t number, Line line)
 {
-    const char *const start = text + at;
-    const char *const found = static_cast<const char *>(memchr(start, '\n', length - at));
-    uint32_t size = found != NULL ? static_cast<uint32_t>(found - start) : length - at;
-    at += size + (found != NULL ? 1 : 0);
-    if (size != 0 && start[size - 1] == '\r')
-        --size;
-    return {start, size};
-}
-
-bool begins_with_date(Line line)
-{
-    return ZC_skip_valid_gregorian_date_char_c_array(line.text, line.length) != 0;
+    fprintf(stderr, "series_store: %s, line %u cannot be read: %.*s\n", path, number,
+            static_cast<int>(std::min(line.length, greatest_told_length)), line.text);
 }
 
 } // namespace
 
 Csv_Outcome read_csv(const char *path, Series *series)
 {
-    ZEB_File *const file = file_at(path);
-    [file refresh_status];
-    if (![file exists] || [file kind] != ZEB_FILE_KIND_REGULAR) {
-        fprintf(stderr, "series_store: there is no file %s\n", path);
-        return CSV_MISSING;
-    }
+    const char *fault;
     ZEB_Byte_Array *const contents = [ZEB_Byte_Array array_with_capacity:0];
-    if ([file size] != 0)
-        [file read_contents:contents];
+    if (read_file(path, contents, &fault) != FILE_READ) {
+        complain(path, fault);
+        return CSV_FAILED;
+    }
     const char *const text = reinterpret_cast<const char *>([contents byte_data]);
+    const uint32_t length = [contents count];
+    const bool is_marked =
+        length >= sizeof byte_order_mark && memcmp(text, byte_order_mark, sizeof byte_order_mark) == 0;
+    uint32_t row_count = 0;
     Csv_Outcome outcome = CSV_READ;
-    uint32_t at = 0;
-    for (uint32_t number = 1; at < [contents count]; ++number) {
-        const Line line = next_line(text, [contents count], at);
-        if (is_blank(line) || (number == 1 && !begins_with_date(line)) || append_row(series, line))
+    uint32_t at = is_marked ? sizeof byte_order_mark : 0;
+    for (uint32_t number = 1; at < length; ++number) {
+        const Line line = next_line(text, length, at);
+        if (line.length == 0 || (number == 1 && !begins_with_date(line)))
             continue;
-        fprintf(stderr, "series_store: %s, line %u cannot be read: %.*s\n", path, number,
-                static_cast<int>(line.length), line.text);
+        if (append_row(series, line)) {
+            ++row_count;
+            continue;
+        }
+        tell_unreadable(path, number, line);
         outcome = CSV_READ_IN_PART;
     }
-    return outcome;
+    // An array that could not grow has said so, and went on without the element.
+    if ([[series instants] count] != row_count || [[series values] count] != row_count)
+        fault = "there is no memory for its rows";
+    else if (row_count == 0)
+        fault = "no line of it can be read";
+    if (fault == NULL)
+        return outcome;
+    complain(path, fault);
+    return CSV_FAILED;
 }

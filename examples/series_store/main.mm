@@ -1,66 +1,54 @@
 /*
  * Stores a series and loads it back: series_store [CSV [STORE]].
  *
- * A store that is already there is set aside, its path with "~" appended. Ends with 0 when what came back
- * is what was stored, with 2 when lines of the CSV were left out, and else with 1.
+ * A store that is already there is set aside, its path with "~" appended. Ends with
+ *   0  when what came back is what was stored;
+ *   2  when that is so, but lines of the CSV were left out;
+ *   1  when something failed: the store that was there is whole then, at its path or with "~".
  */
 #import "csv_reading.h"
+#import "files.h"
+#import "replacing.h"
 #import "store.h"
 #import "summary.h"
 
+#include <errno.h>
 #include <stdio.h>
+#include <string.h>
 
 namespace
 {
 
 enum Exit_Status { all_well = 0, failed = 1, lines_left_out = 2 };
 
-/// Sets a store aside. False, after a line that says why, where that is no store or cannot be moved.
-bool set_aside(const char *path)
+/// Loads the store, and tells whether it is the series.
+bool load_and_compare(const char *path, Series *series, uint32_t raw_size)
 {
+    Series *const loaded = [[[Series alloc] init] autorelease];
+    const char *fault;
+    if (load_series(path, loaded, &fault) != STORE_WHOLE)
+        return complain(path, fault);
     ZEB_File *const file = file_at(path);
     [file refresh_status];
     if (![file exists])
-        return true;
-    Series *const present = [[[Series alloc] init] autorelease];
-    const char *const fault = load_series(path, present);
-    if (fault != NULL) {
-        fprintf(stderr, "series_store: %s is left as it is: %s\n", path, fault);
-        return false;
-    }
-    if ([file backstore] != 1)
-        return false;
-    printf("%-12s%s\n", "backstored", [[file path] char_data]);
-    return true;
-}
-
-/// Writes the series, loads it back, and tells how both went.
-bool store_and_compare(const char *path, Series *series)
-{
-    ZEB_String *const contents = encoded_series(series);
-    if (!store_contents(path, contents))
-        return false;
-    Series *const loaded = [[[Series alloc] init] autorelease];
-    const char *const fault = load_series(path, loaded);
-    if (fault != NULL) {
-        fprintf(stderr, "series_store: %s cannot be loaded back: %s\n", path, fault);
-        return false;
-    }
-    ZEB_File *const file = file_at(path);
-    [file refresh_status];
+        return complain(path, strerror(file != nil ? [file last_error] : ENOMEM));
     print_series(loaded);
-    printf("%-12s%u bytes\n", "raw size", [contents count]);
+    printf("%-12s%u bytes\n", "raw size", raw_size);
     printf("%-12s%llu bytes in %s\n", "stored size", (unsigned long long)[file size], path);
     const bool is_identical = [series is_identical_to:loaded];
     printf("%-12s%s\n", "came back", is_identical ? "identical, bit for bit" : "different");
     return is_identical;
 }
 
-int run(const char *csv_path, const char *store_path)
+Exit_Status run(const char *csv_path, const char *store_path)
 {
     Series *const series = [[[Series alloc] init] autorelease];
     const Csv_Outcome outcome = read_csv(csv_path, series);
-    if (outcome == CSV_MISSING || !set_aside(store_path) || !store_and_compare(store_path, series))
+    if (outcome == CSV_FAILED)
+        return failed;
+    ZEB_String *const contents = encoded_series(series);
+    if (!replace_store(store_path, series, contents) ||
+        !load_and_compare(store_path, series, [contents count]))
         return failed;
     return outcome == CSV_READ_IN_PART ? lines_left_out : all_well;
 }
@@ -72,7 +60,11 @@ int main(int count, const char **arguments)
     NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
     const char *const csv_path = count > 1 ? arguments[1] : "examples/data/sunspots-monthly.csv";
     const char *const store_path = count > 2 ? arguments[2] : "sunspots.zeb";
-    const int status = run(csv_path, store_path);
+    Exit_Status status = run(csv_path, store_path);
+    if (fflush(stdout) != 0 || ferror(stdout)) {
+        complain("standard output", "it cannot be written");
+        status = failed;
+    }
     [pool drain];
     return status;
 }

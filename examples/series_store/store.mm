@@ -1,5 +1,11 @@
 #import "store.h"
 
+#import "files.h"
+
+#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
+
+#include <algorithm>
+#include <errno.h>
 #include <string.h>
 
 namespace
@@ -20,13 +26,39 @@ private:
     uint32_t verbose;
 };
 
-constexpr size_t header_text_length = 32;
+constexpr uint32_t header_text_length = 32;
+constexpr uint8_t compressed_header[] = {0x78, 0x9C};
+constexpr int32_t is_no_whole_stream = -3;
+constexpr int32_t memory_is_short = -4;
 
-bool begins_with_header(const uint8_t *bytes, uint32_t length)
+/// Whether bytes are those of a header, as far as there are any.
+bool agrees_with_header(ZEB_Byte_Array *contents)
 {
     ZEB_String *const header = [ZEB_String array_with_capacity:ZEB_BINARY_HEADER_SIZE];
     ZEB_write_binary_header(header);
-    return length >= ZEB_BINARY_HEADER_SIZE && memcmp(bytes, [header char_data], header_text_length) == 0;
+    const uint32_t size = std::min([contents count], header_text_length);
+    return size == 0 ||
+           ([header count] >= size && memcmp([contents byte_data], [header char_data], size) == 0);
+}
+
+/// As a file that never got its contents: an empty one, or one that the power failed on.
+bool holds_only_zeros(ZEB_Byte_Array *stored)
+{
+    const auto bytes = zeb::elements(stored);
+    return std::all_of(bytes.begin(), bytes.end(), [](uint8_t byte) { return byte == 0; });
+}
+
+/// Whether a stream that does not end is the beginning of a compressed series. `contents` is what came of it.
+bool is_beginning(ZEB_Byte_Array *stored, ZEB_Byte_Array *contents)
+{
+    const size_t size = std::min<size_t>([stored count], sizeof compressed_header);
+    return (size == 0 || memcmp([stored byte_data], compressed_header, size) == 0) &&
+           agrees_with_header(contents);
+}
+
+bool begins_with_header(ZEB_Byte_Array *contents)
+{
+    return [contents count] >= ZEB_BINARY_HEADER_SIZE && agrees_with_header(contents);
 }
 
 /// Decodes the record at `at` and moves `at` behind it; false where it is not all there.
@@ -40,9 +72,10 @@ bool decode_record(ZEB_Byte_Array *contents, uint32_t &at, uint8_t needs_swap, Z
     return size != 0;
 }
 
+/// Answers null, or what is wrong.
 const char *decode_series(ZEB_Byte_Array *contents, Series *series)
 {
-    if (!begins_with_header([contents byte_data], [contents count]))
+    if (!begins_with_header(contents))
         return "it holds something else than a series";
     ZEB_String *const header = [ZEB_String link_to_chars:reinterpret_cast<char *>([contents byte_data])
                                                    count:ZEB_BINARY_HEADER_SIZE];
@@ -56,17 +89,23 @@ const char *decode_series(ZEB_Byte_Array *contents, Series *series)
     return NULL;
 }
 
-} // namespace
-
-ZEB_File *file_at(const char *path)
+/// Answers null, or what is wrong; `is_cut_short` becomes whether that is the stream's end.
+const char *load_stored(ZEB_Byte_Array *stored, Series *series, bool &is_cut_short)
 {
-    ZEB_File *const file = [[[ZEB_File alloc] init] autorelease];
-    ZEB_String *const text = [[ZEB_String alloc] init];
-    [text set_chars:path count:static_cast<uint32_t>(strlen(path))];
-    [file set_path:text];
-    [text release];
-    return file;
+    if (begins_with_header(stored))
+        return "it is not compressed";
+    ZEB_Byte_Array *const contents = [ZEB_Byte_Array array_with_capacity:0];
+    const int32_t status = ZC_decompress_bytes_to_bytes(stored, contents);
+    if (status == memory_is_short)
+        return "there is no memory for it";
+    is_cut_short =
+        holds_only_zeros(stored) || (status == is_no_whole_stream && is_beginning(stored, contents));
+    if (is_cut_short)
+        return "it is cut short";
+    return status != 0 ? "it is no store" : decode_series(contents, series);
 }
+
+} // namespace
 
 ZEB_String *encoded_series(Series *series)
 {
@@ -77,25 +116,26 @@ ZEB_String *encoded_series(Series *series)
     return contents;
 }
 
-const char *load_series(const char *path, Series *series)
+Store_State load_series(const char *path, Series *series, const char **fault)
 {
     const Quiet_Diagnostics quiet;
-    ZEB_File *const file = file_at(path);
-    [file set_report_errors:0];
-    [file refresh_status];
     ZEB_Byte_Array *const stored = [ZEB_Byte_Array array_with_capacity:0];
-    [file read_contents:stored];
-    if (begins_with_header([stored byte_data], [stored count]))
-        return "it is not compressed";
-    ZEB_Byte_Array *const contents = [ZEB_Byte_Array array_with_capacity:0];
-    if ([stored is_empty] || ZC_decompress_bytes_to_bytes(stored, contents) != 0)
-        return "it is truncated, or no store at all";
-    return decode_series(contents, series);
+    const File_Outcome outcome = read_file(path, stored, fault);
+    if (outcome != FILE_READ)
+        return outcome == FILE_MISSING ? STORE_MISSING : STORE_UNKNOWN;
+    bool is_cut_short = false;
+    *fault = load_stored(stored, series, is_cut_short);
+    if (*fault == NULL)
+        return STORE_WHOLE;
+    return is_cut_short ? STORE_CUT_SHORT : STORE_UNKNOWN;
 }
 
-BOOL store_contents(const char *path, ZEB_String *contents)
+const char *write_store(const char *path, ZEB_String *contents)
 {
     ZEB_File *const file = file_at(path);
     [file set_contents_compressed:1];
-    return [file write_contents:[contents char_data] length:[contents count]] == 1;
+    const uint32_t answer = [file write_contents:[contents char_data] length:[contents count]];
+    const int error = file != nil ? [file last_error] : ENOMEM;
+    // Where bytes were lost without an error of the platform's, the answer is 1 all the same.
+    return answer == 1 && error == 0 ? NULL : strerror(error);
 }

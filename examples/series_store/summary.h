@@ -3,5 +3,5 @@
  */
 #import "series.h"
 
-/** Prints rows, first and last date, minimum and maximum of a series. */
+/** Prints rows, first and last date, minimum and maximum of a series that is not empty. */
 void print_series(Series *series);

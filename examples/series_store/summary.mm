@@ -1,6 +1,9 @@
 #import "summary.h"
 
+#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
+
 #include <algorithm>
+#include <cmath>
 #include <stdio.h>
 
 namespace
@@ -9,7 +12,7 @@ namespace
 void print_date(const char *label, double instant)
 {
     char text[ZEB_DATE_TEXT_SIZE];
-    ZC_pretty_format_gregorian_date_from_seconds(text, instant);
+    ZC_format_iso8601_from_seconds(text, instant);
     printf("%-12s%s\n", label, text);
 }
 
@@ -20,18 +23,24 @@ void print_number(const char *label, double value)
     printf("%-12s%s\n", label, text);
 }
 
+/// A link to the values from the first number on: a not-a-number in front would stand as both extremes.
+ZEB_Double_Array *from_first_number(ZEB_Double_Array *values)
+{
+    const auto all = zeb::elements(values);
+    const auto first = std::find_if(all.begin(), all.end(), [](double value) { return !std::isnan(value); });
+    return [ZEB_Double_Array link_to_doubles:all.data() + (first - all.begin())
+                                       count:static_cast<uint32_t>(all.end() - first)];
+}
+
 } // namespace
 
 void print_series(Series *series)
 {
-    ZEB_Double_Array *const values = [series values];
-    printf("%-12s%u\n", "rows", [values count]);
-    if ([values is_empty])
-        return;
+    printf("%-12s%u\n", "rows", [[series values] count]);
     print_date("first date", [[series instants] first_double]);
     print_date("last date", [[series instants] last_double]);
-    const double *const first = [values double_data];
-    const auto extremes = std::minmax_element(first, first + [values count]);
-    print_number("minimum", *extremes.first);
-    print_number("maximum", *extremes.second);
+    double minimum = NAN, maximum = NAN;
+    [from_first_number([series values]) get_minimum_double:&minimum maximum:&maximum];
+    print_number("minimum", minimum);
+    print_number("maximum", maximum);
 }

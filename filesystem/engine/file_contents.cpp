@@ -15,58 +15,88 @@ constexpr std::size_t greatest_piece = std::size_t{1} << 30;
 
 constexpr mode_t mode_of_new_files = 0666;
 
+/// Asks again while a signal interrupts; answers what is less than 0 with the platform's error in errno.
+template <class Call>
+auto uninterrupted(Call call) noexcept
+{
+    auto answer = call();
+    while (answer < 0 && errno == EINTR)
+        answer = call();
+    return answer;
+}
+
 /// Moves `size` bytes by pieces; `move` answers how many bytes went, 0 at the end, less than 0 for an error.
 template <class Move>
-bool move_all(std::size_t size, std::size_t &count, Move move) noexcept
+int move_all(std::size_t size, std::size_t &count, Move move) noexcept
 {
     count = 0;
     while (count < size) {
-        const ssize_t moved = move(count, std::min(size - count, greatest_piece));
+        const ssize_t moved =
+            uninterrupted([&] { return move(count, std::min(size - count, greatest_piece)); });
+        if (moved < 0)
+            return errno;
         if (moved == 0)
             break;
-        if (moved > 0)
-            count += static_cast<std::size_t>(moved);
-        else if (errno != EINTR)
-            return false;
+        count += static_cast<std::size_t>(moved);
     }
-    return true;
+    return 0;
 }
 
 } // namespace
 
-Open_File Open_File::for_reading(const char *path) noexcept
+Open_File::Open_File(const char *path, int flags) noexcept
+    : descriptor(
+          uninterrupted([&] { return ::open(path, flags | O_NONBLOCK | O_CLOEXEC, mode_of_new_files); })),
+      error(descriptor < 0 ? errno : 0)
 {
-    return Open_File(::open(path, O_RDONLY | O_CLOEXEC));
 }
 
-Open_File Open_File::for_writing(const char *path) noexcept
-{
-    return Open_File(::open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode_of_new_files));
-}
+Open_File Open_File::for_reading(const char *path) noexcept { return Open_File(path, O_RDONLY); }
+
+Open_File Open_File::for_writing(const char *path) noexcept { return Open_File(path, O_WRONLY | O_CREAT); }
 
 Open_File::~Open_File() { close(); }
 
-bool Open_File::read(void *bytes, std::size_t size, std::size_t &count) noexcept
+int Open_File::read(void *bytes, std::size_t size, std::size_t &count) noexcept
 {
     return move_all(size, count, [&](std::size_t at, std::size_t piece) {
         return ::read(descriptor, static_cast<char *>(bytes) + at, piece);
     });
 }
 
-bool Open_File::write(const void *bytes, std::size_t size, std::size_t &count) noexcept
+int Open_File::write_all_and_close(const void *bytes, std::size_t size, std::size_t &count) noexcept
+{
+    count = 0;
+    int first = cut();
+    if (first == 0)
+        first = write(bytes, size, count);
+    const int last = close();
+    return first != 0 ? first : last;
+}
+
+int Open_File::cut() noexcept
+{
+    // What is no regular file has nothing to cut, and says so.
+    if (uninterrupted([&] { return ::ftruncate(descriptor, 0); }) == 0 || errno == EINVAL)
+        return 0;
+    return errno;
+}
+
+int Open_File::write(const void *bytes, std::size_t size, std::size_t &count) noexcept
 {
     return move_all(size, count, [&](std::size_t at, std::size_t piece) {
         return ::write(descriptor, static_cast<const char *>(bytes) + at, piece);
     });
 }
 
-bool Open_File::close() noexcept
+int Open_File::close() noexcept
 {
-    if (!is_open())
-        return true;
-    const int closed = ::close(descriptor);
+    if (descriptor < 0)
+        return 0;
+    // An interrupted close has closed all the same.
+    const bool is_closed = ::close(descriptor) == 0 || errno == EINTR;
     descriptor = -1;
-    return closed == 0 || errno == EINTR;
+    return is_closed ? 0 : errno;
 }
 
 } // namespace zeb

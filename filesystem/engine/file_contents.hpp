@@ -7,36 +7,40 @@
 namespace zeb
 {
 
-/// An open file descriptor, closed when it ends.
+/// An open file descriptor, closed when it ends. Nothing here waits for a partner: what would is an error.
+/// Operations answer 0, or the platform's error.
 class Open_File
 {
 public:
     /// Opens for reading.
     static Open_File for_reading(const char *path) noexcept;
 
-    /// Opens for writing; the file is made, or emptied at once.
+    /// Opens for writing; the file is made where it is missing, and keeps what it has.
     static Open_File for_writing(const char *path) noexcept;
 
     ~Open_File();
     Open_File(const Open_File &) = delete;
     Open_File &operator=(const Open_File &) = delete;
 
-    bool is_open() const noexcept { return descriptor >= 0; }
+    /// Why the file could not be opened; 0 where it was.
+    int opening_error() const noexcept { return error; }
 
-    /// Reads up to `size` bytes, to the end of the file at most, and sets `count` to how many came. False
-    /// where the platform reports an error.
-    bool read(void *bytes, std::size_t size, std::size_t &count) noexcept;
+    /// Reads up to `size` bytes, to the end of the file at most, and sets `count` to how many came.
+    int read(void *bytes, std::size_t size, std::size_t &count) noexcept;
 
-    /// Writes `size` bytes and sets `count` to how many went. False where the platform reports an error.
-    bool write(const void *bytes, std::size_t size, std::size_t &count) noexcept;
-
-    /// Closes the file; false where the platform then reports an error of an earlier write.
-    bool close() noexcept;
+    /// Cuts what the file had, writes `size` bytes, sets `count` to how many went, and closes the file. The
+    /// first error counts; one that the closing tells is that of an earlier write.
+    int write_all_and_close(const void *bytes, std::size_t size, std::size_t &count) noexcept;
 
 private:
-    explicit Open_File(int descriptor) noexcept : descriptor(descriptor) {}
+    Open_File(const char *path, int flags) noexcept;
+
+    int cut() noexcept;
+    int write(const void *bytes, std::size_t size, std::size_t &count) noexcept;
+    int close() noexcept;
 
     int descriptor;
+    int error;
 };
 
 } // namespace zeb

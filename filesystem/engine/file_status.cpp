@@ -1,5 +1,6 @@
 #include "filesystem/engine/file_status.hpp"
 
+#include <cerrno>
 #include <sys/stat.h>
 
 namespace zeb
@@ -42,11 +43,11 @@ void add(Access_Rights &rights, Access_Rights further) noexcept
 
 } // namespace
 
-bool read_status(const char *path, File_Status &status) noexcept
+int read_status(const char *path, File_Status &status) noexcept
 {
     struct stat found;
     if (stat(path, &found) != 0)
-        return false;
+        return errno;
     status.kind = kind_of(found.st_mode);
     status.size = static_cast<std::uint64_t>(found.st_size);
     status.owner = rights_of(found.st_mode, 6);
@@ -63,7 +64,7 @@ bool read_status(const char *path, File_Status &status) noexcept
 #endif
     status.uid = found.st_uid;
     status.gid = found.st_gid;
-    return true;
+    return 0;
 }
 
 Access_Rights effective_rights(const File_Status &status, bool is_owner, bool is_in_group,

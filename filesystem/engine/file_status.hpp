@@ -28,9 +28,9 @@ struct File_Status {
     std::uint32_t gid;
 };
 
-/// Reads the status of what a null-terminated path leads to, symbolic links followed. Answers false, and
-/// leaves `status` alone, where nothing is there.
-bool read_status(const char *path, File_Status &status) noexcept;
+/// Reads the status of what a null-terminated path leads to, symbolic links followed. Answers 0, or the
+/// platform's error, and then leaves `status` alone.
+int read_status(const char *path, File_Status &status) noexcept;
 
 /// The rights that a process has to an entry: those of the owner where the process is its owner, and
 /// beside them those of the group, where it is in that, and of others. `before` is what is kept of a

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -59,18 +60,22 @@ TEST_F(File_Contents, failures_to_read_are_told_and_leave_nothing)
         ZEB_Byte_Array *const target = bytes("old");
         const std::string line = standard_error_of([&] { [file read_contents:target]; });
         EXPECT_EQ([target count], 0u);
-        return line;
+        return line + std::to_string([file last_error]);
     };
-    EXPECT_EQ(read(entry(path)), "Error opening file: " + path + "\n");
+    const auto number = [](int error) { return "\n" + std::to_string(error); };
+    EXPECT_EQ(read(entry(path)), "Error opening file: " + path + number(ENOENT));
     EXPECT_EQ(read(entry(folder / "empty")),
-              "Error, zero content size for file: " + (folder / "empty") + "\n");
-    EXPECT_EQ(read(entry(folder.path)), "Error reading contents of file: " + folder.path + "\n");
+              "Error, zero content size for file: " + (folder / "empty") + number(ENODATA));
+    EXPECT_EQ(read(entry(folder.path)), "Error reading contents of file: " + folder.path + number(EISDIR));
     ZEB_File *const plain = entry(folder / "plain");
     [plain set_contents_compressed:1];
-    EXPECT_EQ(read(plain),
-              "Error: Decompress failed while reading contents of file: " + (folder / "plain") + "\n");
+    EXPECT_EQ(read(plain), "Error: Decompress failed while reading contents of file: " + (folder / "plain") +
+                               number(EILSEQ));
     [plain set_report_errors:0];
-    EXPECT_EQ(read(plain), "");
+    EXPECT_EQ(read(plain), std::to_string(EILSEQ));
+    put_file(folder / "huge", "");
+    ASSERT_EQ(truncate((folder / "huge").c_str(), off_t{5} << 30), 0);
+    EXPECT_NE(read(entry(folder / "huge")).find(number(ENOMEM)), std::string::npos);
 }
 
 TEST_F(File_Contents, a_file_that_shrank_is_told_and_reads_as_zero_behind_its_end)
@@ -84,22 +89,44 @@ TEST_F(File_Contents, a_file_that_shrank_is_told_and_reads_as_zero_behind_its_en
         "Warning: Discrepancy in actual length read 6 v.s. content size 12 while reading contents of file: " +
             path + "\n");
     EXPECT_EQ(text_of_bytes(target), std::string("six by") + std::string(6, '\0'));
+    EXPECT_EQ([file last_error], ENODATA);
+}
+
+TEST_F(File_Contents, a_fifo_without_a_partner_is_a_failure)
+{
+    put_file(path, "old");
+    ZEB_File *const file = entry(path);
+    unlink(path.c_str());
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    alarm(20);
+    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([file write_contents:"x" length:1], 0u); }),
+              "Error opening file: " + path + "\n");
+    EXPECT_EQ([file last_error], ENXIO);
+    standard_error_of([&] { [file read_contents:bytes("old")]; });
+    EXPECT_EQ([file last_error], ENODATA);
+    alarm(0);
 }
 
 TEST_F(File_Contents, failures_to_write_are_told)
 {
-    const std::string nowhere = folder / "missing/data";
-    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([entry(nowhere) write_contents:"x" length:1], 0u); }),
-              "Error opening file: " + nowhere + "\n");
-    if (access("/dev/full", W_OK) == 0) {
-        EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([entry("/dev/full") write_contents:"x" length:1], 0u); }),
-                  "Error writing contents to file: /dev/full\n");
-    }
+    const auto expect = [](const std::string &to, const char *message, int error) {
+        ZEB_File *const file = entry(to);
+        EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([file write_contents:"x" length:1], 0u); }),
+                  message + to + "\n");
+        EXPECT_EQ([file last_error], error) << to;
+    };
+    expect(folder / "missing/data", "Error opening file: ", ENOENT);
+    expect(folder.path, "Error opening file: ", EISDIR);
+    if (access("/dev/full", W_OK) == 0)
+        expect("/dev/full", "Error writing contents to file: ", ENOSPC);
     // A path with a null inside is no path of the platform's.
-    EXPECT_EQ(standard_error_of(
-                  [&] { EXPECT_EQ([entry(path + std::string("\0x", 2)) write_contents:"x" length:1], 0u); }),
-              "Error opening file: " + path + std::string("\0x", 2) + "\n");
+    expect(path + std::string("\0x", 2), "Error opening file: ", EINVAL);
     EXPECT_EQ(access(path.c_str(), F_OK), -1);
+}
+
+TEST_F(File_Contents, a_device_takes_what_it_is_given)
+{
+    EXPECT_EQ([entry("/dev/null") write_contents:"x" length:1], 1u);
 }
 
 TEST_F(File_Contents, backstore_sets_aside_and_restore_brings_back)

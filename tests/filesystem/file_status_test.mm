@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -49,6 +50,31 @@ TEST(File_Status, of_nothing_clears_existence_and_size_alone)
     EXPECT_EQ([file exists], 0);
     EXPECT_EQ([file size], 0u);
     EXPECT_EQ([file kind], ZEB_File_Kind { ZEB_FILE_KIND_REGULAR });
+}
+
+TEST(File_Status, that_cannot_be_read_keeps_the_reason)
+{
+    const Scratch_Folder folder;
+    put_file(folder / "file", "1");
+    symlink("loop", (folder / "loop").c_str());
+    const std::pair<std::string, int> rows[] = {
+        {folder / "file", 0},
+        {folder / "missing", 0},
+        {folder / "missing/below", 0},
+        {folder / "file/it", 0},
+        {folder / "loop", ELOOP},
+        {folder / std::string(300, 'n'), ENAMETOOLONG},
+        {std::string("a\0b", 3), EINVAL},
+        {"", 0},
+    };
+    for (const auto &[path, error] : rows) {
+        ZEB_File *const file = entry(path);
+        EXPECT_EQ([file last_error], error) << path;
+        EXPECT_EQ([[[file copy] autorelease] last_error], error) << path;
+        [file set_path:text(folder.path)];
+        [file refresh_status];
+        EXPECT_EQ([file last_error], 0);
+    }
 }
 
 TEST(File_Status, details_are_loaded_when_wanted)

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <unistd.h>
 #include <vector>
 
@@ -40,6 +41,28 @@ ACT(intercept_write_contents : (ZEB_File *)file bytes : (const void *)bytes leng
 ACT(intercept_copy_to : (ZEB_File *)file destination : (ZEB_String *)destination)
 ACT(intercept_move_to : (ZEB_File *)file destination : (ZEB_String *)destination)
 ACT(intercept_backstore : (ZEB_File *)file)
+
+@end
+
+/// Decides, and acts on nothing but a status.
+@interface Sparse_Interceptor : ZEB_Object <ZEB_File_Interceptor> {
+@public
+    uint32_t decision;
+}
+@end
+
+@implementation Sparse_Interceptor
+
+- (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file
+{
+    return decision;
+}
+
+- (uint32_t)intercept_refresh_status:(ZEB_File *)file
+{
+    [file set_last_error:EREMOTE];
+    return 0;
+}
 
 @end
 
@@ -126,4 +149,28 @@ TEST(Interceptor, any_other_code_lets_the_entry_act)
     EXPECT_EQ(outcome.read, "new");
     EXPECT_EQ(outcome.acted, 0u);
     EXPECT_EQ(outcome.path, suffix);
+}
+
+TEST(Interceptor, that_lacks_an_operation_lets_the_entry_act)
+{
+    const Scratch_Folder folder;
+    const std::string path = folder / "file";
+    ZEB_File *const file = entry(path);
+    // An object without any of the operations is one too.
+    [file set_interceptor:static_cast<id>([[[ZEB_Object alloc] init] autorelease])];
+    EXPECT_EQ([file write_contents:"one" length:3], 1u);
+    Sparse_Interceptor *const sparse = [[[Sparse_Interceptor alloc] init] autorelease];
+    [file set_interceptor:sparse];
+    for (const uint32_t decision : {2u, 3u}) {
+        sparse->decision = decision;
+        EXPECT_EQ([file write_contents:"two" length:3], 1u);
+        EXPECT_EQ(file_text(path), "two");
+        EXPECT_EQ([file refresh_status], 0u);
+        EXPECT_EQ([file last_error], EREMOTE);
+    }
+    EXPECT_EQ([file backstore], 1u);
+    EXPECT_EQ([file last_error], 0);
+    sparse->decision = ZEB_INTERCEPT_REFUSE;
+    EXPECT_EQ([file write_contents:"three" length:5], 0u);
+    EXPECT_EQ([file last_error], ECANCELED);
 }

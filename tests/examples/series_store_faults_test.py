@@ -1,0 +1,129 @@
+"""Lets every call of the series store to the platform fail in turn, and kills it before each; what then lies
+on the disk is held against the exit status, and a run without faults must get past it."""
+
+import concurrent.futures
+import errno
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+program, library = sys.argv[1:]
+ANSWERS_0, DOES_HALF, IS_THE_LAST = 0, -1, -2
+
+# Calls, and what becomes of them: of one of them, or, with "+", also of all behind it. Those of the second
+# kind are no failures.
+failing = [("open", errno.EIO), ("read", errno.EIO), ("read", ANSWERS_0), ("write", errno.ENOSPC),
+           ("write", ANSWERS_0), ("close", errno.EIO), ("rename", errno.EIO), ("ftruncate", errno.EIO),
+           ("stat", errno.EIO), ("stat", errno.EACCES), ("memory", errno.ENOMEM), ("file", IS_THE_LAST),
+           ("rename+", errno.EIO), ("memory+", errno.ENOMEM)]
+harmless = [("open", errno.EINTR), ("read", errno.EINTR), ("read", DOES_HALF), ("write", errno.EINTR),
+            ("write", DOES_HALF), ("close", errno.EINTR), ("ftruncate", errno.EINTR)]
+failures = []
+passed = set()  # what was found on the disk, and got past
+
+
+def check(condition, what):
+    if not condition:
+        failures.append(what)
+        print("FAILED:", what)
+
+
+def rows(first, count):
+    return "".join(f"{1 + i % 12}/{1 + i % 28}/{2000 + i // 12},{first + i}\n" for i in range(count))
+
+
+def put(folder, files):
+    for name, contents in files.items():
+        (folder / name).write_bytes(contents)
+
+
+def run(folder, call="", number=0, outcome=0, counts=None):
+    environment = dict(os.environ)
+    if call:
+        environment.update(LD_PRELOAD=library, ZEB_FAILING_FOLDER=str(folder), ZEB_FAILING_CALL=call,
+                           ZEB_FAILING_NUMBER=str(number), ZEB_FAILING_OUTCOME=str(outcome))
+    if counts:
+        environment["ZEB_FAILING_COUNTS"] = str(counts)
+    return subprocess.run([program, str(folder / "csv"), str(folder / "store")], env=environment,
+                          capture_output=True, text=True)
+
+
+def files_of(folder):
+    return {path.name: path.read_bytes() for path in folder.iterdir() if path.name != "csv"}
+
+
+def check_fault(name, before, after, call, number, outcome):
+    """`before` are the files that the run finds; of them `old` is the one that it must not lose."""
+    what = f"{name}: {call} {number}, outcome {outcome}"
+    old = before.get("store") if before.get("store") in whole else before.get("store~")
+    with tempfile.TemporaryDirectory() as place:
+        folder = pathlib.Path(place)
+        put(folder, {"csv": csv, **before})
+        result = run(folder, call, number, outcome)
+        found = files_of(folder)
+        told = f"{what}: status {result.returncode}, {sorted(found)}, {result.stderr!r}"
+        if result.returncode == 0:
+            check(found == after, f"{told}: success, and not what was asked for")
+        else:
+            expected = (1,) if outcome != IS_THE_LAST else (-9,)
+            check(result.returncode in expected, f"{told}: how it ended")
+            check(result.returncode != 1 or result.stderr, f"{told}: says nothing")
+            check((call, outcome) not in harmless, f"{told}: fails for nothing")
+            store = found.get("store")
+            check(store in (before.get("store"), new, None), f"{told}: the store is none")
+            check(old is None or old in (store, found.get("store~")), f"{told}: the old store is lost")
+        state = tuple(sorted(found.items()))
+        if state in passed:
+            return
+        result = run(folder)
+        found = files_of(folder)
+        passed.add(state)
+        check(result.returncode == 0, f"{told}: the next run fails: {result.stderr!r}")
+        check(found.get("store") == new, f"{told}: the next run stores")
+        check("store~new" not in found, f"{told}: the next run leaves something")
+
+
+def count_calls(before):
+    with tempfile.TemporaryDirectory() as place, tempfile.TemporaryDirectory() as other:
+        folder, counts = pathlib.Path(place), pathlib.Path(other) / "counts"
+        put(folder, {"csv": csv, **before})
+        check(run(folder, "file", 0, 0, counts).returncode == 0, "a run without faults")
+        return files_of(folder), {line.split()[0]: int(line.split()[1])
+                                  for line in counts.read_text().splitlines()}
+
+
+def store_of(text):
+    with tempfile.TemporaryDirectory() as place:
+        put(pathlib.Path(place), {"csv": text})
+        check(run(pathlib.Path(place)).returncode == 0, "a run")
+        return files_of(pathlib.Path(place))["store"]
+
+
+csv = rows(0.5, 300).encode()
+new, old, older = store_of(csv), store_of(rows(1000, 200).encode()), store_of(rows(2000, 100).encode())
+whole = (new, old, older)
+every = {call for call, outcome in failing + harmless} - {"memory+"}
+# What the run finds, what of it is set aside afterwards, and the calls that are of interest there.
+starts = {
+    "a store and one set aside": ({"store": old, "store~": older}, old, every),
+    "nothing": ({}, None, {"rename", "stat", "file"}),
+    "a store only set aside, as between renames": ({"store~": old, "store~new": new}, old, {"stat", "file"}),
+    "a store cut short": ({"store": old[:200], "store~": older, "store~new": new[:100]}, older,
+                          {"rename", "stat", "memory+", "file"}),
+}
+jobs = []
+for name, (before, aside, interesting) in starts.items():
+    after, calls = count_calls(before)
+    check((after["store"], after.get("store~"), len(after)) == (new, aside, 2 if aside else 1),
+          f"{name}: {sorted(after)}")
+    print(name, calls)
+    check(calls["memory"] > 5 and calls["rename"] > 0, f"{name}: calls are counted")
+    jobs += [(name, before, after, call, number, outcome) for call, outcome in failing + harmless
+             if call in interesting for number in range(1, calls[call.rstrip("+")] + 1)]
+with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+    for job in [pool.submit(check_fault, *job) for job in jobs]:
+        job.result()
+print(f"{len(jobs)} faults, {len(failures)} failed")
+sys.exit(1 if failures else 0)

@@ -1,0 +1,206 @@
+#define _GNU_SOURCE
+#include "failing_calls.h"
+
+#include <dlfcn.h>
+#include <errno.h>
+#include <fcntl.h>
+#include <limits.h>
+#include <signal.h>
+#include <stdarg.h>
+#include <stdatomic.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+enum { OPEN, READ, WRITE, CLOSE, RENAME, FTRUNCATE, STAT, REMOVE, MEMORY, ANY_FILE, CALL_COUNT };
+
+static const char *const call_names[CALL_COUNT] = {"open",      "read", "write",  "close",  "rename",
+                                                   "ftruncate", "stat", "remove", "memory", "file"};
+
+static char folder[4096];
+static int planned_call = CALL_COUNT;
+static unsigned first_number, last_number;
+static int outcome;
+static atomic_uint calls[CALL_COUNT];
+static unsigned char is_watched[1024];
+
+static int call_named(const char *name)
+{
+    const size_t length = strcspn(name, "+");
+    int call = 0;
+    while (call < CALL_COUNT &&
+           (strlen(call_names[call]) != length || strncmp(call_names[call], name, length) != 0))
+        ++call;
+    return call;
+}
+
+void zeb_plan_failure(const char *new_folder, const char *call, unsigned number, int new_outcome)
+{
+    planned_call = CALL_COUNT;
+    snprintf(folder, sizeof folder, "%s", new_folder);
+    for (int i = 0; i < CALL_COUNT; ++i)
+        atomic_store(&calls[i], 0);
+    first_number = number;
+    last_number = strchr(call, '+') != NULL ? UINT_MAX : number;
+    outcome = new_outcome;
+    planned_call = call_named(call);
+}
+
+unsigned zeb_calls_made(const char *call) { return atomic_load(&calls[call_named(call)]); }
+
+__attribute__((constructor)) static void take_plan_from_environment(void)
+{
+    const char *const where = getenv("ZEB_FAILING_FOLDER");
+    if (where != NULL)
+        zeb_plan_failure(where, getenv("ZEB_FAILING_CALL"), (unsigned)atoi(getenv("ZEB_FAILING_NUMBER")),
+                         atoi(getenv("ZEB_FAILING_OUTCOME")));
+}
+
+__attribute__((destructor)) static void tell_counts(void)
+{
+    const char *const path = getenv("ZEB_FAILING_COUNTS");
+    FILE *const file = path != NULL ? fopen(path, "w") : NULL;
+    if (file == NULL)
+        return;
+    for (int i = 0; i < CALL_COUNT; ++i)
+        fprintf(file, "%s %u\n", call_names[i], atomic_load(&calls[i]));
+    fclose(file);
+}
+
+static int is_planned(unsigned number) { return number >= first_number && number <= last_number; }
+
+/* Counts a call, and whether it is the planned one. */
+static int is_due(int call)
+{
+    const unsigned number = atomic_fetch_add(&calls[call], 1) + 1;
+    int due = planned_call == call && is_planned(number);
+    if (call != MEMORY) {
+        const unsigned any = atomic_fetch_add(&calls[ANY_FILE], 1) + 1;
+        due = due || (planned_call == ANY_FILE && is_planned(any));
+    }
+    if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE)
+        raise(SIGKILL);
+    return due;
+}
+
+static int is_inside(const char *path)
+{
+    return *folder != '\0' && strncmp(path, folder, strlen(folder)) == 0;
+}
+
+static int is_watched_file(int file)
+{
+    return file >= 0 && file < (int)sizeof is_watched && is_watched[file];
+}
+
+static int refusal(void)
+{
+    errno = outcome;
+    return outcome > 0 ? -1 : 0;
+}
+
+#define PLATFORM(name) ((__typeof__(&name))dlsym(RTLD_NEXT, #name))
+
+int open(const char *path, int flags, ...)
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = flags & O_CREAT ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    if (!is_inside(path))
+        return PLATFORM(open)(path, flags, mode);
+    if (is_due(OPEN))
+        return refusal();
+    const int file = PLATFORM(open)(path, flags, mode);
+    if (file >= 0 && file < (int)sizeof is_watched)
+        is_watched[file] = 1;
+    return file;
+}
+
+ssize_t read(int file, void *bytes, size_t size)
+{
+    if (!is_watched_file(file) || !is_due(READ))
+        return PLATFORM(read)(file, bytes, size);
+    return outcome >= 0 ? refusal() : PLATFORM(read)(file, bytes, size / 2);
+}
+
+ssize_t write(int file, const void *bytes, size_t size)
+{
+    if (!is_watched_file(file) || !is_due(WRITE))
+        return PLATFORM(write)(file, bytes, size);
+    if (outcome >= 0)
+        return refusal();
+    const ssize_t written = PLATFORM(write)(file, bytes, size / 2);
+    if (outcome == ZEB_CALL_IS_THE_LAST)
+        raise(SIGKILL);
+    return written;
+}
+
+int close(int file)
+{
+    if (!is_watched_file(file))
+        return PLATFORM(close)(file);
+    const int due = is_due(CLOSE);
+    is_watched[file] = 0;
+    const int closed = PLATFORM(close)(file);
+    return due ? refusal() : closed;
+}
+
+int ftruncate(int file, off_t size)
+{
+    if (is_watched_file(file) && is_due(FTRUNCATE))
+        return refusal();
+    return PLATFORM(ftruncate)(file, size);
+}
+
+int rename(const char *from, const char *to)
+{
+    if (is_inside(from) && is_due(RENAME))
+        return refusal();
+    return PLATFORM(rename)(from, to);
+}
+
+int remove(const char *path)
+{
+    if (is_inside(path) && is_due(REMOVE))
+        return refusal();
+    return PLATFORM(remove)(path);
+}
+
+int stat(const char *restrict path, struct stat *restrict found)
+{
+    if (is_inside(path) && is_due(STAT))
+        return refusal();
+    return PLATFORM(stat)(path, found);
+}
+
+/* The C library's own names for these, which serve before the loader can be asked for others. */
+void *__libc_malloc(size_t size);
+void *__libc_calloc(size_t count, size_t size);
+void *__libc_realloc(void *block, size_t size);
+
+/* The Objective-C runtime ends the process where it gets no memory: it is spared. */
+static int is_the_runtime(const void *caller)
+{
+    Dl_info place;
+    return dladdr(caller, &place) != 0 &&
+           (strstr(place.dli_fname, "libobjc") != NULL || strstr(place.dli_fname, "libgnustep") != NULL);
+}
+
+static int is_refused_memory(const void *caller)
+{
+    if (atomic_load(&calls[ANY_FILE]) == 0 || is_the_runtime(caller) || !is_due(MEMORY))
+        return 0;
+    errno = ENOMEM;
+    return 1;
+}
+
+#define UNLESS_REFUSED(call) return is_refused_memory(__builtin_return_address(0)) ? NULL : (call)
+
+void *malloc(size_t size) { UNLESS_REFUSED(__libc_malloc(size)); }
+
+void *calloc(size_t count, size_t size) { UNLESS_REFUSED(__libc_calloc(count, size)); }
+
+void *realloc(void *block, size_t size) { UNLESS_REFUSED(__libc_realloc(block, size)); }

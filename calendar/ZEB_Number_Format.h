@@ -57,7 +57,8 @@ ZEB_EXPORT
 - (uint32_t)result_kind;
 - (void)set_result_kind:(uint32_t)value;
 
-/** 0, or 201 when the last number was infinite or none, or its text could not be made. */
+/** 0, or 201 when the last number was infinite or NaN, or `format_fixed:` could not make its text. What
+    `format_value:` writes as "Err" leaves 0, and `result_kind` 0. */
 - (uint32_t)error_code;
 - (void)set_error_code:(uint32_t)value;
 

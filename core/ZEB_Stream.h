@@ -12,7 +12,8 @@
  *
  * Numbers go through printf formats that the stream holds, one for each type. Formats are not copied: the
  * caller keeps their text alive. A format is the caller's code and is not checked; a null one stands for
- * the type's first format, as listed below.
+ * the type's first format, as listed below. Numbers are written and read as in the "C" locale, whatever
+ * locale the application has set.
  *
  * Results of printf, scanf and fwrite are ignored here. Nothing is locked.
  */

@@ -2,6 +2,7 @@
 
 #import <Korvane_ZEB/ZEB_String.h>
 
+#include "core/engine/c_locale.hpp"
 #include "core/engine/c_text.hpp"
 #include "core/engine/scan_format.hpp"
 #include "core/engine/stream_formats.hpp"
@@ -13,6 +14,7 @@ void put_value(ZEB_Stream *stream, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
+    const zeb::C_Locale_Scope in_c_locale;
     [stream put_format:format arguments:arguments];
     va_end(arguments);
 }
@@ -21,6 +23,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
+    const zeb::C_Locale_Scope in_c_locale;
     [stream take_format:format arguments:arguments];
     va_end(arguments);
 }

@@ -1,6 +1,6 @@
 #include "calendar/engine/date_scanning.hpp"
 
-#include "calendar/engine/c_locale.hpp"
+#include "core/engine/c_locale.hpp"
 #include "calendar/engine/decimal_scan.hpp"
 #include "calendar/engine/julian_day.hpp"
 #include "calendar/engine/wrapping.hpp"

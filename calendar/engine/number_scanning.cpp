@@ -1,7 +1,7 @@
 #include "calendar/engine/number_scanning.hpp"
 
 #include "calendar/engine/ascii.hpp"
-#include "calendar/engine/c_locale.hpp"
+#include "core/engine/c_locale.hpp"
 
 #include <algorithm>
 #include <cmath>

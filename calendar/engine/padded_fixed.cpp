@@ -1,6 +1,6 @@
 #include "calendar/engine/padded_fixed.hpp"
 
-#include "calendar/engine/c_locale.hpp"
+#include "core/engine/c_locale.hpp"
 
 #include <cstdio>
 

@@ -1,6 +1,7 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
 #include "tests/support/captured.hpp"
+#include "tests/support/comma_locale.hpp"
 
 #include <gtest/gtest.h>
 
@@ -106,13 +107,19 @@ TEST(Stream, receiving_is_not_implemented_and_says_so_on_standard_output)
               "Need to implement ZEB_receive_delimited_list:\nNeed to implement ZEB_receive_list:\n");
 }
 
+TEST_F(Comma_Locale, streams_write_and_read_a_full_stop)
+{
+    const support::Given_Input input("2.5");
+    EXPECT_EQ([[ZEB_Stream shared_stream] read_double], 2.5);
+    EXPECT_EQ(standard_output_of([&] { [[ZEB_Stream shared_stream] write_double:2.5]; }), "2.5");
+    ZEB_Double_Array *const values = [[[ZEB_Double_Array alloc] init] autorelease];
+    [values append_double:-0.5];
+    EXPECT_STREQ([[values description] UTF8String], "{-0.5}");
+}
+
 TEST(Stream, readers_scan_standard_input)
 {
-    FILE *const input = tmpfile();
-    fputs("2.5 -3 4000000000 0.5 x 7.25 9 1.5 [8.5 \xFF", input);
-    rewind(input);
-    const int saved = dup(STDIN_FILENO);
-    dup2(fileno(input), STDIN_FILENO);
+    const support::Given_Input input("2.5 -3 4000000000 0.5 x 7.25 9 1.5 [8.5 \xFF");
     ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
     EXPECT_EQ([stream read_double], 2.5);
     EXPECT_EQ([stream read_int], -3);
@@ -124,9 +131,6 @@ TEST(Stream, readers_scan_standard_input)
     EXPECT_EQ([stream read_double_with_format:" %*[%g[]%70g"], 8.5);
     EXPECT_EQ([stream read_char_with_format:" %c"], -1);
     EXPECT_EQ([stream read_int], 0);
-    dup2(saved, STDIN_FILENO);
-    close(saved);
-    fclose(input);
 }
 
 @interface Forgetful_Stream : ZEB_Stream {

@@ -1,4 +1,4 @@
-/// What is written onto a standard stream while a piece of code runs.
+/// What is written onto a standard stream, or read from one, while a piece of code runs.
 #pragma once
 
 #include <cstdio>
@@ -52,6 +52,30 @@ private:
     FILE *stream;
     FILE *file;
     int saved = -1;
+};
+
+/// Lets the process read a text as its standard input for as long as this object lives.
+class Given_Input
+{
+public:
+    explicit Given_Input(const char *text) : file(std::tmpfile()), saved(dup(STDIN_FILENO))
+    {
+        std::fputs(text, file);
+        std::rewind(file);
+        dup2(fileno(file), STDIN_FILENO);
+        std::clearerr(stdin);
+    }
+
+    ~Given_Input()
+    {
+        dup2(saved, STDIN_FILENO);
+        close(saved);
+        std::fclose(file);
+    }
+
+private:
+    FILE *file;
+    int saved;
 };
 
 template <class Work>

@@ -1,4 +1,4 @@
-#include "calendar/engine/c_locale.hpp"
+#include "core/engine/c_locale.hpp"
 
 namespace zeb
 {

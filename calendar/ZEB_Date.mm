@@ -2,7 +2,7 @@
 
 #import "core/ZEB_Description_Stream_Private.h"
 
-#include "calendar/engine/date_hash.hpp"
+#include "calendar/engine/date_time.hpp"
 #include "calendar/engine/local_time.hpp"
 #include "core/engine/notice.hpp"
 

@@ -4,8 +4,8 @@
 
 #import "core/ZEB_Description_Stream_Private.h"
 
-#include "calendar/engine/date_hash.hpp"
 #include "calendar/engine/date_text.hpp"
+#include "calendar/engine/date_time.hpp"
 #include "calendar/engine/local_time.hpp"
 #include "core/engine/notice.hpp"
 

@@ -3,7 +3,7 @@
 #include "benchmarks/calendar/samples.hpp"
 #include "benchmarks/common/rows.hpp"
 
-#include "calendar/ZEB_Number_Functions.h"
+#include "numbers/ZEB_Number_Functions.h"
 
 #include <charconv>
 #include <cstdio>

@@ -1,9 +1,9 @@
 #include "calendar/engine/date_scanning.hpp"
 
-#include "core/engine/c_locale.hpp"
 #include "calendar/engine/decimal_scan.hpp"
 #include "calendar/engine/julian_day.hpp"
 #include "calendar/engine/wrapping.hpp"
+#include "core/engine/c_locale.hpp"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,9 +1,8 @@
 #include "calendar/engine/date_text.hpp"
 
 #include "calendar/engine/decimal_scan.hpp"
-#include "calendar/engine/fixed_text.hpp"
-#include "calendar/engine/slash_date.hpp"
-#include "calendar/engine/unsigned_text.hpp"
+#include "numbers/engine/fixed_text.hpp"
+#include "numbers/engine/unsigned_text.hpp"
 
 namespace zeb
 {
@@ -64,6 +63,15 @@ Date_Time read_spaced_text(const char *chars, std::uint32_t length) noexcept
                                      static_cast<std::uint64_t>(std::int64_t{nanoseconds}));
     update_date(value);
     return value;
+}
+
+char *put_slash_date(char *out, ZEB_Gregorian_Date date) noexcept
+{
+    out = put_signed(out, date.month);
+    *out++ = '/';
+    out = put_signed(out, date.day);
+    *out++ = '/';
+    return put_signed(out, date.year);
 }
 
 } // namespace zeb

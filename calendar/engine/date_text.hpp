@@ -26,4 +26,8 @@ char *write_time_stamp(char *buffer, ZEB_Time_Value time) noexcept;
 /// field where the reading stopped, and all after it, is 0; then every date field is brought into its range.
 Date_Time read_spaced_text(const char *chars, std::uint32_t length) noexcept;
 
+/// Puts month/day/year as plain decimal integers; at most 35 characters and no terminating null. Returns the
+/// position after the last character.
+char *put_slash_date(char *out, ZEB_Gregorian_Date date) noexcept;
+
 } // namespace zeb

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/engine/hash.hpp"
+
 #include <Korvane_ZEB/ZEB_Types.h>
 
 #include <cstdint>
@@ -43,5 +45,16 @@ bool is_equal(const Date_Time &a, const Date_Time &b) noexcept;
 
 /// Whether `a` is not later than `b`, by day number, then second, then nanosecond.
 bool is_at_or_before(const Date_Time &a, const Date_Time &b) noexcept;
+
+/// Hashes that agree with the equality of dates and times, for hash tables in memory.
+inline std::uint64_t hash_of(const ZEB_Time_Value &time) noexcept
+{
+    return stir(stir(0, time.second), time.nanosecond);
+}
+
+inline std::uint64_t hash_of(const Date_Time &value) noexcept
+{
+    return stir(hash_of(value.time), static_cast<std::uint32_t>(value.julian_day));
+}
 
 } // namespace zeb

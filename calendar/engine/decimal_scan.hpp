@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calendar/engine/ascii.hpp"
+#include "core/engine/ascii.hpp"
 
 #include <cstdint>
 #include <limits>

@@ -1,10 +1,10 @@
 #include "calendar/engine/instant.hpp"
 
-#include "calendar/engine/fixed_text.hpp"
+#include "calendar/engine/date_text.hpp"
 #include "calendar/engine/julian_day.hpp"
-#include "calendar/engine/slash_date.hpp"
-#include "calendar/engine/unsigned_text.hpp"
-#include "calendar/engine/wide_product.hpp"
+#include "numbers/engine/fixed_text.hpp"
+#include "numbers/engine/unsigned_text.hpp"
+#include "numbers/engine/wide_product.hpp"
 
 #include <cstdint>
 #include <limits>

@@ -2,9 +2,9 @@
 
 #include "calendar/engine/civil_date.hpp"
 #include "calendar/engine/decimal_scan.hpp"
-#include "calendar/engine/fixed_text.hpp"
 #include "calendar/engine/instant.hpp"
-#include "calendar/engine/unsigned_text.hpp"
+#include "numbers/engine/fixed_text.hpp"
+#include "numbers/engine/unsigned_text.hpp"
 
 namespace zeb
 {

@@ -1,6 +1,6 @@
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "calendar/engine/date_text.hpp"
-#include "tests/calendar/guarded_text.hpp"
+#include "tests/support/guarded_text.hpp"
 #include "tests/calendar/random_text.hpp"
 #include "tests/reference/calendar_arithmetic.hpp"
 

@@ -1,7 +1,7 @@
 #include "calendar/ZEB_Calendar_Functions.h"
-#include "calendar/ZEB_Number_Functions.h"
+#include "numbers/ZEB_Number_Functions.h"
 #include "calendar/engine/date_text.hpp"
-#include "calendar/engine/number_format.hpp"
+#include "numbers/engine/number_format.hpp"
 #include "tests/reference/number_scanning.hpp"
 #include "tests/support/comma_locale.hpp"
 

@@ -1,7 +1,7 @@
 #include "tests/exhaustive/sweeps.hpp"
 
 #include "calendar/ZEB_Calendar_Functions.h"
-#include "calendar/ZEB_Number_Functions.h"
+#include "numbers/ZEB_Number_Functions.h"
 #include "tests/reference/calendar.hpp"
 #include "tests/reference/number_text.hpp"
 

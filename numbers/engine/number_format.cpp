@@ -1,7 +1,7 @@
-#include "calendar/engine/number_format.hpp"
+#include "numbers/engine/number_format.hpp"
 
-#include "calendar/engine/padded_fixed.hpp"
-#include "calendar/engine/pretty_number.hpp"
+#include "numbers/engine/padded_fixed.hpp"
+#include "numbers/engine/pretty_number.hpp"
 
 #include <cmath>
 #include <cstring>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calendar/engine/scientific_form.hpp"
+#include "numbers/engine/scientific_form.hpp"
 
 namespace zeb
 {

@@ -1,8 +1,8 @@
-#include "calendar/engine/fixed_text.hpp"
+#include "numbers/engine/fixed_text.hpp"
 
-#include "calendar/engine/digits.hpp"
-#include "calendar/engine/exponent_text.hpp"
-#include "calendar/engine/unsigned_text.hpp"
+#include "numbers/engine/digits.hpp"
+#include "numbers/engine/exponent_text.hpp"
+#include "numbers/engine/unsigned_text.hpp"
 
 #include <algorithm>
 #include <cmath>

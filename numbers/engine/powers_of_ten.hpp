@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calendar/engine/wide_product.hpp"
+#include "numbers/engine/wide_product.hpp"
 
 #include <cstdint>
 

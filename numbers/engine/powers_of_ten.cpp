@@ -1,4 +1,4 @@
-#include "calendar/engine/powers_of_ten.hpp"
+#include "numbers/engine/powers_of_ten.hpp"
 
 #include <cstddef>
 

@@ -1,11 +1,11 @@
-#include "calendar/ZEB_Number_Functions.h"
+#include "numbers/ZEB_Number_Functions.h"
 
-#include "calendar/engine/fixed_text.hpp"
-#include "calendar/engine/number_scanning.hpp"
-#include "calendar/engine/pretty_number.hpp"
-#include "calendar/engine/scientific_form.hpp"
-#include "calendar/engine/special_value_scan.hpp"
-#include "calendar/engine/unsigned_text.hpp"
+#include "numbers/engine/fixed_text.hpp"
+#include "numbers/engine/number_scanning.hpp"
+#include "numbers/engine/pretty_number.hpp"
+#include "numbers/engine/scientific_form.hpp"
+#include "numbers/engine/special_value_scan.hpp"
+#include "numbers/engine/unsigned_text.hpp"
 
 static_assert(ZEB_SCIENTIFIC_TEXT_SIZE == zeb::scientific_text_size);
 

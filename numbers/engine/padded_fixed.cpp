@@ -1,4 +1,4 @@
-#include "calendar/engine/padded_fixed.hpp"
+#include "numbers/engine/padded_fixed.hpp"
 
 #include "core/engine/c_locale.hpp"
 

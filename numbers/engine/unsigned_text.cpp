@@ -1,6 +1,6 @@
-#include "calendar/engine/unsigned_text.hpp"
+#include "numbers/engine/unsigned_text.hpp"
 
-#include "calendar/engine/digits.hpp"
+#include "numbers/engine/digits.hpp"
 
 namespace zeb
 {

@@ -1,4 +1,4 @@
-#include "calendar/ZEB_Number_Functions.h"
+#include "numbers/ZEB_Number_Functions.h"
 #include "tests/calendar/random_text.hpp"
 #include "tests/reference/number_scanning.hpp"
 

@@ -7,8 +7,8 @@
 
 #import "core/ZEB_Description_Stream_Private.h"
 
-#include "calendar/engine/number_format.hpp"
 #include "core/engine/notice.hpp"
+#include "numbers/engine/number_format.hpp"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
-#include "calendar/ZEB_Number_Functions.h"
-#include "tests/calendar/guarded_text.hpp"
+#include "numbers/ZEB_Number_Functions.h"
+#include "tests/support/guarded_text.hpp"
 #include "tests/reference/number_text.hpp"
 
 #include <gtest/gtest.h>

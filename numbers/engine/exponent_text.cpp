@@ -1,7 +1,7 @@
-#include "calendar/engine/exponent_text.hpp"
+#include "numbers/engine/exponent_text.hpp"
 
-#include "calendar/engine/digits.hpp"
-#include "calendar/engine/rounded_decimal.hpp"
+#include "numbers/engine/digits.hpp"
+#include "numbers/engine/rounded_decimal.hpp"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
-#include "calendar/engine/special_value_scan.hpp"
+#include "numbers/engine/special_value_scan.hpp"
 
-#include "calendar/engine/ascii.hpp"
+#include "core/engine/ascii.hpp"
 
 #include <cstddef>
 

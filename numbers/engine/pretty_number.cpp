@@ -1,7 +1,7 @@
-#include "calendar/engine/pretty_number.hpp"
+#include "numbers/engine/pretty_number.hpp"
 
-#include "calendar/engine/exponent_text.hpp"
-#include "calendar/engine/fixed_text.hpp"
+#include "numbers/engine/exponent_text.hpp"
+#include "numbers/engine/fixed_text.hpp"
 
 #include <cmath>
 #include <cstring>

@@ -1,6 +1,6 @@
-#include "calendar/engine/number_scanning.hpp"
+#include "numbers/engine/number_scanning.hpp"
 
-#include "calendar/engine/ascii.hpp"
+#include "core/engine/ascii.hpp"
 #include "core/engine/c_locale.hpp"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
-#include "calendar/engine/rounded_decimal.hpp"
+#include "numbers/engine/rounded_decimal.hpp"
 
-#include "calendar/engine/ascii.hpp"
-#include "calendar/engine/powers_of_ten.hpp"
+#include "core/engine/ascii.hpp"
+#include "numbers/engine/powers_of_ten.hpp"
 
 #include <bit>
 #include <cstdio>

@@ -1,7 +1,7 @@
-#include "calendar/engine/scientific_form.hpp"
+#include "numbers/engine/scientific_form.hpp"
 
-#include "calendar/engine/padded_fixed.hpp"
-#include "calendar/engine/unsigned_text.hpp"
+#include "numbers/engine/padded_fixed.hpp"
+#include "numbers/engine/unsigned_text.hpp"
 
 #include <cmath>
 #include <cstring>

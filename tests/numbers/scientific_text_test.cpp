@@ -1,6 +1,6 @@
-#include "calendar/ZEB_Number_Functions.h"
-#include "calendar/engine/number_format.hpp"
-#include "tests/calendar/guarded_text.hpp"
+#include "numbers/ZEB_Number_Functions.h"
+#include "numbers/engine/number_format.hpp"
+#include "tests/support/guarded_text.hpp"
 #include "tests/reference/scientific_text.hpp"
 
 #include <gtest/gtest.h>

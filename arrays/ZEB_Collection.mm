@@ -6,13 +6,14 @@
 #import "core/ZEB_Report_Private.h"
 
 #include "core/engine/char_span.hpp"
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 
 @implementation ZEB_Collection
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (uint32_t)link_marker
@@ -33,7 +34,7 @@
 
 - (uint32_t)count
 {
-    zeb::report_need_to_overload(self, _cmd, zeb::span_of("count needs subclassing"));
+    engine::report_need_to_overload(self, _cmd, engine::span_of("count needs subclassing"));
     return 0;
 }
 
@@ -41,8 +42,8 @@
 {
     (void)index;
     (void)stream;
-    zeb::report_need_to_overload(self, _cmd,
-                                 zeb::span_of("send_element_to_stream:stream: needs subclassing"));
+    engine::report_need_to_overload(self, _cmd,
+                                    engine::span_of("send_element_to_stream:stream: needs subclassing"));
 }
 
 - (void)send_to_stream:(ZEB_Stream *)stream
@@ -73,7 +74,7 @@
 - (void)print_on_stream:(ZEB_Stream *)stream
 {
     (void)stream;
-    zeb::report_need_to_overload(self, _cmd, zeb::span_of("print_on_stream: needs subclassing"));
+    engine::report_need_to_overload(self, _cmd, engine::span_of("print_on_stream: needs subclassing"));
 }
 
 - (void)print
@@ -86,7 +87,7 @@
 
 - (NSString *)description
 {
-    return zeb::description_of(self);
+    return engine::description_of(self);
 }
 
 @end

@@ -5,7 +5,7 @@
 #include "arrays/engine/storage/resizing.hpp"
 #include "core/engine/platform_call.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 namespace
@@ -46,4 +46,4 @@ bool make_room_in(ZEB_Byte_Array *object, ZEB_Byte_Array *source)
     return object != nil && has_room_for(storage_of_array(object), [source count]);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Objects of any class, under reference counting.
@@ -84,4 +84,4 @@ struct Byte_Array_Policy : Contents_Policy {
     }
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -9,7 +9,7 @@
 #include <inttypes.h>
 #include <stdio.h>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -81,4 +81,4 @@ void print_element(ZEB_Stream *stream, ZEB_Wide_String *element)
 
 void print_element(ZEB_Stream *stream, ZEB_Byte_Array *element) { [stream write_object:element]; }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -10,7 +10,7 @@
 
 @class ZEB_Byte_Array, ZEB_String, ZEB_Wide_String;
 
-namespace zeb
+namespace zeb::engine
 {
 
 void print_element(ZEB_Stream *stream, uint8_t element);
@@ -36,4 +36,4 @@ void print_elements(ZEB_Stream *stream, std::span<Element> elements)
         [=](uint32_t index) { print_element(stream, elements[index]); });
 }
 
-} // namespace zeb
+} // namespace zeb::engine

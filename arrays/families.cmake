@@ -36,7 +36,7 @@ zeb_family(NAME Pointer WORD pointer PHRASE "untyped pointers" ELEMENT "void *"
 zeb_family(NAME Object WORD object PHRASE "object references" ELEMENT "id"
            KIND "Counted_References<Object_Policy>" KIND_STATE "vector->ownership_mode"
            COLLECTION_FIELDS "uint32_t ownership_mode;"
-           FIELD_AT_FIRST "ownership_mode = zeb::retains" FIELD_OF_FOREIGN "ownership_mode = zeb::borrows"
+           FIELD_AT_FIRST "ownership_mode = engine::retains" FIELD_OF_FOREIGN "ownership_mode = engine::borrows"
            TAKE_MODE "made->ownership_mode = other->ownership_mode"
            STORING "Storing an object retains and releases by the ownership mode (ZEB_Ownership.h). A link onto a
  * raw block has mode 0: what is stored through it into an array that retains is neither retained nor is the
@@ -62,7 +62,7 @@ zeb_family(NAME Wide_String WORD wide_string PHRASE "32-bit strings" ELEMENT "ZE
            KIND "Held_Objects<Wide_String_Policy>" KIND_STATE "vector->held_count"
            VECTOR_FIELDS "uint32_t held_count;" FORWARD "@class ZEB_Stream, ZEB_Wide_String;"
            STORING "${zeb_storing_of_held}"
-           WRITE "zeb::print_element(stream, element)")
+           WRITE "engine::print_element(stream, element)")
 
 zeb_family(NAME Byte_Array WORD byte_array PHRASE "byte arrays" ELEMENT "ZEB_Byte_Array *"
            KIND "Held_Objects<Byte_Array_Policy>" KIND_STATE "vector->held_count"

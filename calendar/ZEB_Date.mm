@@ -4,20 +4,21 @@
 
 #include "calendar/engine/date_time.hpp"
 #include "calendar/engine/local_time.hpp"
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 
 @implementation ZEB_Date
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (id)init
 {
     self = [super init];
     if (self != nil)
-        zeb::set_value(self, zeb::unset_date_time);
+        engine::set_value(self, engine::unset_date_time);
     return self;
 }
 
@@ -32,7 +33,7 @@
 
 - (id)init_with_date:(ZEB_Date *)other
 {
-    const zeb::Date_Time value = zeb::value_of(other);
+    const engine::Date_Time value = engine::value_of(other);
     return [self init_with_date_and_time:value.date
                                   second:value.time.second
                               nanosecond:value.time.nanosecond];
@@ -59,12 +60,12 @@
 
 - (NSUInteger)hash
 {
-    return zeb::hash_of(zeb::value_of(self));
+    return engine::hash_of(engine::value_of(self));
 }
 
 - (NSString *)description
 {
-    return zeb::description_of(self);
+    return engine::description_of(self);
 }
 
 - (int32_t)year
@@ -99,24 +100,24 @@
 
 - (void)set_to_current_time
 {
-    zeb::set_value(self, zeb::current_local_date_time());
+    engine::set_value(self, engine::current_local_date_time());
 }
 
 - (void)assign_date:(ZEB_Date *)other
 {
-    zeb::set_value(self, zeb::value_of(other));
+    engine::set_value(self, engine::value_of(other));
 }
 
 - (void)set_date_and_time:(ZEB_Gregorian_Date)gregorian
                    second:(uint64_t)second
                nanosecond:(uint64_t)nanosecond
 {
-    zeb::set_value(self, zeb::make_date_time(gregorian, second, nanosecond));
+    engine::set_value(self, engine::make_date_time(gregorian, second, nanosecond));
 }
 
 - (void)update_date_from_julian_day
 {
-    zeb::change(self, zeb::update_date);
+    engine::change(self, engine::update_date);
 }
 
 - (void)set_julian_day:(int32_t)day_number
@@ -127,12 +128,12 @@
 
 - (void)set_seconds_since_1970:(double)seconds
 {
-    zeb::change(self, [=](zeb::Date_Time &value) { zeb::set_seconds_since_1970(value, seconds); });
+    engine::change(self, [=](engine::Date_Time &value) { engine::set_seconds_since_1970(value, seconds); });
 }
 
 - (double)seconds_since_1970
 {
-    return zeb::seconds_since_1970(zeb::value_of(self));
+    return engine::seconds_since_1970(engine::value_of(self));
 }
 
 @end

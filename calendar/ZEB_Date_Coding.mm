@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "core/engine/namespace.hpp"
+
 namespace
 {
 
@@ -12,17 +14,17 @@ NSString *const day_number_key = @"ZEB_date_julian_day";
 
 using Archived = std::array<int32_t, std::size(keys)>;
 
-Archived archived(const zeb::Date_Time &value)
+Archived archived(const engine::Date_Time &value)
 {
     return {static_cast<int32_t>(value.time.nanosecond), static_cast<int32_t>(value.time.second),
             value.date.day, value.date.month, value.date.year};
 }
 
 /// The fields as they were archived, with the day number that belongs to them.
-zeb::Date_Time restored(const Archived &values)
+engine::Date_Time restored(const Archived &values)
 {
-    return zeb::make_date_time({values[4], values[3], values[2]}, static_cast<uint32_t>(values[1]),
-                               static_cast<uint32_t>(values[0]));
+    return engine::make_date_time({values[4], values[3], values[2]}, static_cast<uint32_t>(values[1]),
+                                  static_cast<uint32_t>(values[0]));
 }
 
 void write_keyed(NSCoder *coder, const Archived &values)
@@ -46,9 +48,9 @@ void read_keyed(NSCoder *coder, Archived &values)
 }
 
 /// What `encode:` wrote; what stands where a value is missing.
-zeb::Date_Time read_date(ZEB_Date *date, NSCoder *coder)
+engine::Date_Time read_date(ZEB_Date *date, NSCoder *coder)
 {
-    Archived values = archived(zeb::value_of(date));
+    Archived values = archived(engine::value_of(date));
     if ([coder allowsKeyedCoding])
         read_keyed(coder, values);
     else
@@ -80,7 +82,7 @@ void read_day_number(NSCoder *coder, int32_t &julian_day)
 
 - (void)encode:(NSCoder *)coder
 {
-    const Archived values = archived(zeb::value_of(self));
+    const Archived values = archived(engine::value_of(self));
     if ([coder allowsKeyedCoding])
         write_keyed(coder, values);
     else
@@ -89,9 +91,9 @@ void read_day_number(NSCoder *coder, int32_t &julian_day)
 
 - (void)decode:(NSCoder *)coder
 {
-    zeb::Date_Time value = read_date(self, coder);
-    zeb::update_date(value);
-    zeb::set_value(self, value);
+    engine::Date_Time value = read_date(self, coder);
+    engine::update_date(value);
+    engine::set_value(self, value);
 }
 
 - (void)encodeWithCoder:(NSCoder *)coder
@@ -105,9 +107,9 @@ void read_day_number(NSCoder *coder, int32_t &julian_day)
     self = [self init];
     if (self == nil)
         return nil;
-    zeb::Date_Time value = read_date(self, coder);
+    engine::Date_Time value = read_date(self, coder);
     read_day_number(coder, value.julian_day);
-    zeb::set_value(self, value);
+    engine::set_value(self, value);
     return self;
 }
 

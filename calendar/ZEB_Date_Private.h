@@ -5,7 +5,7 @@
 
 #include "calendar/engine/date_time.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The fields of a date; nil reads as one that was never set.
@@ -30,4 +30,4 @@ void change(ZEB_Date *date, Work work)
     set_value(date, value);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

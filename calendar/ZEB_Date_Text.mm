@@ -7,9 +7,10 @@
 #include "calendar/engine/date_text.hpp"
 #include "calendar/engine/iso8601.hpp"
 #include "calendar/engine/local_time.hpp"
+#include "core/engine/namespace.hpp"
 #include "core/engine/stream_formats.hpp"
 
-using zeb::value_of;
+using engine::value_of;
 
 namespace
 {
@@ -23,9 +24,9 @@ void append(ZEB_String *string, const char *text, const char *end)
 template <class Take>
 void with_strftime_text(ZEB_Date *date, const char *format, Take take)
 {
-    char text[zeb::strftime_limit];
-    const char *const used = zeb::or_first(format, zeb::first_date_format);
-    const std::size_t length = zeb::format_with_strftime(text, used, value_of(date));
+    char text[engine::strftime_limit];
+    const char *const used = engine::or_first(format, engine::first_date_format);
+    const std::size_t length = engine::format_with_strftime(text, used, value_of(date));
     if (length != 0)
         take(text, static_cast<uint32_t>(length));
 }
@@ -52,40 +53,41 @@ void with_strftime_text(ZEB_Date *date, const char *format, Take take)
 
 - (void)write_text:(ZEB_String *)string
 {
-    char text[zeb::slash_text_size];
-    const char *const end = zeb::write_slash_text(text, value_of(self));
+    char text[engine::slash_text_size];
+    const char *const end = engine::write_slash_text(text, value_of(self));
     [string copy_c_string:text length:static_cast<uint32_t>(end - text)];
 }
 
 - (void)append_text:(ZEB_String *)string
 {
-    char text[zeb::slash_text_size];
-    append(string, text, zeb::write_slash_text(text, value_of(self)));
+    char text[engine::slash_text_size];
+    append(string, text, engine::write_slash_text(text, value_of(self)));
 }
 
 - (void)assign_from_text:(ZEB_String *)string
 {
-    zeb::set_value(self, zeb::read_spaced_text([string char_data], [string count]));
+    engine::set_value(self, engine::read_spaced_text([string char_data], [string count]));
 }
 
 - (void)append_iso8601_text:(ZEB_String *)string
 {
-    char text[zeb::iso8601_text_size];
-    append(string, text, zeb::write_iso8601(text, zeb::day_from_civil_date(date), time));
+    char text[engine::iso8601_text_size];
+    append(string, text, engine::write_iso8601(text, engine::day_from_civil_date(date), time));
 }
 
 - (void)append_iso8601_date_text:(ZEB_String *)string
 {
-    char text[zeb::iso8601_text_size];
-    append(string, text, zeb::write_iso8601_date(text, date));
+    char text[engine::iso8601_text_size];
+    append(string, text, engine::write_iso8601_date(text, date));
 }
 
 - (uint32_t)assign_from_iso8601_text:(ZEB_String *)string
 {
-    zeb::Date_Time value = value_of(self);
-    const uint32_t consumed = zeb::scan_iso8601([string char_data], [string count], value.date, value.time);
+    engine::Date_Time value = value_of(self);
+    const uint32_t consumed =
+        engine::scan_iso8601([string char_data], [string count], value.date, value.time);
     if (consumed != 0)
-        zeb::set_value(self, zeb::make_civil_date_time(value.date, value.time));
+        engine::set_value(self, engine::make_civil_date_time(value.date, value.time));
     return consumed;
 }
 

@@ -7,6 +7,7 @@
 #include "calendar/engine/date_text.hpp"
 #include "calendar/engine/date_time.hpp"
 #include "calendar/engine/local_time.hpp"
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 
 namespace
@@ -45,7 +46,7 @@ ZEB_Time_Value read_time(NSCoder *coder)
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (id)init
@@ -85,17 +86,17 @@ ZEB_Time_Value read_time(NSCoder *coder)
 
 - (NSUInteger)hash
 {
-    return zeb::hash_of(time);
+    return engine::hash_of(time);
 }
 
 - (NSString *)description
 {
-    return zeb::description_of(self);
+    return engine::description_of(self);
 }
 
 - (void)update_to_current_time
 {
-    time = zeb::current_time_value();
+    time = engine::current_time_value();
 }
 
 - (ZEB_Time_Value)time_value
@@ -115,8 +116,8 @@ ZEB_Time_Value read_time(NSCoder *coder)
 
 - (void)send_to_stream:(ZEB_Stream *)stream
 {
-    char text[zeb::time_stamp_text_size];
-    const char *const end = zeb::write_time_stamp(text, time);
+    char text[engine::time_stamp_text_size];
+    const char *const end = engine::write_time_stamp(text, time);
     [stream write_bytes:text length:static_cast<uint32_t>(end - text)];
 }
 

@@ -7,6 +7,7 @@
 
 #import "arrays/ZEB_Printing_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "strings/engine/utf.hpp"
 
@@ -40,7 +41,7 @@ void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (void)write_object:(id)object
@@ -48,7 +49,7 @@ void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
     if ([object isKindOfClass:[ZEB_Char_Vector class]])
         [self write_string:object];
     else if ([object isKindOfClass:[ZEB_Wide_Char_Vector class]])
-        zeb::print_element(self, static_cast<ZEB_Wide_String *>(object));
+        engine::print_element(self, static_cast<ZEB_Wide_String *>(object));
     else
         [super write_object:object];
 }
@@ -56,7 +57,7 @@ void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
 - (void)write_string:(ZEB_String *)string
 {
     const std::span<const char> text([string char_data], [string count]);
-    if (zeb::is_valid_utf8(text))
+    if (engine::is_valid_utf8(text))
         [super write_string:string];
     else
         put_latin_1(self, text);
@@ -96,7 +97,7 @@ void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
 
 @end
 
-namespace zeb
+namespace zeb::engine
 {
 
 NSString *description_of(id object)
@@ -108,4 +109,4 @@ NSString *description_of(id object)
     return text;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,6 +6,7 @@
 #import "core/ZEB_Stream_Private.h"
 
 #include "core/engine/char_span.hpp"
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "core/engine/platform_call.hpp"
 
@@ -17,11 +18,11 @@
 namespace
 {
 
-constexpr ZEB_Char_Span overload_lead = zeb::span_of("Need to overload selector: ");
-constexpr ZEB_Char_Span implement_lead = zeb::span_of("Need to implement selector: ");
-constexpr ZEB_Char_Span fix_lead = zeb::span_of("Need to fix algorithm in selector: ");
-constexpr ZEB_Char_Span class_lead = zeb::span_of(" for object of class: ");
-constexpr ZEB_Char_Span line_break = zeb::span_of("\n");
+constexpr ZEB_Char_Span overload_lead = engine::span_of("Need to overload selector: ");
+constexpr ZEB_Char_Span implement_lead = engine::span_of("Need to implement selector: ");
+constexpr ZEB_Char_Span fix_lead = engine::span_of("Need to fix algorithm in selector: ");
+constexpr ZEB_Char_Span class_lead = engine::span_of(" for object of class: ");
+constexpr ZEB_Char_Span line_break = engine::span_of("\n");
 constexpr ZEB_Char_Span no_text = {"", 0};
 
 ZEB_Char_Span name_span(const char *name) { return {name, static_cast<uint32_t>(strlen(name))}; }
@@ -38,7 +39,7 @@ ZEB_Char_Span class_name_of(id object)
 NSAutoreleasePool *new_pool()
 {
     return static_cast<NSAutoreleasePool *>(
-        zeb::result_or_null([]() -> void * { return [[NSAutoreleasePool alloc] init]; }));
+        engine::result_or_null([]() -> void * { return [[NSAutoreleasePool alloc] init]; }));
 }
 
 /// Puts the pieces of a diagnostic onto a stream, under a pool of its own. A diagnostic that is raised
@@ -54,7 +55,7 @@ void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
     is_putting = true;
     NSAutoreleasePool *const pool = new_pool();
     for (const ZEB_Char_Span piece : pieces)
-        zeb::put(stream, piece);
+        engine::put(stream, piece);
     [pool drain];
     is_putting = false;
 }
@@ -79,7 +80,7 @@ void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (id)init
@@ -130,7 +131,7 @@ void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
     ++warning_count;
     if (verbose == 0)
         return;
-    const ZEB_Char_Span before_note = note.length != 0 ? zeb::span_of(". ") : zeb::span_of(".");
+    const ZEB_Char_Span before_note = note.length != 0 ? engine::span_of(". ") : engine::span_of(".");
     put_line(self,
              {lead, name_of(selector), class_lead, class_name_of(object), before_note, note, line_break});
 }

@@ -1,5 +1,6 @@
 #import <Korvane_ZEB/ZEB_Object.h>
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 
 @implementation ZEB_Object
@@ -11,7 +12,7 @@
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (id)ZEB_init

@@ -2,7 +2,7 @@
 
 #import <Korvane_ZEB/ZEB_Error_Stream.h>
 
-namespace zeb
+namespace zeb::engine
 {
 
 void Fix_Report::operator()(ZEB_Char_Span note) const
@@ -20,4 +20,4 @@ void report_need_to_overload(id receiver, SEL selector, ZEB_Char_Span note)
     [[ZEB_Error_Stream shared_error_stream] need_to_overload:selector object:receiver note:note];
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Takes an engine's note and reports it, for the operation `selector` of `receiver`, through the shared
@@ -21,4 +21,4 @@ struct Fix_Report {
 void report_need_to_implement(id receiver, SEL selector, ZEB_Char_Span note);
 void report_need_to_overload(id receiver, SEL selector, ZEB_Char_Span note);
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,6 +4,7 @@
 #import <Korvane_ZEB/ZEB_String.h>
 
 #include "core/engine/lists.hpp"
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "core/engine/stream_formats.hpp"
 
@@ -67,7 +68,7 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (id)init
@@ -75,18 +76,18 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
     self = [super init];
     if (self == nil)
         return nil;
-    char_format = zeb::first_char_format;
-    int_format = zeb::first_int_format;
-    unsigned_format = zeb::first_unsigned_format;
-    float_format = zeb::first_float_format;
-    double_format = zeb::first_double_format;
-    character_code_format = zeb::first_character_code_format;
-    unsigned_long_format = zeb::first_unsigned_long_format;
-    hex_format = zeb::first_hex_format;
-    date_format = zeb::first_date_format;
-    list_open_delimiter = zeb::first_open_delimiter;
-    list_close_delimiter = zeb::first_close_delimiter;
-    list_separator = zeb::first_separator;
+    char_format = engine::first_char_format;
+    int_format = engine::first_int_format;
+    unsigned_format = engine::first_unsigned_format;
+    float_format = engine::first_float_format;
+    double_format = engine::first_double_format;
+    character_code_format = engine::first_character_code_format;
+    unsigned_long_format = engine::first_unsigned_long_format;
+    hex_format = engine::first_hex_format;
+    date_format = engine::first_date_format;
+    list_open_delimiter = engine::first_open_delimiter;
+    list_close_delimiter = engine::first_close_delimiter;
+    list_separator = engine::first_separator;
     scratch_string = [[ZEB_String alloc] init_with_capacity:0];
     return self;
 }
@@ -156,15 +157,16 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 - (void)ZEB_send_delimited_list:(ZEB_Collection *)list
 {
     ZEB_Stream *const stream = self;
-    zeb::write_delimited_list([list count], { list_open_delimiter, list_close_delimiter, list_separator },
-                              [=](ZEB_Char_Span delimiter) { zeb::put(stream, delimiter); },
-                              [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
+    engine::write_delimited_list([list count], { list_open_delimiter, list_close_delimiter, list_separator },
+                                 [=](ZEB_Char_Span delimiter) { engine::put(stream, delimiter); },
+                                 [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
 }
 
 - (void)ZEB_send_list:(ZEB_Collection *)list
 {
     ZEB_Stream *const stream = self;
-    zeb::write_list([list count], [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
+    engine::write_list([list count],
+                       [=](uint32_t index) { [list send_element_to_stream:index stream:stream]; });
 }
 
 - (void)ZEB_receive_delimited_list:(ZEB_Collection *)list

@@ -26,7 +26,7 @@
 
 @end
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Writes a span onto a stream.
@@ -35,4 +35,4 @@ inline void put(ZEB_Stream *stream, ZEB_Char_Span span)
     [stream put_bytes:span.char_c_array length:span.length];
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,6 +3,7 @@
 #import "arrays/ZEB_Byte_Storage_Private.h"
 #import "arrays/ZEB_Char_Storage_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "encoding/engine/zlib_arrays.hpp"
 
 #include <stdio.h>
@@ -11,47 +12,47 @@ namespace
 {
 
 template <class Array>
-zeb::Byte_Run bytes_from(Array *source, uint32_t offset)
+engine::Byte_Run bytes_from(Array *source, uint32_t offset)
 {
     if (source == nil)
         return {nullptr, 0};
-    const auto elements = zeb::storage_of_array(source).elements();
+    const auto elements = engine::storage_of_array(source).elements();
     if (elements.size() <= offset)
         return {nullptr, 0};
     return {reinterpret_cast<const char *>(elements.data()) + offset,
             static_cast<uint32_t>(elements.size() - offset)};
 }
 
-zeb::Fix_Report report_for(ZEB_String *destination)
+engine::Fix_Report report_for(ZEB_String *destination)
 {
     return { destination, @selector(append_chars:count:) };
 }
 
-zeb::Fix_Report report_for(ZEB_Byte_Array *destination)
+engine::Fix_Report report_for(ZEB_Byte_Array *destination)
 {
     return { destination, @selector(append_bytes:count:) };
 }
 
 template <class Into, class Work>
-int32_t run_zlib(zeb::Byte_Run source, Into *destination, Work work)
+int32_t run_zlib(engine::Byte_Run source, Into *destination, Work work)
 {
     if (source.length == 0)
         return 0;
     if (destination == nil)
         return -1;
-    return zeb::run_zlib(source, zeb::storage_of_array(destination), report_for(destination), work);
+    return engine::run_zlib(source, engine::storage_of_array(destination), report_for(destination), work);
 }
 
 template <class From, class Into>
 int32_t compress(From *source, Into *destination)
 {
-    return run_zlib(bytes_from(source, 0), destination, zeb::compress);
+    return run_zlib(bytes_from(source, 0), destination, engine::compress);
 }
 
 template <class From, class Into>
 int32_t decompress(From *source, Into *destination, uint32_t offset)
 {
-    return run_zlib(bytes_from(source, offset), destination, zeb::decompress);
+    return run_zlib(bytes_from(source, offset), destination, engine::decompress);
 }
 
 } // namespace
@@ -89,5 +90,5 @@ int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *source, ZEB_String *destin
 void print_zlib_error(int32_t status)
 {
     fputs("zlib error: ", stderr);
-    fputs(zeb::zlib_status_text(status), stderr);
+    fputs(engine::zlib_status_text(status), stderr);
 }

@@ -9,7 +9,7 @@
 
 #include <stdio.h>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The storage of an object that an array of objects holds.
@@ -60,4 +60,4 @@ uint32_t decode(Array_Storage<Counted_References<Policy>> array, Record_Source s
     return decode_references(array, source, report, complain_of_references);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,6 +6,7 @@
 #import "filesystem/ZEB_File_Private.h"
 #import "filesystem/ZEB_File_Start_Up_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "filesystem/engine/file_status.hpp"
 
@@ -14,7 +15,7 @@ namespace
 
 constexpr uint32_t first_path_capacity = 1024;
 
-void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_t &execute)
+void set_rights(engine::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_t &execute)
 {
     read = rights.read;
     write = rights.write;
@@ -27,7 +28,7 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (id)init
@@ -35,11 +36,11 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
     self = [super init];
     if (self == nil)
         return nil;
-    zeb::start_up_filesystem();
+    engine::start_up_filesystem();
     path = [[ZEB_String alloc] init_with_capacity:first_path_capacity];
     owner_read = owner_write = 1;
-    uid = zeb::process_user();
-    gid = zeb::process_group();
+    uid = engine::process_user();
+    gid = engine::process_group();
     first_general_setting = second_general_setting = third_general_setting = 1;
     load_details = report_errors = 1;
     return self;
@@ -105,7 +106,7 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
     [path append_null_terminator];
 }
 
-- (void)take_details:(const zeb::File_Status &)status
+- (void)take_details:(const engine::File_Status &)status
 {
     set_rights(status.owner, owner_read, owner_write, owner_execute);
     set_rights(status.group, group_read, group_write, group_execute);
@@ -115,17 +116,17 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
     status_change_time = status.status_change_time;
     uid = status.uid;
     gid = status.gid;
-    const zeb::Access_Rights before{can_read != 0, can_write != 0, can_execute != 0};
-    const zeb::Access_Rights rights =
-        zeb::effective_rights(status, uid == zeb::process_user(), gid == zeb::process_group(), before);
+    const engine::Access_Rights before{can_read != 0, can_write != 0, can_execute != 0};
+    const engine::Access_Rights rights = engine::effective_rights(status, uid == engine::process_user(),
+                                                                  gid == engine::process_group(), before);
     set_rights(rights, can_read, can_write, can_execute);
 }
 
 - (uint32_t)take_status
 {
-    const zeb::Platform_Path platform_path(path);
-    zeb::File_Status status;
-    const int error = platform_path.cause_of(zeb::read_status(platform_path.c_string(), status));
+    const engine::Platform_Path platform_path(path);
+    engine::File_Status status;
+    const int error = platform_path.cause_of(engine::read_status(platform_path.c_string(), status));
     if (error != 0) {
         exists = 0;
         size = 0;
@@ -143,10 +144,10 @@ void set_rights(zeb::Access_Rights rights, uint8_t &read, uint8_t &write, uint8_
 - (uint32_t)refresh_status
 {
     ZEB_File *const file = self;
-    return zeb::intercepted(
+    return engine::intercepted(
         file, ZEB_FILE_REFRESH_STATUS, @selector(intercept_refresh_status:),
         [=](id<ZEB_File_Interceptor> other) { return [other intercept_refresh_status:file]; },
-        [=] { return [file take_status]; }, zeb::After_Acting::stops);
+        [=] { return [file take_status]; }, engine::After_Acting::stops);
 }
 
 @end

@@ -6,6 +6,7 @@
 #import "arrays/ZEB_Char_Storage_Private.h"
 #import "filesystem/ZEB_File_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "encoding/engine/zlib_loops.hpp"
 #include "filesystem/engine/file_contents.hpp"
 #include "filesystem/engine/file_messages.hpp"
@@ -13,7 +14,7 @@
 #include <stdio.h>
 #include <string.h>
 
-namespace messages = zeb::messages;
+namespace messages = engine::messages;
 
 namespace
 {
@@ -25,7 +26,7 @@ constexpr uint32_t suffix_size = sizeof suffix;
 /// Tells the failure, and is false.
 bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
 {
-    zeb::tell_failure(file, message, error);
+    engine::tell_failure(file, message, error);
     return false;
 }
 
@@ -33,8 +34,8 @@ bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
 /// the failure was told, where nothing can be read.
 bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
 {
-    const zeb::Platform_Path path([file path]);
-    zeb::Open_File input = zeb::Open_File::for_reading(path.c_string());
+    const engine::Platform_Path path([file path]);
+    engine::Open_File input = engine::Open_File::for_reading(path.c_string());
     if (input.opening_error() != 0)
         return failed(file, messages::error_opening, path.cause_of(input.opening_error()));
     if (size == 0)
@@ -52,8 +53,8 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
         return failed(file, messages::error_reading, error);
     memset([target byte_data] + count, 0, length - count);
     if (count != size)
-        zeb::tell_discrepancy(file, messages::warning_length_read, count, messages::against_content_size,
-                              size, messages::while_reading, ENODATA);
+        engine::tell_discrepancy(file, messages::warning_length_read, count, messages::against_content_size,
+                                 size, messages::while_reading, ENODATA);
     return true;
 }
 
@@ -67,27 +68,27 @@ bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
         [destination clear];
         status = ZC_decompress_bytes_to_bytes(stored, destination);
         if (status != 0)
-            zeb::tell_failure(file, messages::error_decompressing,
-                              status == zeb::zlib_out_of_memory ? ENOMEM : EILSEQ);
+            engine::tell_failure(file, messages::error_decompressing,
+                                 status == engine::zlib_out_of_memory ? ENOMEM : EILSEQ);
     }
     [stored release];
     return was_read && status == 0;
 }
 
 /// Makes the bytes the contents of the open file; false after the failure was told.
-bool write_out(ZEB_File *file, zeb::Open_File &output, const void *bytes, uint32_t length)
+bool write_out(ZEB_File *file, engine::Open_File &output, const void *bytes, uint32_t length)
 {
     size_t count = 0;
     const int error = output.write_all_and_close(bytes, length, count);
     if (error != 0)
         return failed(file, messages::error_writing, error);
     if (count != length)
-        zeb::tell_discrepancy(file, messages::warning_length_written, count,
-                              messages::against_specified_length, length, messages::while_writing, EIO);
+        engine::tell_discrepancy(file, messages::warning_length_written, count,
+                                 messages::against_specified_length, length, messages::while_writing, EIO);
     return true;
 }
 
-bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes, uint32_t length)
+bool write_compressed(ZEB_File *file, engine::Open_File &output, const void *bytes, uint32_t length)
 {
     // The link only reads; its maker takes what could also be written.
     ZEB_Byte_Array *const source =
@@ -96,8 +97,8 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
     ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
     const int32_t status = ZC_compress_bytes_to_bytes(source, stored);
     if (status != 0)
-        zeb::tell_failure(file, messages::error_compressing,
-                          status == zeb::zlib_out_of_memory ? ENOMEM : EIO);
+        engine::tell_failure(file, messages::error_compressing,
+                             status == engine::zlib_out_of_memory ? ENOMEM : EIO);
     // An entry that reports no errors stores what there is, and keeps the error alone.
     const bool is_written =
         (status == 0 || ![file report_errors]) && write_out(file, output, [stored byte_data], [stored count]);
@@ -107,7 +108,7 @@ bool write_compressed(ZEB_File *file, zeb::Open_File &output, const void *bytes,
 }
 
 /// Renames an entry, over what stands at the other path. Answers 0, or what the platform says.
-int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
+int renaming_error(const engine::Platform_Path &from, const engine::Platform_Path &to)
 {
     const int error = rename(from.c_string(), to.c_string()) == 0 ? 0 : errno;
     return to.cause_of(from.cause_of(error));
@@ -129,12 +130,12 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
 - (void)read_contents:(ZEB_Byte_Array *)destination
 {
     ZEB_File *const file = self;
-    zeb::intercepted(
+    engine::intercepted(
         file, ZEB_FILE_READ_CONTENTS, @selector(intercept_read_contents:destination:),
         [=](id<ZEB_File_Interceptor> other) {
             return [other intercept_read_contents:file destination:destination];
         },
-        [=] { return [file take_contents_into:destination]; }, zeb::After_Acting::stops);
+        [=] { return [file take_contents_into:destination]; }, engine::After_Acting::stops);
 }
 
 - (void)load_contents:(ZEB_Byte_Array *)destination
@@ -144,8 +145,8 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
 
 - (uint32_t)put_contents:(const void *)bytes length:(uint32_t)length
 {
-    const zeb::Platform_Path platform_path(path);
-    zeb::Open_File output = zeb::Open_File::for_writing(platform_path.c_string());
+    const engine::Platform_Path platform_path(path);
+    engine::Open_File output = engine::Open_File::for_writing(platform_path.c_string());
     if (output.opening_error() != 0)
         return failed(self, messages::error_opening, platform_path.cause_of(output.opening_error()));
     const bool is_written = contents_compressed ? write_compressed(self, output, bytes, length)
@@ -156,7 +157,7 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
 - (uint32_t)write_contents:(const void *)bytes length:(uint32_t)length
 {
     ZEB_File *const file = self;
-    return zeb::intercepted(
+    return engine::intercepted(
         file, ZEB_FILE_WRITE_CONTENTS, @selector(intercept_write_contents:bytes:length:),
         [=](id<ZEB_File_Interceptor> other) {
             return [other intercept_write_contents:file bytes:bytes length:length];
@@ -168,25 +169,25 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
 - (BOOL)has_room_for_suffix
 {
     [path ensure_room_for:suffix_size];
-    return zeb::storage_of_array(path).capacity > [path count] + suffix_size;
+    return engine::storage_of_array(path).capacity > [path count] + suffix_size;
 }
 
 /// The visible path gains "~", and a null behind it is counted from now on.
 - (void)extend_path_by_suffix
 {
-    [path set_count:zeb::visible_path(path).length];
+    [path set_count:engine::visible_path(path).length];
     [path append_chars:suffix count:suffix_size];
 }
 
 - (uint32_t)set_aside
 {
-    const zeb::Platform_Path from(path);
-    const zeb::Platform_Path to(path, suffix);
+    const engine::Platform_Path from(path);
+    const engine::Platform_Path to(path, suffix);
     // A path that could not follow the file would lead nowhere.
     const int error = [self has_room_for_suffix] ? renaming_error(from, to) : ENOMEM;
     if (error != 0)
         return failed(self, messages::error_backstoring, error);
-    zeb::tell_success(self, messages::backstored);
+    engine::tell_success(self, messages::backstored);
     [self extend_path_by_suffix];
     return 1;
 }
@@ -194,10 +195,10 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
 - (uint32_t)backstore
 {
     ZEB_File *const file = self;
-    return zeb::intercepted(
+    return engine::intercepted(
         file, ZEB_FILE_BACKSTORE, @selector(intercept_backstore:),
         [=](id<ZEB_File_Interceptor> other) { return [other intercept_backstore:file]; },
-        [=] { return [file set_aside]; }, zeb::After_Acting::runs,
+        [=] { return [file set_aside]; }, engine::After_Acting::runs,
         [=](uint32_t answer) {
             if (answer == 1)
                 [file extend_path_by_suffix];
@@ -206,13 +207,13 @@ int renaming_error(const zeb::Platform_Path &from, const zeb::Platform_Path &to)
 
 - (uint32_t)restore
 {
-    const zeb::Platform_Path from(path, suffix);
-    const zeb::Platform_Path to(path);
+    const engine::Platform_Path from(path, suffix);
+    const engine::Platform_Path to(path);
     const int error = renaming_error(from, to);
     if (error != 0)
         return failed(self, messages::error_restoring, error);
     last_error = 0;
-    zeb::tell_success(self, messages::restored);
+    engine::tell_success(self, messages::restored);
     return 1;
 }
 

@@ -8,7 +8,7 @@
 
 #include <errno.h>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The visible text of a path.
@@ -80,4 +80,4 @@ void tell_failure(ZEB_File *file, ZEB_Char_Span message, int error);
 void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
                       uint64_t expected, ZEB_Char_Span occasion, int error);
 
-} // namespace zeb
+} // namespace zeb::engine

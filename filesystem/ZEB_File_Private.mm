@@ -5,7 +5,7 @@
 
 #include "core/engine/char_span.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -85,4 +85,4 @@ void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_C
     write_line(stream, occasion, file);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

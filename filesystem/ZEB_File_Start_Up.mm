@@ -7,7 +7,7 @@
 
 #include <unistd.h>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -36,4 +36,4 @@ uint32_t process_group() { return group; }
 
 ZEB_String_Array *filesystem_keys() { return keys; }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 
 @class ZEB_String_Array;
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Reads the process's real user and group ids, and makes the table of key texts, on first need. Later
@@ -18,4 +18,4 @@ uint32_t process_group();
 /// One string: the key under which an application may keep an entry's state.
 ZEB_String_Array *filesystem_keys();
 
-} // namespace zeb
+} // namespace zeb::engine

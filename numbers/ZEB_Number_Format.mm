@@ -7,6 +7,7 @@
 
 #import "core/ZEB_Description_Stream_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "numbers/engine/number_format.hpp"
 
@@ -18,7 +19,7 @@ namespace
 /// Appends ASCII text.
 void append(ZEB_Wide_String *string, const char *text, const char *end)
 {
-    uint32_t wide[zeb::scientific_text_size];
+    uint32_t wide[engine::scientific_text_size];
     std::copy(text, end, wide);
     [string append_wide_chars:wide count:static_cast<uint32_t>(end - text)];
 }
@@ -29,7 +30,7 @@ void append(ZEB_Wide_String *string, const char *text, const char *end)
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (id)init
@@ -37,9 +38,9 @@ void append(ZEB_Wide_String *string, const char *text, const char *end)
     self = [super init];
     if (self == nil)
         return nil;
-    precision = zeb::default_number_format.precision;
-    exponent_base = zeb::default_number_format.base;
-    zero_reference = zeb::default_number_format.zero_reference;
+    precision = engine::default_number_format.precision;
+    exponent_base = engine::default_number_format.base;
+    zero_reference = engine::default_number_format.zero_reference;
     text = [[ZEB_Wide_String alloc] init];
     return self;
 }
@@ -65,10 +66,10 @@ void append(ZEB_Wide_String *string, const char *text, const char *end)
 
 - (NSString *)description
 {
-    return zeb::description_of(self);
+    return engine::description_of(self);
 }
 
-- (void)take_result:(const zeb::Number_Format_Result &)result
+- (void)take_result:(const engine::Number_Format_Result &)result
 {
     result_kind = result.result_kind;
     error_code = result.error_code;
@@ -77,18 +78,18 @@ void append(ZEB_Wide_String *string, const char *text, const char *end)
 
 - (void)format_value:(double)value
 {
-    char buffer[zeb::scientific_text_size];
-    zeb::Number_Format_Result result;
+    char buffer[engine::scientific_text_size];
+    engine::Number_Format_Result result;
     append(text, buffer,
-           zeb::format_value(buffer, {precision, exponent_base, zero_reference}, value, result));
+           engine::format_value(buffer, {precision, exponent_base, zero_reference}, value, result));
     [self take_result:result];
 }
 
 - (void)format_fixed:(double)value
 {
-    char buffer[zeb::scientific_text_size];
-    zeb::Number_Format_Result result;
-    append(text, buffer, zeb::format_fixed(buffer, precision, value, result));
+    char buffer[engine::scientific_text_size];
+    engine::Number_Format_Result result;
+    append(text, buffer, engine::format_fixed(buffer, precision, value, result));
     [self take_result:result];
 }
 

@@ -1,5 +1,6 @@
 #import <Korvane_ZEB/ZEB_Defaults_Start_Up.h>
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/one_time.hpp"
 
 namespace
@@ -15,15 +16,15 @@ NSString *debug_logging_key;
 
 void ZC_start_up_defaults_domain(void)
 {
-    zeb::run_once(domain_is_made, [] {
+    engine::run_once(domain_is_made, [] {
         domain = [[NSString alloc] initWithBytes:"Korvane" length:7 encoding:NSASCIIStringEncoding];
     });
 }
 
 void ZC_start_up_debug_logging(void)
 {
-    zeb::run_once(debug_logging_is_made,
-                  [] { debug_logging_key = [[NSString alloc] initWithUTF8String:"does_debug_logging"]; });
+    engine::run_once(debug_logging_is_made,
+                     [] { debug_logging_key = [[NSString alloc] initWithUTF8String:"does_debug_logging"]; });
 }
 
 NSString *ZC_defaults_domain(void) { return domain; }

@@ -4,73 +4,74 @@
 
 #include "arrays/engine/algorithms/equality.hpp"
 #include "arrays/engine/algorithms/search.hpp"
+#include "core/engine/namespace.hpp"
 #include "strings/engine/number_scanners.hpp"
 #include "strings/engine/text_comparison.hpp"
 #include "strings/engine/utf.hpp"
 
-using zeb::text_of;
+using engine::text_of;
 
 @implementation ZEB_Char_Vector (Text)
 
 - (uint32_t)index_of_substring:(const char *)bytes length:(uint32_t)length
 {
-    return zeb::first_index_of_subsequence(text_of(self), std::span<const char>(bytes, length));
+    return engine::first_index_of_subsequence(text_of(self), std::span<const char>(bytes, length));
 }
 
 - (uint32_t)index_of_number_start
 {
-    return zeb::index_of_number_start(text_of(self));
+    return engine::index_of_number_start(text_of(self));
 }
 
 - (uint32_t)number_prefix_length
 {
-    return zeb::number_prefix_length(text_of(self));
+    return engine::number_prefix_length(text_of(self));
 }
 
 - (uint32_t)index_of_number_end
 {
-    return zeb::index_of_number_end(text_of(self));
+    return engine::index_of_number_end(text_of(self));
 }
 
 - (uint32_t)index_of_last_non_number
 {
-    return zeb::index_of_last_non_number(text_of(self));
+    return engine::index_of_last_non_number(text_of(self));
 }
 
 - (uint8_t)is_equal:(ZEB_Char_Vector *)other
 {
-    return other != nil && zeb::same_memory(text_of(self), text_of(other));
+    return other != nil && engine::same_memory(text_of(self), text_of(other));
 }
 
 - (uint8_t)is_equal_ignoring_case:(ZEB_Char_Vector *)other
 {
-    return other != nil && zeb::is_equal_ignoring_case(text_of(self), text_of(other));
+    return other != nil && engine::is_equal_ignoring_case(text_of(self), text_of(other));
 }
 
 - (uint8_t)is_less:(ZEB_Char_Vector *)other
 {
-    return zeb::is_less(text_of(self), text_of(other));
+    return engine::is_less(text_of(self), text_of(other));
 }
 
 - (ZEB_Comparison)compare:(ZEB_Char_Vector *)other
 {
-    return zeb::compare(text_of(self), text_of(other));
+    return engine::compare(text_of(self), text_of(other));
 }
 
 - (NSComparisonResult)platform_compare:(ZEB_Char_Vector *)other
 {
-    return zeb::platform_order(
-        zeb::compare(text_of(self), text_of(zeb::vector_or_nil<ZEB_Char_Vector>(other))));
+    return engine::platform_order(
+        engine::compare(text_of(self), text_of(engine::vector_or_nil<ZEB_Char_Vector>(other))));
 }
 
 - (ZEB_Comparison)compare_ignoring_case:(ZEB_Char_Vector *)other
 {
-    return zeb::compare_ignoring_case(text_of(self), text_of(other));
+    return engine::compare_ignoring_case(text_of(self), text_of(other));
 }
 
 - (uint8_t)is_valid_utf8
 {
-    return zeb::is_valid_utf8(text_of(self));
+    return engine::is_valid_utf8(text_of(self));
 }
 
 @end

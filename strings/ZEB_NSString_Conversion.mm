@@ -4,11 +4,12 @@
 #import "strings/ZEB_Text_Private.h"
 
 #include "arrays/engine/storage/resizing.hpp"
+#include "core/engine/namespace.hpp"
 #include "strings/engine/text_kernels.hpp"
 
 #include <stdlib.h>
 
-namespace zeb
+namespace zeb::engine
 {
 
 NSStringEncoding platform_encoding(ZEB_Encoding_Type type)
@@ -30,7 +31,7 @@ NSData *platform_bytes(NSString *text, ZEB_Encoding_Type type)
     return [bytes length] <= UINT32_MAX ? bytes : nil;
 }
 
-} // namespace zeb
+} // namespace zeb::engine
 
 namespace
 {
@@ -42,7 +43,7 @@ unichar *new_low_halves(std::span<const uint32_t> units)
 {
     unichar *const halves = static_cast<unichar *>(malloc(units.size() * sizeof(unichar)));
     if (halves != NULL)
-        zeb::kernels::narrow(units.data(), units.size(), halves);
+        engine::kernels::narrow(units.data(), units.size(), halves);
     return halves;
 }
 
@@ -57,17 +58,17 @@ Made *platform_string_of(std::span<const uint32_t> units)
 }
 
 /// A text too long for a string counts as one for which memory is short.
-void set_units(ZEB_Wide_String *string, NSString *given, zeb::Fix_Report report)
+void set_units(ZEB_Wide_String *string, NSString *given, engine::Fix_Report report)
 {
-    NSString *const text = zeb::string_or_nil(given);
+    NSString *const text = engine::string_or_nil(given);
     const NSUInteger length = [text length];
     if (length > UINT32_MAX)
-        return report(zeb::notes::allocate_failed);
-    zeb::set_length(zeb::storage_of_array(string), static_cast<uint32_t>(length), report);
-    if (length == 0 || string->count != length || zeb::storage_of_array(string).is_link())
+        return report(engine::notes::allocate_failed);
+    engine::set_length(engine::storage_of_array(string), static_cast<uint32_t>(length), report);
+    if (length == 0 || string->count != length || engine::storage_of_array(string).is_link())
         return;
     [text getCharacters:reinterpret_cast<unichar *>(string->data) range:NSMakeRange(0, length)];
-    zeb::kernels::widen_in_place(string->data, length);
+    engine::kernels::widen_in_place(string->data, length);
 }
 
 } // namespace
@@ -91,12 +92,12 @@ void set_units(ZEB_Wide_String *string, NSString *given, zeb::Fix_Report report)
 
 - (NSString *)NSString_value_with_encoding_type:(ZEB_Encoding_Type)type
 {
-    return [zeb::new_platform_string<NSString>(data, count, type) autorelease];
+    return [engine::new_platform_string<NSString>(data, count, type) autorelease];
 }
 
 - (NSMutableString *)NSMutableString_value_with_encoding_type:(ZEB_Encoding_Type)type
 {
-    return [zeb::new_platform_string<NSMutableString>(data, count, type) autorelease];
+    return [engine::new_platform_string<NSMutableString>(data, count, type) autorelease];
 }
 
 @end
@@ -110,7 +111,7 @@ void set_units(ZEB_Wide_String *string, NSString *given, zeb::Fix_Report report)
 
 - (id)init_with_NSString:(NSString *)text type:(ZEB_Encoding_Type)type
 {
-    NSData *const bytes = zeb::platform_bytes(text, type);
+    NSData *const bytes = engine::platform_bytes(text, type);
     self = [self init_with_capacity:length_of(bytes)];
     if (self != nil && capacity != 0) {
         memcpy(data, [bytes bytes], capacity);
@@ -121,7 +122,7 @@ void set_units(ZEB_Wide_String *string, NSString *given, zeb::Fix_Report report)
 
 - (void)set_from_NSString:(NSString *)text type:(ZEB_Encoding_Type)type
 {
-    NSData *const bytes = zeb::platform_bytes(text, type);
+    NSData *const bytes = engine::platform_bytes(text, type);
     if (length_of(bytes) != 0)
         [self set_chars:static_cast<const char *>([bytes bytes]) count:length_of(bytes)];
     else
@@ -136,14 +137,14 @@ void set_units(ZEB_Wide_String *string, NSString *given, zeb::Fix_Report report)
 {
     if (count == 0)
         return [NSString stringWithCString:"" encoding:NSASCIIStringEncoding];
-    return platform_string_of<NSString>(zeb::text_of(self));
+    return platform_string_of<NSString>(engine::text_of(self));
 }
 
 - (NSMutableString *)NSMutableString_value
 {
     if (count == 0)
         return [[[NSMutableString alloc] initWithCapacity:0] autorelease];
-    return platform_string_of<NSMutableString>(zeb::text_of(self));
+    return platform_string_of<NSMutableString>(engine::text_of(self));
 }
 
 @end
@@ -154,13 +155,13 @@ void set_units(ZEB_Wide_String *string, NSString *given, zeb::Fix_Report report)
 {
     self = [self init];
     if (self != nil)
-        set_units(self, text, zeb::Fix_Report{self, _cmd});
+        set_units(self, text, engine::Fix_Report{self, _cmd});
     return self;
 }
 
 - (void)set_from_NSString:(NSString *)text
 {
-    set_units(self, text, zeb::Fix_Report{self, _cmd});
+    set_units(self, text, engine::Fix_Report{self, _cmd});
 }
 
 @end

@@ -5,7 +5,7 @@
 
 #import <Foundation/Foundation.h>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// No encoding of the platform has this value.
@@ -37,4 +37,4 @@ NSString *string_or_nil(id text);
 /// The bytes of a platform string; nil where there are none, or more than a string can hold.
 NSData *platform_bytes(NSString *text, ZEB_Encoding_Type type);
 
-} // namespace zeb
+} // namespace zeb::engine

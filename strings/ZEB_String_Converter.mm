@@ -6,6 +6,7 @@
 #import "strings/ZEB_NSString_Conversion_Private.h"
 #import "strings/ZEB_Text_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "strings/engine/transcoding.hpp"
 
@@ -16,18 +17,18 @@ namespace
 /// any other.
 bool encode_directly(ZEB_String *target, ZEB_Wide_Char_Vector *wide)
 {
-    return zeb::set_to_utf8_of_utf16(
-        zeb::storage_of_array(target), zeb::text_of(wide),
-        zeb::Fix_Report { target, @selector(set_chars:count:) });
+    return engine::set_to_utf8_of_utf16(
+        engine::storage_of_array(target), engine::text_of(wide),
+        engine::Fix_Report { target, @selector(set_chars:count:) });
 }
 
 void convert(ZEB_String *target, ZEB_Wide_Char_Vector *wide, ZEB_Encoding_Type type)
 {
     if (target == nil)
         return;
-    if (zeb::text_of(wide).empty())
+    if (engine::text_of(wide).empty())
         [target clear];
-    else if (!zeb::is_utf8(type) || !encode_directly(target, wide))
+    else if (!engine::is_utf8(type) || !encode_directly(target, wide))
         [target set_from_NSString:[wide NSString_value] type:type];
 }
 
@@ -37,7 +38,7 @@ void convert(ZEB_String *target, ZEB_Wide_Char_Vector *wide, ZEB_Encoding_Type t
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (ZEB_String *)target

@@ -6,7 +6,7 @@
 
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The characters of a vector; none of nil.
@@ -36,4 +36,4 @@ Vector *vector_or_nil(id object)
     return [object isKindOfClass:[Vector class]] ? static_cast<Vector *>(object) : nil;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

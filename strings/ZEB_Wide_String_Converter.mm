@@ -5,6 +5,7 @@
 #import "strings/ZEB_NSString_Conversion_Private.h"
 #import "strings/ZEB_Text_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "strings/engine/transcoding.hpp"
 
@@ -15,16 +16,16 @@ namespace
 /// any other.
 bool decode_directly(ZEB_Wide_String *target, std::span<const char> utf8)
 {
-    return zeb::set_to_utf16_of_utf8(
-        zeb::storage_of_array(target), utf8, zeb::Fix_Report { target, @selector(set_from_NSString:) });
+    return engine::set_to_utf16_of_utf8(
+        engine::storage_of_array(target), utf8, engine::Fix_Report { target, @selector(set_from_NSString:) });
 }
 
 void decode_by_platform(ZEB_Wide_String *target, std::span<const char> bytes, ZEB_Encoding_Type type)
 {
     NSData *const copy = [[NSData alloc] initWithBytes:bytes.data() length:bytes.size()];
-    const NSStringEncoding encoding = zeb::platform_encoding(type);
+    const NSStringEncoding encoding = engine::platform_encoding(type);
     NSString *const text =
-        encoding != zeb::no_encoding ? [[NSString alloc] initWithData:copy encoding:encoding] : nil;
+        encoding != engine::no_encoding ? [[NSString alloc] initWithData:copy encoding:encoding] : nil;
     [target set_from_NSString:text];
     [text release];
     [copy release];
@@ -36,7 +37,7 @@ void convert(ZEB_Wide_String *target, std::span<const char> text, ZEB_Encoding_T
         return;
     if (text.empty())
         [target clear];
-    else if (!zeb::is_utf8(type) || !decode_directly(target, text))
+    else if (!engine::is_utf8(type) || !decode_directly(target, text))
         decode_by_platform(target, text, type);
 }
 
@@ -46,7 +47,7 @@ void convert(ZEB_Wide_String *target, std::span<const char> text, ZEB_Encoding_T
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 - (ZEB_Wide_String *)target
@@ -61,17 +62,17 @@ void convert(ZEB_Wide_String *target, std::span<const char> text, ZEB_Encoding_T
 
 - (void)set_from_string:(ZEB_Char_Vector *)chars
 {
-    convert(target, zeb::text_of(chars), ZEB_ENCODING_UTF8);
+    convert(target, engine::text_of(chars), ZEB_ENCODING_UTF8);
 }
 
 - (void)copy_string:(ZEB_Char_Vector *)chars
 {
-    convert(target, zeb::text_of(chars), ZEB_ENCODING_UTF8);
+    convert(target, engine::text_of(chars), ZEB_ENCODING_UTF8);
 }
 
 - (void)set_from_string_with_encoding_type:(ZEB_Char_Vector *)chars type:(ZEB_Encoding_Type)type
 {
-    convert(target, zeb::text_of(chars), type);
+    convert(target, engine::text_of(chars), type);
 }
 
 - (void)set_from_bytes:(const char *)bytes length:(uint32_t)length type:(ZEB_Encoding_Type)type

@@ -2,31 +2,32 @@
 
 #import "strings/ZEB_Text_Private.h"
 
+#include "core/engine/namespace.hpp"
 #include "strings/engine/c_strings.hpp"
 #include "strings/engine/transcoding.hpp"
 
-using zeb::storage_of_array;
+using engine::storage_of_array;
 
 @implementation ZEB_Wide_String (Text)
 
 - (void)copy_c_string:(const char *)bytes length:(uint32_t)length
 {
-    zeb::copy_c_string(storage_of_array(self), bytes, length, zeb::Fix_Report{self, _cmd});
+    engine::copy_c_string(storage_of_array(self), bytes, length, engine::Fix_Report{self, _cmd});
 }
 
 - (void)append_c_string:(const char *)bytes length:(uint32_t)length
 {
-    zeb::append_c_string(storage_of_array(self), bytes, length, zeb::Fix_Report{self, _cmd});
+    engine::append_c_string(storage_of_array(self), bytes, length, engine::Fix_Report{self, _cmd});
 }
 
 - (void)copy_chars:(const char *)bytes length:(uint32_t)length
 {
-    zeb::copy_c_string(storage_of_array(self), bytes, length, zeb::Fix_Report{self, _cmd});
+    engine::copy_c_string(storage_of_array(self), bytes, length, engine::Fix_Report{self, _cmd});
 }
 
 - (void)append_chars:(const char *)bytes length:(uint32_t)length
 {
-    zeb::append_c_string(storage_of_array(self), bytes, length, zeb::Fix_Report{self, _cmd});
+    engine::append_c_string(storage_of_array(self), bytes, length, engine::Fix_Report{self, _cmd});
 }
 
 @end
@@ -35,13 +36,13 @@ using zeb::storage_of_array;
 
 - (uint8_t)set_code_points_from_utf8:(ZEB_Char_Vector *)text
 {
-    return zeb::set_to_code_points_of_utf8(storage_of_array(self), zeb::text_of(text),
-                                           zeb::Fix_Report{self, _cmd});
+    return engine::set_to_code_points_of_utf8(storage_of_array(self), engine::text_of(text),
+                                              engine::Fix_Report{self, _cmd});
 }
 
 - (void)split_to_surrogate_pairs
 {
-    zeb::split_to_surrogate_pairs(storage_of_array(self), zeb::Fix_Report{self, _cmd});
+    engine::split_to_surrogate_pairs(storage_of_array(self), engine::Fix_Report{self, _cmd});
 }
 
 @end

@@ -2,11 +2,11 @@
 
 #include <cstdlib>
 
-namespace zeb
+namespace zeb::engine
 {
 
 void *reallocate(void *block, std::size_t size) noexcept { return std::realloc(block, size); }
 
 void release(void *block) noexcept { std::free(block); }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// `malloc` when `block` is none, else `realloc`. `size` is not 0. Null when there is no memory; the old
@@ -22,4 +22,4 @@ inline bool has_reserve() noexcept
     return reserve != nullptr;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The element type's own `==`: a not-a-number equals nothing, -0.0 equals 0.0.
@@ -47,4 +47,4 @@ struct Three_Way {
     }
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 #include <functional>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Whether a run has bytes in common with the `size` bytes at `block`.
@@ -19,4 +19,4 @@ bool overlaps(std::span<const Element> run, const void *block, std::size_t size)
            before(start, first + run.size_bytes());
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Owns room for `count` undefined elements. `get` answers null when there is no memory.
@@ -32,4 +32,4 @@ private:
     Element *block;
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,6 +3,7 @@
 #import "arrays/ZEB_T_Storage_Private.h"
 
 #include "arrays/engine/storage/enumeration.hpp"
+#include "core/engine/namespace.hpp"
 
 @implementation ZEB_T_Vector (Enumeration)
 
@@ -12,7 +13,7 @@
 {
     (void)buffer;
     (void)room;
-    return zeb::hand_over_once(*state, data, count);
+    return engine::hand_over_once(*state, data, count);
 }
 
 @end

@@ -9,7 +9,7 @@
 #include "arrays/engine/storage/array_storage.hpp"
 #include "arrays/engine/storage/element_kinds.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// How the family keeps its elements.
@@ -36,4 +36,4 @@ inline void take_mode(ZEB_T_Collection *made, ZEB_T_Collection *other)
     TT_TAKE_MODE;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,9 +5,10 @@
 
 #include "arrays/engine/storage/lifetime.hpp"
 #include "arrays/engine/storage/resizing.hpp"
+#include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 
-using zeb::storage_of_vector;
+using engine::storage_of_vector;
 
 namespace
 {
@@ -18,9 +19,9 @@ uint32_t default_length = 16;
 void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     if (other == nil)
-        return zeb::view(storage_of_vector(link), static_cast<ZEB_T_Element const *>(nullptr), 0);
-    zeb::take_mode(link, other);
-    zeb::view_range(storage_of_vector(link), [other TT_word_data], range);
+        return engine::view(storage_of_vector(link), static_cast<ZEB_T_Element const *>(nullptr), 0);
+    engine::take_mode(link, other);
+    engine::view_range(storage_of_vector(link), [other TT_word_data], range);
 }
 
 } // namespace
@@ -29,7 +30,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 + (const char *)get_KVX_proprietary_software_notice
 {
-    return zeb::proprietary_software_notice;
+    return engine::proprietary_software_notice;
 }
 
 + (uint32_t)default_length
@@ -51,7 +52,8 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil)
-        zeb::start(storage_of_vector(self), default_length, default_length, zeb::Fix_Report{self, _cmd});
+        engine::start(storage_of_vector(self), default_length, default_length,
+                      engine::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -64,7 +66,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil)
-        zeb::start(storage_of_vector(self), 0, capacity, zeb::Fix_Report{self, _cmd});
+        engine::start(storage_of_vector(self), 0, capacity, engine::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -72,7 +74,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil)
-        zeb::start(storage_of_vector(self), length, length, zeb::Fix_Report{self, _cmd});
+        engine::start(storage_of_vector(self), length, length, engine::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -80,9 +82,9 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil) {
-        link_marker = zeb::link_marker_of_links;
+        link_marker = engine::link_marker_of_links;
         TT_FIELD_OF_FOREIGN;
-        zeb::view(storage_of_vector(self), elements, n);
+        engine::view(storage_of_vector(self), elements, n);
     }
     return self;
 }
@@ -91,7 +93,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil) {
-        link_marker = zeb::link_marker_of_links;
+        link_marker = engine::link_marker_of_links;
         view_range(self, other, range);
     }
     return self;
@@ -102,8 +104,8 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
     self = [super init];
     if (self != nil) {
         TT_FIELD_OF_FOREIGN;
-        zeb::start_as_copy(storage_of_vector(self), zeb::Source::of_the_caller, elements, n, n,
-                           zeb::Fix_Report{self, _cmd});
+        engine::start_as_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n, n,
+                              engine::Fix_Report{self, _cmd});
     }
     return self;
 }
@@ -112,16 +114,16 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil && other != nil) {
-        zeb::take_mode(self, other);
-        zeb::start_as_copy(storage_of_vector(self), zeb::Source::of_another_array, other->data, other->count,
-                           other->count, zeb::Fix_Report{self, _cmd});
+        engine::take_mode(self, other);
+        engine::start_as_copy(storage_of_vector(self), engine::Source::of_another_array, other->data,
+                              other->count, other->count, engine::Fix_Report{self, _cmd});
     }
     return self;
 }
 
 - (void)dealloc
 {
-    zeb::finish(storage_of_vector(self));
+    engine::finish(storage_of_vector(self));
     [super dealloc];
 }
 
@@ -133,7 +135,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 - (void)relink_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
 {
     TT_FIELD_OF_FOREIGN;
-    zeb::view(storage_of_vector(self), elements, n);
+    engine::view(storage_of_vector(self), elements, n);
 }
 
 - (void)relink_to_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range
@@ -144,16 +146,16 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 - (void)copy_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n capacity:(uint32_t)capacity
 {
     uint32_t room;
-    zeb::replace_with_copy(storage_of_vector(self), zeb::Source::of_the_caller, elements, n, capacity, room,
-                           zeb::Fix_Report{self, _cmd});
+    engine::replace_with_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n, capacity,
+                              room, engine::Fix_Report{self, _cmd});
 }
 
 - (void)copy_vector:(ZEB_T_Vector *)other capacity:(uint32_t)capacity
 {
     uint32_t room;
-    zeb::replace_with_copy(
-        storage_of_vector(self), zeb::Source::of_another_array, [other TT_word_data], [other count], capacity,
-        room, zeb::Fix_Report { self, _cmd });
+    engine::replace_with_copy(
+        storage_of_vector(self), engine::Source::of_another_array, [other TT_word_data], [other count],
+        capacity, room, engine::Fix_Report { self, _cmd });
 }
 
 - (uint32_t)count
@@ -173,17 +175,17 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 - (void)clear
 {
-    zeb::change_count(storage_of_vector(self), 0, zeb::Fix_Report{self, _cmd});
+    engine::change_count(storage_of_vector(self), 0, engine::Fix_Report{self, _cmd});
 }
 
 - (void)set_count:(uint32_t)length
 {
-    zeb::change_count(storage_of_vector(self), length, zeb::Fix_Report{self, _cmd});
+    engine::change_count(storage_of_vector(self), length, engine::Fix_Report{self, _cmd});
 }
 
 - (void)decrease_count:(uint32_t)n
 {
-    zeb::change_count(storage_of_vector(self), n < count ? count - n : 0, zeb::Fix_Report{self, _cmd});
+    engine::change_count(storage_of_vector(self), n < count ? count - n : 0, engine::Fix_Report{self, _cmd});
 }
 
 - (void)decrement_count
@@ -198,7 +200,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 - (void)set_TT_word_data:(ZEB_T_Element *)elements
 {
-    zeb::change_data(storage_of_vector(self), elements);
+    engine::change_data(storage_of_vector(self), elements);
 }
 
 - (ZEB_T_Element)TT_word_at_index:(uint32_t)index
@@ -228,12 +230,12 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 - (ZEB_T_Element)first_TT_word
 {
-    return count != 0 ? data[0] : zeb::ZEB_T_Kind::Element();
+    return count != 0 ? data[0] : engine::ZEB_T_Kind::Element();
 }
 
 - (ZEB_T_Element)last_TT_word
 {
-    return count != 0 ? data[count - 1] : zeb::ZEB_T_Kind::Element();
+    return count != 0 ? data[count - 1] : engine::ZEB_T_Kind::Element();
 }
 
 - (ZEB_T_Element *)pointer_to_TT_word_at_index:(uint32_t)index
@@ -255,19 +257,19 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 - (void)set_length:(uint32_t)length
 {
     (void)length;
-    zeb::report_need_to_implement(self, _cmd, zeb::notes::need_to_implement);
+    engine::report_need_to_implement(self, _cmd, engine::notes::need_to_implement);
 }
 
 - (void)ensure_room_for:(uint32_t)n
 {
     (void)n;
-    zeb::report_need_to_implement(self, _cmd, zeb::notes::need_to_implement);
+    engine::report_need_to_implement(self, _cmd, engine::notes::need_to_implement);
 }
 
 - (void)append_array:(ZEB_T_Vector *)other
 {
     (void)other;
-    zeb::report_need_to_implement(self, _cmd, zeb::notes::need_to_implement);
+    engine::report_need_to_implement(self, _cmd, engine::notes::need_to_implement);
 }
 
 @end

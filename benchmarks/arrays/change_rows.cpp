@@ -7,6 +7,7 @@
 #include "arrays/engine/algorithms/occurrences.hpp"
 #include "arrays/engine/algorithms/removal.hpp"
 #include "arrays/engine/algorithms/replacement.hpp"
+#include "core/engine/namespace.hpp"
 
 #include <algorithm>
 #include <cstring>
@@ -68,13 +69,13 @@ void add_rows(unsigned percent, double removal_goal, double replacement_goal)
     const Element value(7), other(9);
     Row(name("remove all equal"), Measure::Bytes, block_bytes, restore)
         .goal(removal_goal)
-        .framework([=] { return zeb::remove_equal(span, value); })
+        .framework([=] { return engine::remove_equal(span, value); })
         .peer("std::remove", [=] { return std::remove(span.begin(), span.end(), value) - span.begin(); })
         .peer("find and move", [=] { return find_and_move(all, all + span.size(), value) - all; })
         .limit("memmove", move);
     Row(name("replace all equal"), Measure::Bytes, block_bytes, restore)
         .goal(replacement_goal)
-        .framework([=] { return zeb::replace_equal(span, value, other); })
+        .framework([=] { return engine::replace_equal(span, value, other); })
         .peer("std::replace", [=] { std::replace(span.begin(), span.end(), value, other); })
         .limit("compiled loop", [=] { return compiled::replace(all, span.size(), value, other); });
 }

@@ -4,6 +4,7 @@
 #include "benchmarks/common/rows.hpp"
 
 #include "arrays/engine/algorithms/ordered_search.hpp"
+#include "core/engine/namespace.hpp"
 
 #include <algorithm>
 #include <cstdlib>
@@ -90,14 +91,14 @@ void add_rows(std::size_t count, const char *size, double goal)
     Row(std::string("ordered find, own order, double, ") + size, Measure::Items, Job::keys_count)
         .goal(goal)
         .framework(
-            job.each([](Elements all, const double &key) { return zeb::ordered_find(all, key).index; }))
+            job.each([](Elements all, const double &key) { return engine::ordered_find(all, key).index; }))
         .peer("std::lower_bound", job.each([](Elements all, const double &key) {
             return std::lower_bound(all.begin(), all.end(), key) - all.begin();
         }));
     Row(std::string("ordered find, function, double, ") + size, Measure::Items, Job::keys_count)
         .goal(1)
         .framework(job.each(
-            [=](Elements all, const double &key) { return zeb::ordered_find(all, key, function).index; }))
+            [=](Elements all, const double &key) { return engine::ordered_find(all, key, function).index; }))
         .peer("as told", job.each([=](Elements all, const double &key) { return told(all, key, function); }))
         .limit("bsearch", job.each([](Elements all, const double &key) {
             return reinterpret_cast<std::uintptr_t>(

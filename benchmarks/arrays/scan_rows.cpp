@@ -9,6 +9,7 @@
 #include "arrays/engine/algorithms/fill.hpp"
 #include "arrays/engine/algorithms/reorder.hpp"
 #include "arrays/engine/algorithms/search.hpp"
+#include "core/engine/namespace.hpp"
 
 #if ZEB_HAS_QT
 #include <QList>
@@ -63,14 +64,14 @@ private:
         const auto read = [=, size = bytes] { return compiled::read(all, size); };
         const Element absent{};
         Row first = row("first index");
-        first.framework([=] { return zeb::first_index_of(span, absent); })
+        first.framework([=] { return engine::first_index_of(span, absent); })
             .peer("std::find", [=] { return std::find(span.begin(), span.end(), absent) - span.begin(); })
             .peer("compiled loop", [=] { return compiled::first_index(all, span.size(), absent); })
             .limit("read", read);
         if constexpr (sizeof(Element) == 1)
             first.peer("memchr", [=] { return std::memchr(all, absent, span.size()); });
         Row last = row("last index");
-        last.framework([=] { return zeb::last_index_of(span, absent); })
+        last.framework([=] { return engine::last_index_of(span, absent); })
             .peer("std::find", [=] { return std::find(span.rbegin(), span.rend(), absent) - span.rbegin(); })
             .peer("compiled loop", [=] { return compiled::last_index(all, span.size(), absent); })
             .limit("read", read);
@@ -91,17 +92,17 @@ private:
         const std::span<const Element> span(all, count);
         const auto read = [=, size = bytes] { return compiled::read(all, size); };
         row("minimum")
-            .framework([=] { return zeb::minimum(span); })
+            .framework([=] { return engine::minimum(span); })
             .peer("std::min_element", [=] { return *std::min_element(span.begin(), span.end()); })
             .peer("compiled loop", [=] { return compiled::minimum(all, span.size()); })
             .limit("read", read);
         row("maximum")
-            .framework([=] { return zeb::maximum(span); })
+            .framework([=] { return engine::maximum(span); })
             .peer("std::max_element", [=] { return *std::max_element(span.begin(), span.end()); })
             .peer("compiled loop", [=] { return compiled::maximum(all, span.size()); })
             .limit("read", read);
         row("minimum and maximum")
-            .framework([=] { return zeb::minimum_and_maximum(span).maximum; })
+            .framework([=] { return engine::minimum_and_maximum(span).maximum; })
             .peer("std::minmax_element",
                   [=] { return *std::minmax_element(span.begin(), span.end()).second; })
             .peer("compiled loops",
@@ -115,12 +116,12 @@ private:
         const std::span<Element> span(all, count);
         const Element value(7);
         row("fill")
-            .framework([=] { zeb::fill(span, value); })
+            .framework([=] { engine::fill(span, value); })
             .peer("std::fill", [=] { std::fill(span.begin(), span.end(), value); })
             .peer("compiled loop", [=] { compiled::fill(all, span.size(), value); })
             .limit("write", [=, size = bytes] { compiled::write(all, size); });
         row("reverse")
-            .framework([=] { zeb::reverse(span); })
+            .framework([=] { engine::reverse(span); })
             .peer("std::reverse", [=] { std::reverse(span.begin(), span.end()); })
             .peer("compiled loop", [=] { compiled::reverse(all, span.size()); })
             .limit("change in place", [=, size = bytes] { compiled::change(all, size); });
@@ -135,12 +136,12 @@ private:
         const auto standard = [=] { return std::equal(left.begin(), left.end(), right.begin()); };
         const auto loop = [=] { return compiled::equal(all, same, left.size()); };
         row("equality of memory")
-            .framework([=] { return zeb::same_memory(left, right); })
+            .framework([=] { return engine::same_memory(left, right); })
             .peer("std::equal", standard)
             .peer("memcmp", [=, size = bytes] { return std::memcmp(all, same, size); })
             .limit("read both", read);
         row("equality of values")
-            .framework([=] { return zeb::same_values(left, right); })
+            .framework([=] { return engine::same_values(left, right); })
             .peer("std::equal", standard)
             .peer("compiled loop", loop)
             .limit("read both", read);

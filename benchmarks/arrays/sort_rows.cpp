@@ -5,6 +5,7 @@
 
 #include "arrays/engine/algorithms/sort.hpp"
 #include "arrays/engine/kernels/shell_sort.hpp"
+#include "core/engine/namespace.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -79,14 +80,14 @@ void add_row(std::size_t count, const std::string &shape, double goal)
     Row(row_name<Element>("sort", shape, count), Measure::Items, static_cast<double>(count),
         [=] { job->prepare(count, shape); })
         .goal(goal)
-        .framework([job] { zeb::sort(std::span(job->elements)); })
+        .framework([job] { engine::sort(std::span(job->elements)); })
         .peer("std::sort", [job] { std::sort(job->elements.begin(), job->elements.end()); });
 }
 
 template <class Element>
 void plain_shell_sort(std::vector<Element> &elements, std::vector<std::uint32_t> &indexes)
 {
-    zeb::shell::sort(
+    engine::shell::sort(
         elements.size(), [&](std::size_t a, std::size_t b) { return elements[a] < elements[b]; },
         [&](std::size_t a, std::size_t b) {
             std::swap(elements[a], elements[b]);
@@ -102,7 +103,7 @@ void add_permutation_row(std::size_t count, const std::string &shape, double goa
     Row row(row_name<Element>("sort with permutation", shape, count), Measure::Items,
             static_cast<double>(count), [=] { job->prepare_with_indexes(count, shape); });
     row.goal(goal).framework(
-        [job] { zeb::sort_with_permutation(std::span(job->elements), std::span(job->indexes)); });
+        [job] { engine::sort_with_permutation(std::span(job->elements), std::span(job->indexes)); });
     if (shape == "distinct")
         row.peer("std::sort of pairs", [job] { std::sort(job->pairs.begin(), job->pairs.end()); });
     else

@@ -4,6 +4,7 @@
 #include "benchmarks/common/rows.hpp"
 
 #include "arrays/engine/algorithms/search.hpp"
+#include "core/engine/namespace.hpp"
 
 #if ZEB_HAS_QT
 #include <QByteArrayMatcher>
@@ -55,7 +56,7 @@ void add_row(const std::string &name, std::string &where, const std::string &pat
     if (goal > 0)
         row.goal(goal);
     row.framework(
-        [=] { return zeb::first_index_of_subsequence<char>(block(), std::span<const char>(pattern)); });
+        [=] { return engine::first_index_of_subsequence<char>(block(), std::span<const char>(pattern)); });
 #if defined(_GNU_SOURCE)
     row.peer("memmem", [=] { return memmem(all, text_bytes, pattern.data(), pattern.size()); });
 #endif

@@ -5,6 +5,7 @@
 
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "calendar/engine/date_arithmetic.hpp"
+#include "core/engine/namespace.hpp"
 
 #include <chrono>
 #include <cstdio>
@@ -118,9 +119,9 @@ void add_month_row()
     constexpr int steps = 20000;
     Row("month steps", Measure::Items, steps)
         .framework([] {
-            zeb::Date_Time value = zeb::make_date_time({1900, 1, 15}, 0, 0);
+            engine::Date_Time value = engine::make_date_time({1900, 1, 15}, 0, 0);
             for (int i = 0; i < steps; ++i)
-                zeb::add_time_units(value, ZEB_UNIT_MONTH, 1);
+                engine::add_time_units(value, ZEB_UNIT_MONTH, 1);
             return value.julian_day;
         })
         .peer("std::chrono",

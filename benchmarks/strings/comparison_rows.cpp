@@ -3,6 +3,7 @@
 
 #include "arrays/engine/algorithms/equality.hpp"
 #include "arrays/engine/algorithms/search.hpp"
+#include "core/engine/namespace.hpp"
 #include "strings/engine/text_comparison.hpp"
 
 #include <cctype>
@@ -60,11 +61,11 @@ void add_rows(std::size_t bytes)
     const auto memory = repeated(bytes, [=] { return std::memcmp(left->data(), right->data(), bytes); });
     Row("compare, " + size_of(bytes), Measure::Bytes, amount)
         .goal(0.9)
-        .framework(repeated(bytes, [=] { return zeb::compare(Text(*left), Text(*right)); }))
+        .framework(repeated(bytes, [=] { return engine::compare(Text(*left), Text(*right)); }))
         .peer("memcmp", memory);
     Row("is equal, " + size_of(bytes), Measure::Bytes, amount)
         .goal(0.9)
-        .framework(repeated(bytes, [=] { return zeb::same_memory(Text(*left), Text(*right)); }))
+        .framework(repeated(bytes, [=] { return engine::same_memory(Text(*left), Text(*right)); }))
         .peer("memcmp", memory);
     Row("compare 32-bit units, " + size_of(bytes), Measure::Bytes, amount)
         .goal(0.9)
@@ -74,24 +75,24 @@ void add_rows(std::size_t bytes)
                                     return std::span<const std::uint32_t>(
                                         reinterpret_cast<const std::uint32_t *>(text->data()), bytes / 4);
                                 };
-                                return zeb::compare(units(left), units(right));
+                                return engine::compare(units(left), units(right));
                             }))
         .peer("memcmp", memory);
     if (bytes < 1024)
         return;
     Row("compare ignoring case, " + size_of(bytes), Measure::Bytes, amount)
         .goal(1)
-        .framework(repeated(bytes, [=] { return zeb::compare_ignoring_case(*left, *shouted); }))
+        .framework(repeated(bytes, [=] { return engine::compare_ignoring_case(*left, *shouted); }))
         .peer("strncasecmp",
               repeated(bytes, [=] { return strncasecmp(left->data(), shouted->data(), bytes); }));
     Row("is equal ignoring case, " + size_of(bytes), Measure::Bytes, amount)
         .goal(1)
-        .framework(repeated(bytes, [=] { return zeb::is_equal_ignoring_case(*left, *shouted); }))
+        .framework(repeated(bytes, [=] { return engine::is_equal_ignoring_case(*left, *shouted); }))
         .peer("strncasecmp",
               repeated(bytes, [=] { return strncasecmp(left->data(), shouted->data(), bytes); }));
     Row("index of character, " + size_of(bytes), Measure::Bytes, amount)
         .goal(0.9)
-        .framework(repeated(bytes, [=] { return zeb::first_index_of(Text(*left), '#'); }))
+        .framework(repeated(bytes, [=] { return engine::first_index_of(Text(*left), '#'); }))
         .peer("memchr", repeated(bytes, [=] { return std::memchr(left->data(), '#', bytes); }));
 }
 

@@ -2,6 +2,7 @@
 #include "benchmarks/strings/string_rows.hpp"
 
 #include "arrays/engine/storage/occurrences.hpp"
+#include "core/engine/namespace.hpp"
 #include "strings/engine/c_strings.hpp"
 
 #if ZEB_HAS_QT
@@ -40,10 +41,10 @@ struct Fields {
     std::uint32_t capacity = 0;
     std::uint32_t marker = 0;
 
-    zeb::Char_Storage storage() { return {{data, count, marker, {}}, capacity, 16}; }
+    engine::Char_Storage storage() { return {{data, count, marker, {}}, capacity, 16}; }
 };
 
-void ignore(zeb::Char_Span) {}
+void ignore(engine::Char_Span) {}
 
 void replace_in_string(std::string &all, const std::string &replacement)
 {
@@ -61,8 +62,8 @@ void add_row(const std::string &name, const std::string &replacement)
     auto *const fields = new Fields;
     Row row("replace occurrences, " + name + ", 16 MiB", Measure::Bytes, text_bytes);
     row.goal_over("QByteArray::replace", 2).framework([=] {
-        zeb::copy_c_string(fields->storage(), text().data(), text_bytes, ignore);
-        return zeb::replace_occurrences(fields->storage(), word, replacement, ignore);
+        engine::copy_c_string(fields->storage(), text().data(), text_bytes, ignore);
+        return engine::replace_occurrences(fields->storage(), word, replacement, ignore);
     });
 #if ZEB_HAS_QT
     row.peer("QByteArray::replace", [=] {

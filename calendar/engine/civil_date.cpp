@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -89,4 +89,4 @@ void add_months_clamped(Date_Time &value, std::int32_t months) noexcept
     value = make_civil_date_time(add_months_clamped(value.date, months), value.time);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

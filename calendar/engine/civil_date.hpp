@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The proleptic Gregorian calendar without limits of its own: right for day numbers below 0 and years before
@@ -45,4 +45,4 @@ ZEB_Gregorian_Date add_months_clamped(ZEB_Gregorian_Date date, std::int32_t mont
 /// The same on a date and time, whose day number becomes the civil one; the time of day stays.
 void add_months_clamped(Date_Time &value, std::int32_t months) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

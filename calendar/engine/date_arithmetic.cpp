@@ -2,7 +2,7 @@
 
 #include "calendar/engine/wrapping.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -198,4 +198,4 @@ void advance_to_unit_boundary(Date_Time &value, ZEB_Time_Unit unit) noexcept
     normalise_date(value);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

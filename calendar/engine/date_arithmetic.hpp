@@ -2,7 +2,7 @@
 
 #include "calendar/engine/date_time.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Calendar arithmetic by unit codes. Fields wrap around in their own width and never overflow; a date field
@@ -25,4 +25,4 @@ void truncate_to_unit(Date_Time &value, ZEB_Time_Unit unit) noexcept;
 /// keeps its nanoseconds. The day number is derived anew for every code.
 void advance_to_unit_boundary(Date_Time &value, ZEB_Time_Unit unit) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -104,4 +104,4 @@ double seconds_since_1970(const Scanned_Date &scanned) noexcept
     return days * 86400.0 + scanned.hours * 3600.0 + scanned.minutes * 60.0 + scanned.seconds;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

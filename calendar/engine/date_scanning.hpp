@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// A date and time of day as they stood in a text; no field is checked for its range.
@@ -27,4 +27,4 @@ std::uint32_t scan_date(const char *chars, std::uint32_t length, Scanned_Date &r
 /// The seconds since 1970-01-01 00:00 of what scan_date read.
 double seconds_since_1970(const Scanned_Date &scanned) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

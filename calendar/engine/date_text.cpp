@@ -4,7 +4,7 @@
 #include "numbers/engine/fixed_text.hpp"
 #include "numbers/engine/unsigned_text.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -74,4 +74,4 @@ char *put_slash_date(char *out, ZEB_Gregorian_Date date) noexcept
     return put_signed(out, date.year);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include "calendar/engine/date_time.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Room for every slash text.
@@ -30,4 +30,4 @@ Date_Time read_spaced_text(const char *chars, std::uint32_t length) noexcept;
 /// position after the last character.
 char *put_slash_date(char *out, ZEB_Gregorian_Date date) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 #include "calendar/engine/julian_day.hpp"
 #include "calendar/engine/wrapping.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 Date_Time make_date_time(ZEB_Gregorian_Date date, std::uint64_t second, std::uint64_t nanosecond) noexcept
@@ -60,4 +60,4 @@ bool is_at_or_before(const Date_Time &a, const Date_Time &b) noexcept
     return a.time.nanosecond <= b.time.nanosecond;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

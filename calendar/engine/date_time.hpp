@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// A date in both its forms and a time of day. The time may be past the day's end where an operation says so.
@@ -57,4 +57,4 @@ inline std::uint64_t hash_of(const Date_Time &value) noexcept
     return stir(hash_of(value.time), static_cast<std::uint32_t>(value.julian_day));
 }
 
-} // namespace zeb
+} // namespace zeb::engine

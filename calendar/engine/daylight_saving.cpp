@@ -2,7 +2,7 @@
 
 #include "calendar/engine/julian_day.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -61,4 +61,4 @@ bool is_daylight_saving_time(const Date_Time &value) noexcept
     return month > 4 && month < 10;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

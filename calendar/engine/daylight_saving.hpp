@@ -2,7 +2,7 @@
 
 #include "calendar/engine/date_time.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Whether daylight saving time is in force by the rule of the United States, which changed with 2007: from
@@ -11,4 +11,4 @@ namespace zeb
 /// its first Sunday, true after it.
 bool is_daylight_saving_time(const Date_Time &value) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

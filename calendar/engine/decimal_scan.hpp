@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// A cursor over a counted array of characters, for texts that are read piece by piece as the C library's
@@ -67,4 +67,4 @@ struct Text_Cursor {
     }
 };
 
-} // namespace zeb
+} // namespace zeb::engine

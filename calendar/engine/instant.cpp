@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -116,4 +116,4 @@ char *write_pretty_date(char *buffer, double seconds_since_1970) noexcept
     return end;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

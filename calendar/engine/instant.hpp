@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 inline constexpr double seconds_per_day = 86400.0;
@@ -32,4 +32,4 @@ std::uint32_t rounded_microseconds(double fraction) noexcept;
 /// The buffer needs 64 bytes; nothing is written after the terminating null, a pointer to which is returned.
 char *write_pretty_date(char *buffer, double seconds_since_1970) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 #include "numbers/engine/fixed_text.hpp"
 #include "numbers/engine/unsigned_text.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -183,4 +183,4 @@ std::uint32_t scan_iso8601(const char *chars, std::uint32_t length, ZEB_Gregoria
     return cursor.position;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

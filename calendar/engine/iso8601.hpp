@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Dates and times by ISO 8601 in its extended form, the same in every locale, on the calendar of
@@ -35,4 +35,4 @@ char *write_iso8601_instant(char *buffer, double seconds_since_1970) noexcept;
 std::uint32_t scan_iso8601(const char *chars, std::uint32_t length, ZEB_Gregorian_Date &date,
                            ZEB_Time_Value &time) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include "calendar/engine/wrapping.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 std::int32_t julian_day_from_any_fields(ZEB_Gregorian_Date date) noexcept
@@ -17,4 +17,4 @@ std::int32_t julian_day_from_any_fields(ZEB_Gregorian_Date date) noexcept
                         wrapping_subtract(date.day, 32075));
 }
 
-} // namespace zeb
+} // namespace zeb::engine

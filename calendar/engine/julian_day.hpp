@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The Julian day number of 1970-01-01.
@@ -68,4 +68,4 @@ inline ZEB_Gregorian_Date date_from_julian_day(std::int32_t julian_day) noexcept
                                 static_cast<std::uint32_t>(-4800));
 }
 
-} // namespace zeb
+} // namespace zeb::engine

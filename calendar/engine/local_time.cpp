@@ -5,7 +5,7 @@
 
 #include <sys/time.h>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -80,4 +80,4 @@ std::size_t format_with_strftime(char (&text)[strftime_limit], const char *forma
     return std::strftime(text, sizeof text, format, &fields);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <ctime>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The two places where the platform's clock and its notion of local time come in.
@@ -30,4 +30,4 @@ inline constexpr std::size_t strftime_limit = 2048;
 std::size_t format_with_strftime(char (&text)[strftime_limit], const char *format,
                                  const Date_Time &value) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

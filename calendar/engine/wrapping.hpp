@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Signed 32-bit arithmetic that wraps around instead of overflowing.
@@ -22,4 +22,4 @@ constexpr std::int32_t wrapping_multiply(std::int32_t a, std::int32_t b) noexcep
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Character tests that know no locale.
@@ -25,4 +25,4 @@ constexpr std::uint32_t leading_spaces(const char *chars, std::uint32_t length) 
     return index;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -1,6 +1,6 @@
 #include "core/engine/c_locale.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 locale_t c_locale() noexcept
@@ -9,4 +9,4 @@ locale_t c_locale() noexcept
     return locale;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

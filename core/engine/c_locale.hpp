@@ -5,7 +5,7 @@
 #include <xlocale.h>
 #endif
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The "C" locale as an object, made once.
@@ -25,4 +25,4 @@ private:
     locale_t former;
 };
 
-} // namespace zeb
+} // namespace zeb::engine

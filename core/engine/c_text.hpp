@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Owns the copy; the empty text where there is no memory for it.
@@ -34,4 +34,4 @@ private:
     char *text;
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-namespace zeb
+namespace zeb::engine
 {
 
 using Char_Span = ZEB_Char_Span;
@@ -17,4 +17,4 @@ constexpr Char_Span span_of(const char (&literal)[size]) noexcept
     return {literal, static_cast<uint32_t>(size - 1)};
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Stirs a word into a hash.
@@ -33,4 +33,4 @@ inline std::uint64_t hash_bytes(const void *bytes, std::size_t size) noexcept
     return hash;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// What stands around and between the elements of a list.
@@ -37,4 +37,4 @@ void write_list(std::uint32_t count, Put_Element put_element)
         put_element(i);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -1,10 +1,10 @@
 /// The one text of the proprietary notice.
 #pragma once
 
-namespace zeb
+namespace zeb::engine
 {
 
 inline constexpr char proprietary_software_notice[] =
     "Korvane_ZEB. Proprietary software of the Korvane project; all rights reserved.";
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Runs `prepare` unless `done` is set. The flag is set before the work, so that work which comes back
@@ -17,4 +17,4 @@ inline void run_once(std::uint8_t &done, Work prepare)
     prepare();
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -1,6 +1,6 @@
 #include "core/engine/platform_call.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 void *result_or_null(void *(*make)()) noexcept
@@ -12,4 +12,4 @@ void *result_or_null(void *(*make)()) noexcept
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

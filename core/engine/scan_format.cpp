@@ -3,7 +3,7 @@
 #include <cstring>
 #include <new>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -87,4 +87,4 @@ Double_Scan_Format::Double_Scan_Format(const char *format) noexcept : text("")
     text = widened;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <memory>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// A scanf format, each of whose floating-point conversions that store and lack a length modifier got the
@@ -23,4 +23,4 @@ private:
     const char *text;
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,7 +3,7 @@
 
 #include "core/engine/char_span.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 inline constexpr const char *first_char_format = "%c";
@@ -25,4 +25,4 @@ inline const char *or_first(const char *format, const char *first) noexcept
     return format != nullptr ? format : first;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

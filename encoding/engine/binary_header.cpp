@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -36,4 +36,4 @@ bool binary_header_needs_swap(const char *buffer, std::uint32_t length) noexcept
     return read_count(buffer + header_text_size, true) == byte_order_marker;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

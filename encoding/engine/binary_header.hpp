@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 inline constexpr std::uint32_t binary_header_size = 64;
@@ -15,4 +15,4 @@ void write_binary_header(char *buffer) noexcept;
 /// text and the byte-order marker are looked at; false for fewer than 64 bytes and for any other text.
 bool binary_header_needs_swap(const char *buffer, std::uint32_t length) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

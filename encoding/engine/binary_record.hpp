@@ -6,7 +6,7 @@
 #include "encoding/engine/byte_order.hpp"
 #include "encoding/engine/encoding_notes.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The 8-bit string that records are appended to.
@@ -226,4 +226,4 @@ std::uint32_t decode_references(Array_Storage<Counted_References<Policy>> array,
     return record_count_size;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

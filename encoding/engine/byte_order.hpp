@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 constexpr std::uint16_t swap_bytes(std::uint16_t value) noexcept
@@ -51,4 +51,4 @@ inline std::uint32_t read_count(const char *bytes, bool needs_swap) noexcept
     return needs_swap ? swap_bytes(count) : count;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,7 +3,7 @@
 
 #include "core/engine/char_span.hpp"
 
-namespace zeb::notes
+namespace zeb::engine::notes
 {
 
 inline constexpr Char_Span decode_through_link =
@@ -11,4 +11,4 @@ inline constexpr Char_Span decode_through_link =
 inline constexpr Char_Span contents_truncated =
     span_of("Binary contents are truncated, no decode performed.");
 
-} // namespace zeb::notes
+} // namespace zeb::engine::notes

@@ -5,7 +5,7 @@
 #include "arrays/engine/storage/own_source.hpp"
 #include "encoding/engine/zlib_loops.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The bytes of a container of 8-bit elements.
@@ -54,4 +54,4 @@ std::int32_t run_zlib(Byte_Run source, Array_Storage<Plain_Elements<Element>> ar
     return work(bytes.elements().data(), source.length, sink.output());
 }
 
-} // namespace zeb
+} // namespace zeb::engine

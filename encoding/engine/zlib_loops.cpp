@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <zlib.h>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -156,4 +156,4 @@ const char *zlib_status_text(std::int32_t status) noexcept
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The size of the pieces in which output is appended.
@@ -33,4 +33,4 @@ std::int32_t decompress(const char *bytes, std::uint32_t length, Zlib_Output out
 /// The text of a zlib status as it follows "zlib error: "; the empty text for -5 and for any other.
 const char *zlib_status_text(std::int32_t status) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -99,4 +99,4 @@ int Open_File::close() noexcept
     return is_closed ? 0 : errno;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

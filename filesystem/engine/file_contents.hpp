@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// An open file descriptor, closed when it ends. Nothing here waits for a partner: what would is an error.
@@ -43,4 +43,4 @@ private:
     int error;
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,7 +3,7 @@
 
 #include "core/engine/char_span.hpp"
 
-namespace zeb::messages
+namespace zeb::engine::messages
 {
 
 inline constexpr Char_Span error_opening = span_of("Error opening file: ");
@@ -27,4 +27,4 @@ inline constexpr Char_Span error_backstoring = span_of("Error backstoring file: 
 inline constexpr Char_Span restored = span_of("Restored file: ");
 inline constexpr Char_Span error_restoring = span_of("Error restoring file: ");
 
-} // namespace zeb::messages
+} // namespace zeb::engine::messages

@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <sys/stat.h>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -77,4 +77,4 @@ Access_Rights effective_rights(const File_Status &status, bool is_owner, bool is
     return rights;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The rights of one class of users.
@@ -38,4 +38,4 @@ int read_status(const char *path, File_Status &status) noexcept;
 Access_Rights effective_rights(const File_Status &status, bool is_owner, bool is_in_group,
                                Access_Rights before) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

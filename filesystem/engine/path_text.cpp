@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 std::uint32_t visible_path_length(const char *path, std::uint32_t length) noexcept
@@ -16,4 +16,4 @@ bool is_whole_path(const char *path, std::uint32_t length) noexcept
     return visible == 0 || std::memchr(path, '\0', visible) == nullptr;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The length of a path's visible text: a null that ends the counted text is not part of it.
@@ -12,4 +12,4 @@ std::uint32_t visible_path_length(const char *path, std::uint32_t length) noexce
 /// Whether the platform can be given the path: its visible text holds no null, which would cut it short.
 bool is_whole_path(const char *path, std::uint32_t length) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

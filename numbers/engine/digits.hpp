@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Decimal digits made eight at a time in one 64-bit word. In such a word the first digit of the text is
@@ -101,4 +101,4 @@ inline char *store_kept(char *out, const Sixteen_Digits &digits) noexcept
     return store_bytes(out, digits.first | ascii_zeros, digits.kept);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

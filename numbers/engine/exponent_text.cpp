@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -51,4 +51,4 @@ char *put_exponent_form(char *out, double x) noexcept
 template char *put_exponent_form<15>(char *, double) noexcept;
 template char *put_exponent_form<6>(char *, double) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

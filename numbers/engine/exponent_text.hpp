@@ -1,6 +1,6 @@
 #pragma once
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Puts a finite number other than 0 as d.ddde+dd with 15 or 6 significant digits, rounded as the C library
@@ -13,4 +13,4 @@ char *put_exponent_form(char *out, double x) noexcept;
 extern template char *put_exponent_form<15>(char *, double) noexcept;
 extern template char *put_exponent_form<6>(char *, double) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

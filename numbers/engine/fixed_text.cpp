@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -145,4 +145,4 @@ char *put_decimals(char *out, std::uint64_t fraction, std::uint32_t decimals) no
     return store_kept(out, sixteen_digits(fraction * integer_powers[16 - decimals]));
 }
 
-} // namespace zeb
+} // namespace zeb::engine

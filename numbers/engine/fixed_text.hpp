@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Fixed-point text without needless digits: |x| * 10^decimals is rounded by adding 0.5 and cutting, trailing
@@ -31,4 +31,4 @@ char *write_fixed_in_pretty_range(char *buffer, double x) noexcept;
 /// puts nothing for 0. No terminating null; returns the position after the last character.
 char *put_decimals(char *out, std::uint64_t fraction, std::uint32_t decimals) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

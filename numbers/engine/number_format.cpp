@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -53,4 +53,4 @@ char *format_fixed(char *buffer, std::uint32_t decimals, double x, Number_Format
     return buffer + length;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include "numbers/engine/scientific_form.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The error code of a number that is infinite or not a number, and of a text that could not be made.
@@ -29,4 +29,4 @@ char *format_value(char *buffer, const Scientific_Rules &rules, double x,
 /// the error code set. The buffer needs 64 bytes; returns a pointer to the terminating null.
 char *format_fixed(char *buffer, std::uint32_t decimals, double x, Number_Format_Result &result) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -12,7 +12,7 @@
 #include <fast_float/fast_float.h>
 #endif
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -136,4 +136,4 @@ std::uint32_t scan_unsigned_64(const char *chars, std::uint32_t length, int base
     return scan_natural(chars, length, base, result);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

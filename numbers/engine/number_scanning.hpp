@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Numbers from the start of a counted array, of which the first 31 characters are looked at. Each scanner
@@ -25,4 +25,4 @@ std::uint32_t scan_int_64(const char *chars, std::uint32_t length, int base, std
 std::uint32_t scan_unsigned_64(const char *chars, std::uint32_t length, int base,
                                std::uint64_t &result) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

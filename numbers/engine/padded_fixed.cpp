@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-namespace zeb
+namespace zeb::engine
 {
 
 std::uint32_t put_padded_fixed(char *out, std::uint32_t size, std::uint32_t decimals, double x) noexcept
@@ -24,4 +24,4 @@ std::uint32_t length_without_padding(const char *text, std::uint32_t length) noe
     return length;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Puts what the C library makes of "%-20.*f" for a finite number, with '.' as decimal point in every locale.
@@ -14,4 +14,4 @@ std::uint32_t put_padded_fixed(char *out, std::uint32_t size, std::uint32_t deci
 /// The length that is left of a text without the white space at its end.
 std::uint32_t length_without_padding(const char *text, std::uint32_t length) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -89,4 +89,4 @@ Wide_Unsigned power_of_ten_bits(int power) noexcept
     return power_table.entries[power - smallest_table_power];
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 inline constexpr int smallest_table_power = -302;
@@ -24,4 +24,4 @@ constexpr int floor_log2_of_power_of_ten(int power) noexcept { return (power * 1
 /// floor(log10(2^power)), right for powers from -2620 to 2620.
 constexpr int floor_log10_of_power_of_two(int power) noexcept { return (power * 315653) >> 20; }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -51,4 +51,4 @@ char *write_pretty_float(char *buffer, float x) noexcept
     return write_fixed_float(buffer, 4, x);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The shortest honest text of a number for a reader: fixed notation from 0.0001 to below 1000000, with at
@@ -14,4 +14,4 @@ namespace zeb
 char *write_pretty_double(char *buffer, double x) noexcept;
 char *write_pretty_float(char *buffer, float x) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

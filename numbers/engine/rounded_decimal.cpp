@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -115,4 +115,4 @@ Rounded_Decimal rounded_decimal(double magnitude) noexcept
 template Rounded_Decimal rounded_decimal<15>(double) noexcept;
 template Rounded_Decimal rounded_decimal<6>(double) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// digits * 10^(exponent - number of digits + 1): a decimal number of a fixed count of significant digits,
@@ -20,4 +20,4 @@ Rounded_Decimal rounded_decimal(double magnitude) noexcept;
 extern template Rounded_Decimal rounded_decimal<15>(double) noexcept;
 extern template Rounded_Decimal rounded_decimal<6>(double) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -131,4 +131,4 @@ char *write_scientific(char *buffer, const Scientific_Rules &rules, double x, st
     return finish(buffer, made.text, static_cast<std::size_t>(made.end - made.text));
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// What kind of text a number became.
@@ -37,4 +37,4 @@ struct Scientific_Rules {
 char *write_scientific(char *buffer, const Scientific_Rules &rules, double x, std::uint32_t *result_kind,
                        ZEB_Index_Range *range) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -38,4 +38,4 @@ std::uint32_t find_special_value(const char *chars, std::uint32_t length) noexce
     return length;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// How many characters of a counted array stand before the first "inf", "infinity" or "nan", in any case,
@@ -10,4 +10,4 @@ namespace zeb
 /// when there is none.
 std::uint32_t find_special_value(const char *chars, std::uint32_t length) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

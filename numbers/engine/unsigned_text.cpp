@@ -2,7 +2,7 @@
 
 #include "numbers/engine/digits.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -114,4 +114,4 @@ char *write_unsigned(char *buffer, std::uint32_t value) noexcept
     return end;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The writers of this header put the plain decimal digits, and nothing after them: no terminating null.
@@ -29,4 +29,4 @@ char *put_zero_padded(char *out, std::uint64_t value, std::uint32_t digits) noex
 /// The decimal digits and a terminating null, a pointer to which is returned. The buffer needs 11 bytes.
 char *write_unsigned(char *buffer, std::uint32_t value) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

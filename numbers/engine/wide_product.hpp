@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 struct Wide_Unsigned {
@@ -26,4 +26,4 @@ constexpr Wide_Unsigned wide_product(std::uint64_t a, std::uint64_t b) noexcept
 #endif
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -9,7 +9,7 @@
 
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Grows for `needed` characters; the first block is allocated, a later one reallocated, and the note
@@ -79,4 +79,4 @@ void append_null_terminator(Char_Storage string, Report report) noexcept
         string.data[string.count] = '\0';
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The library is asked with the character as a signed value. Byte 255 is then the end-of-file code,
@@ -83,4 +83,4 @@ private:
 #endif
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 
 #include <array>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -110,4 +110,4 @@ std::uint32_t index_of_last_non_number(Text text) noexcept
     return last_index_in(small_number_characters, false, text);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

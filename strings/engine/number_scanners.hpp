@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Where a number can begin: past leading white space, at a special word, else at the first number
@@ -29,4 +29,4 @@ std::uint32_t index_of_number_end(std::span<const char> text) noexcept;
 /// The last character that is no number character. Here the capitals E, F and G are none either.
 std::uint32_t index_of_last_non_number(std::span<const char> text) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -3,7 +3,7 @@
 
 #include "core/engine/char_span.hpp"
 
-namespace zeb::notes
+namespace zeb::engine::notes
 {
 
 inline constexpr Char_Span copy_c_string_through_link =
@@ -13,4 +13,4 @@ inline constexpr Char_Span append_c_string_through_link =
 inline constexpr Char_Span terminator_through_link =
     span_of("Cannot append null terminator through link, no append made.");
 
-} // namespace zeb::notes
+} // namespace zeb::engine::notes

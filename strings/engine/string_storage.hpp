@@ -4,7 +4,7 @@
 #include "arrays/engine/storage/array_storage.hpp"
 #include "arrays/engine/storage/element_kinds.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 template <class Character>
@@ -13,4 +13,4 @@ using Text_Storage = Array_Storage<Plain_Elements<Character>>;
 using Char_Storage = Text_Storage<char>;
 using Wide_Char_Storage = Text_Storage<std::uint32_t>;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -64,4 +64,4 @@ bool is_equal_ignoring_case(Text left, Text right) noexcept
     return left.size() == right.size() && first_folded_difference(left, right, Case_Folding()) == left.size();
 }
 
-} // namespace zeb
+} // namespace zeb::engine

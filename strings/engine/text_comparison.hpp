@@ -8,7 +8,7 @@
 #include <cstring>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The answer for texts that first differ at some place.
@@ -67,4 +67,4 @@ ZEB_Comparison compare_ignoring_case(std::span<const char> left, std::span<const
 /// True when both have as many bytes, and these are the same but for case.
 bool is_equal_ignoring_case(std::span<const char> left, std::span<const char> right) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

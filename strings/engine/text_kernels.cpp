@@ -11,7 +11,7 @@
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace HWY_NAMESPACE
 {
@@ -218,12 +218,12 @@ Units_Above count_low_halves_above(const std::uint32_t *units, std::size_t count
 }
 
 } // namespace HWY_NAMESPACE
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 #if ZEB_HAS_HIGHWAY
@@ -294,5 +294,5 @@ Units_Above count_low_halves_above(const std::uint32_t *units, std::size_t count
     return ZEB_KERNEL(count_low_halves_above)(units, count);
 }
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 /// Index of the first bytes that differ also when ASCII capitals count as small letters; count when there
@@ -50,4 +50,4 @@ struct Units_Above {
 Units_Above count_units_above(const std::uint32_t *units, std::size_t count) noexcept;
 Units_Above count_low_halves_above(const std::uint32_t *units, std::size_t count) noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

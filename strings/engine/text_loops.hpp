@@ -6,7 +6,7 @@
 
 #include <cstring>
 
-namespace zeb::plain
+namespace zeb::engine::plain
 {
 
 inline std::uint8_t small_ascii_letter(std::uint8_t byte) noexcept
@@ -104,4 +104,4 @@ inline kernels::Units_Above count_low_halves_above(const std::uint32_t *units, s
     return above;
 }
 
-} // namespace zeb::plain
+} // namespace zeb::engine::plain

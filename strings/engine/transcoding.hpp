@@ -7,7 +7,7 @@
 #include "strings/engine/string_storage.hpp"
 #include "strings/engine/utf.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Room for a string's new contents, before it is known that they can be written: the string's own block
@@ -150,4 +150,4 @@ void split_to_surrogate_pairs(Wide_Char_Storage string, Report report) noexcept
     string.count += static_cast<std::uint32_t>(pairs);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

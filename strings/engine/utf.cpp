@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -321,4 +321,4 @@ void split_to_surrogate_pairs(std::uint32_t *units, std::size_t count, std::size
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

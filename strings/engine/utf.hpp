@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 bool is_valid_utf8(std::span<const char> text) noexcept;
@@ -48,4 +48,4 @@ std::size_t count_of_pairs(std::span<const std::uint32_t> code_points) noexcept;
 /// pair. There is room for count + pairs elements. All other elements stay.
 void split_to_surrogate_pairs(std::uint32_t *units, std::size_t count, std::size_t pairs) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

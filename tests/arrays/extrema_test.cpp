@@ -1,6 +1,7 @@
 #include "arrays/engine/algorithms/equality.hpp"
 #include "arrays/engine/algorithms/extrema.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"
 
@@ -22,12 +23,12 @@ void expect_extremes(const std::vector<E> &elements, size_t offset)
     const std::span<const E> span = walled.span();
     const E low = reference::minimum(elements);
     const E high = reference::maximum(elements);
-    ASSERT_TRUE(same_bits(zeb::minimum(span), low)) << elements.size();
-    ASSERT_TRUE(same_bits(zeb::maximum(span), high)) << elements.size();
-    const zeb::Extrema<E> both = zeb::minimum_and_maximum(span);
+    ASSERT_TRUE(same_bits(engine::minimum(span), low)) << elements.size();
+    ASSERT_TRUE(same_bits(engine::maximum(span), high)) << elements.size();
+    const engine::Extrema<E> both = engine::minimum_and_maximum(span);
     ASSERT_TRUE(same_bits(both.minimum, low) && same_bits(both.maximum, high)) << elements.size();
-    ASSERT_TRUE(same_bits(zeb::minimum(span, Asked_Less()), low));
-    ASSERT_TRUE(same_bits(zeb::maximum(span, Asked_Less()), high));
+    ASSERT_TRUE(same_bits(engine::minimum(span, Asked_Less()), low));
+    ASSERT_TRUE(same_bits(engine::maximum(span, Asked_Less()), high));
 }
 
 } // namespace
@@ -81,17 +82,17 @@ TYPED_TEST(Extremes, equality_sees_one_difference_at_every_place)
             for (size_t turn = 0; turn <= std::min<size_t>(length, 40); ++turn) {
                 Walled<E> walled(right, length % 13);
                 const std::span<const E> span(left);
-                ASSERT_EQ(zeb::same_memory<E>(span, walled.span()), reference::same_memory(left, right));
-                ASSERT_EQ(zeb::same_values<E>(span, walled.span()), reference::same_values(left, right));
-                ASSERT_EQ(zeb::same_values<E>(span, walled.span(), Asked_Equality()),
+                ASSERT_EQ(engine::same_memory<E>(span, walled.span()), reference::same_memory(left, right));
+                ASSERT_EQ(engine::same_values<E>(span, walled.span()), reference::same_values(left, right));
+                ASSERT_EQ(engine::same_values<E>(span, walled.span(), Asked_Equality()),
                           reference::same_values(left, right));
                 right = left;
                 if (length > 0)
                     right[random() % length] = draw_element<E>(random, Draw::Few_Values, true);
             }
             right.push_back(E{});
-            ASSERT_FALSE(zeb::same_memory<E>(std::span<const E>(left), right));
-            ASSERT_FALSE(zeb::same_values<E>(std::span<const E>(left), right));
+            ASSERT_FALSE(engine::same_memory<E>(std::span<const E>(left), right));
+            ASSERT_FALSE(engine::same_values<E>(std::span<const E>(left), right));
         }
     });
 }

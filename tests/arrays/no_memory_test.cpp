@@ -4,6 +4,7 @@
 #include "arrays/engine/algorithms/sort.hpp"
 #include "arrays/engine/allocator.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"
 
@@ -12,11 +13,11 @@
 using namespace zeb_test;
 
 /// Stands in for the allocator of the engine in this program.
-namespace zeb
+namespace zeb::engine
 {
 void *reallocate(void *, std::size_t) noexcept { return nullptr; }
 void release(void *) noexcept {}
-} // namespace zeb
+} // namespace zeb::engine
 
 template <class Element>
 class Without_Memory : public testing::Test
@@ -38,9 +39,9 @@ TYPED_TEST(Without_Memory, sorts_all_the_same)
             std::vector<uint32_t> expected_indexes = indexes;
             reference::sort(expected, &expected_indexes, less);
             std::vector<E> alone = elements;
-            zeb::sort(std::span(alone));
+            engine::sort(std::span(alone));
             EXPECT_TRUE(same_bits(alone, expected));
-            EXPECT_TRUE(zeb::sort_with_permutation<E>(elements, indexes));
+            EXPECT_TRUE(engine::sort_with_permutation<E>(elements, indexes));
             EXPECT_TRUE(same_bits(elements, expected));
             EXPECT_EQ(indexes, expected_indexes);
         }
@@ -54,9 +55,9 @@ TYPED_TEST(Without_Memory, rearranging_says_so_and_changes_nothing)
     const std::vector<E> elements = draw_elements<E>(random, 6, Draw::Any_Bits);
     const std::vector<uint32_t> permutation{5, 4, 3, 2, 1, 0};
     std::vector<E> ours = elements;
-    EXPECT_FALSE(zeb::rearrange<E>(ours, permutation, zeb::Permutation_Way::forward));
-    EXPECT_FALSE(zeb::rearrange<E>(ours, permutation, zeb::Permutation_Way::inverse));
-    EXPECT_FALSE(zeb::transpose<E>(ours, 2, 3));
+    EXPECT_FALSE(engine::rearrange<E>(ours, permutation, engine::Permutation_Way::forward));
+    EXPECT_FALSE(engine::rearrange<E>(ours, permutation, engine::Permutation_Way::inverse));
+    EXPECT_FALSE(engine::transpose<E>(ours, 2, 3));
     EXPECT_TRUE(same_bits(ours, elements));
 }
 
@@ -70,5 +71,5 @@ TYPED_TEST(Without_Memory, repetitive_patterns_are_found)
     pattern[31] = other;
     std::vector<E> elements(6000, E{});
     elements[5001] = other;
-    EXPECT_EQ(zeb::first_index_of_subsequence<E>(std::span<const E>(elements), pattern), 4970u);
+    EXPECT_EQ(engine::first_index_of_subsequence<E>(std::span<const E>(elements), pattern), 4970u);
 }

@@ -1,5 +1,6 @@
 #include "arrays/engine/algorithms/ordered_search.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"
 
@@ -47,16 +48,16 @@ void compare_searches(const std::vector<Element> &elements, Element key, Manner 
 }
 
 const auto find = [](const auto &elements, auto key, auto compare) -> reference::Ordered {
-    const zeb::Ordered_Find found = zeb::ordered_find(std::span(elements), key, compare);
+    const engine::Ordered_Find found = engine::ordered_find(std::span(elements), key, compare);
     return {found.index, found.warns, false};
 };
 const auto find_nearest = [](const auto &elements, auto key, auto compare) -> reference::Ordered {
-    const zeb::Ordered_Find found = zeb::ordered_find_nearest(std::span(elements), key, compare);
+    const engine::Ordered_Find found = engine::ordered_find_nearest(std::span(elements), key, compare);
     return {found.index, found.warns, false};
 };
 const auto insert_position = [](const auto &elements, auto key, auto compare) -> reference::Ordered {
-    const zeb::Ordered_Insert place = zeb::ordered_insert_position(std::span(elements), key, compare);
-    return {place.index, place.warns, place.outcome == zeb::Ordered_Insert_Outcome::Inserts};
+    const engine::Ordered_Insert place = engine::ordered_insert_position(std::span(elements), key, compare);
+    return {place.index, place.warns, place.outcome == engine::Ordered_Insert_Outcome::Inserts};
 };
 const auto literal_find = [](const auto &elements, auto key, auto compare) {
     return reference::ordered_find(elements, key, compare);
@@ -118,14 +119,14 @@ TYPED_TEST(Ordered_Search, own_order_ends_where_the_rules_end)
                     return reference::own_comparison(left, right);
                 };
                 const std::span<const E> span(elements);
-                ASSERT_EQ(zeb::ordered_find(span, key).index,
+                ASSERT_EQ(engine::ordered_find(span, key).index,
                           reference::ordered_find(elements, key, own).index);
-                ASSERT_EQ(zeb::ordered_find_nearest(span, key).index,
+                ASSERT_EQ(engine::ordered_find_nearest(span, key).index,
                           reference::ordered_find_nearest(elements, key, own).index);
-                const zeb::Ordered_Insert place = zeb::ordered_insert_position(span, key);
+                const engine::Ordered_Insert place = engine::ordered_insert_position(span, key);
                 const reference::Ordered expected = reference::ordered_insert(elements, key, own);
                 ASSERT_EQ(place.index, expected.index);
-                ASSERT_EQ(place.outcome == zeb::Ordered_Insert_Outcome::Inserts, expected.inserts);
+                ASSERT_EQ(place.outcome == engine::Ordered_Insert_Outcome::Inserts, expected.inserts);
                 ASSERT_FALSE(place.warns);
             }
         }

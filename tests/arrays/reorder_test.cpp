@@ -1,6 +1,7 @@
 #include "arrays/engine/algorithms/fill.hpp"
 #include "arrays/engine/algorithms/reorder.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"
 
@@ -20,7 +21,7 @@ TYPED_TEST(Reordering, reversal_keeps_the_middle_pair_of_an_even_count)
         for (size_t length : lengths()) {
             std::vector<E> elements = draw_elements<E>(random, length, Draw::Any_Bits);
             Walled<E> walled(elements, length % 33);
-            zeb::reverse(walled.span());
+            engine::reverse(walled.span());
             reference::reverse(elements);
             ASSERT_TRUE(same_bits(walled.elements(), elements)) << length;
             ASSERT_TRUE(walled.wall_stands());
@@ -43,13 +44,13 @@ TYPED_TEST(Reordering, filling_writes_the_range_and_nothing_else)
             const uint32_t start = static_cast<uint32_t>(random() % (length + 2));
             const uint32_t end =
                 length % 3 == 0 ? UINT32_MAX : start + static_cast<uint32_t>(random() % (length + 1));
-            zeb::fill_range(walled.span(), {start, end}, value);
+            engine::fill_range(walled.span(), {start, end}, value);
             for (size_t i = start; i <= end && i < length; ++i)
                 elements[i] = value;
             ASSERT_TRUE(same_bits(walled.elements(), elements)) << length << ' ' << start << ' ' << end;
-            zeb::fill_range(walled.span(), {1, 0}, E{});
+            engine::fill_range(walled.span(), {1, 0}, E{});
             ASSERT_TRUE(same_bits(walled.elements(), elements));
-            zeb::fill(walled.span(), value);
+            engine::fill(walled.span(), value);
             ASSERT_TRUE(same_bits(walled.elements(), std::vector<E>(length, value)));
             ASSERT_TRUE(walled.wall_stands());
         }

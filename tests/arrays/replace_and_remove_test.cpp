@@ -2,6 +2,7 @@
 #include "arrays/engine/algorithms/replacement.hpp"
 #include "arrays/engine/storage/removal.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"
 
@@ -51,11 +52,11 @@ TYPED_TEST(Changes_By_Value, removal_and_replacement_are_those_of_the_plain_loop
                 };
                 const auto removed = [&](auto &all) { return reference::remove_equal(all, value); };
                 const auto replaced = [&](auto &all) { return reference::replace_equal(all, value, other); };
-                same(removed, [&](auto span) { return zeb::remove_equal(span, value); });
-                same(removed, [&](auto span) { return zeb::remove_equal(span, value, Asked_Equality()); });
-                same(replaced, [&](auto span) { return zeb::replace_equal(span, value, other); });
+                same(removed, [&](auto span) { return engine::remove_equal(span, value); });
+                same(removed, [&](auto span) { return engine::remove_equal(span, value, Asked_Equality()); });
+                same(replaced, [&](auto span) { return engine::replace_equal(span, value, other); });
                 same(replaced,
-                     [&](auto span) { return zeb::replace_equal(span, value, other, Asked_Equality()); });
+                     [&](auto span) { return engine::replace_equal(span, value, other, Asked_Equality()); });
             }
         }
     });
@@ -82,12 +83,12 @@ TYPED_TEST(Changes_By_Value, elements_that_do_not_match_are_not_written)
     on_each_target([&] {
         for (size_t i = 0; i < 3; ++i) {
             const std::span<E> all(elements + i, 2 * count - i);
-            const uint32_t found = zeb::replace_equal(all, value, value);
+            const uint32_t found = engine::replace_equal(all, value, value);
             EXPECT_LE(found, written);
             EXPECT_GE(found + i, written);
         }
-        EXPECT_EQ(zeb::replace_equal(std::span<E>(elements + count, count), value, value), 0u);
-        EXPECT_EQ(zeb::remove_equal(std::span<E>(elements + count, count), value), count);
+        EXPECT_EQ(engine::replace_equal(std::span<E>(elements + count, count), value, value), 0u);
+        EXPECT_EQ(engine::remove_equal(std::span<E>(elements + count, count), value), count);
     });
     munmap(block, 2 * bytes);
 }
@@ -107,7 +108,7 @@ TYPED_TEST(Changes_By_Value, occurrences_are_replaced_from_the_front_without_ove
         const uint32_t replaced = reference::replace_occurrences(expected, pattern, replacement);
         if (replacement.size() <= pattern.size()) {
             Walled<E> walled(elements, turn % 9);
-            const auto answer = zeb::replace_occurrences_in_place<E>(walled.span(), pattern, replacement);
+            const auto answer = engine::replace_occurrences_in_place<E>(walled.span(), pattern, replacement);
             ASSERT_EQ(answer.replacements, replaced);
             ASSERT_EQ(answer.count, expected.size());
             std::vector<E> result = walled.elements();
@@ -115,8 +116,8 @@ TYPED_TEST(Changes_By_Value, occurrences_are_replaced_from_the_front_without_ove
             ASSERT_TRUE(same_bits(result, expected));
         }
         Walled<E> room(std::vector<E>(expected.size()), turn % 9);
-        ASSERT_EQ(zeb::copy_with_occurrences_replaced<E>(std::span<const E>(elements), pattern, replacement,
-                                                         room.span(), Asked_Equality()),
+        ASSERT_EQ(engine::copy_with_occurrences_replaced<E>(std::span<const E>(elements), pattern,
+                                                            replacement, room.span(), Asked_Equality()),
                   replaced);
         ASSERT_TRUE(same_bits(room.elements(), expected));
         ASSERT_TRUE(room.wall_stands());

@@ -1,5 +1,6 @@
 #include "arrays/engine/algorithms/search.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"
 
@@ -27,10 +28,10 @@ TYPED_TEST(Search, first_and_last_index_are_those_of_the_plain_scan)
                         present ? elements[random() % length] : draw_element<E>(random, draw, true);
                     const uint32_t first = reference::first_index_of(elements, value);
                     const uint32_t last = reference::last_index_of(elements, value);
-                    ASSERT_EQ(zeb::first_index_of(span, value), first) << length;
-                    ASSERT_EQ(zeb::last_index_of(span, value), last) << length;
-                    ASSERT_EQ(zeb::first_index_of(span, value, Asked_Equality()), first);
-                    ASSERT_EQ(zeb::last_index_of(span, value, Asked_Equality()), last);
+                    ASSERT_EQ(engine::first_index_of(span, value), first) << length;
+                    ASSERT_EQ(engine::last_index_of(span, value), last) << length;
+                    ASSERT_EQ(engine::first_index_of(span, value, Asked_Equality()), first);
+                    ASSERT_EQ(engine::last_index_of(span, value, Asked_Equality()), last);
                 }
             }
         }
@@ -51,8 +52,8 @@ TYPED_TEST(Search, a_lone_element_is_found_at_every_place)
                 Walled<E> walled({elements.begin(), elements.begin() + static_cast<std::ptrdiff_t>(length)},
                                  at % 11);
                 const std::span<const E> span = walled.span();
-                ASSERT_EQ(zeb::first_index_of(span, wanted), at);
-                ASSERT_EQ(zeb::last_index_of(span, wanted), at);
+                ASSERT_EQ(engine::first_index_of(span, wanted), at);
+                ASSERT_EQ(engine::last_index_of(span, wanted), at);
                 elements[at] = E{};
             }
         }
@@ -83,12 +84,13 @@ TYPED_TEST(Search, subsequences_are_those_of_the_plain_scan)
                 Walled<E> walled(elements, kind);
                 const std::span<const E> span = walled.span();
                 const uint32_t expected = reference::first_index_of_subsequence(elements, pattern);
-                ASSERT_EQ(zeb::first_index_of_subsequence<E>(span, pattern), expected) << length << ' ' << m;
-                ASSERT_EQ(zeb::first_index_of_subsequence<E>(span, pattern, Asked_Equality()), expected);
+                ASSERT_EQ(engine::first_index_of_subsequence<E>(span, pattern), expected)
+                    << length << ' ' << m;
+                ASSERT_EQ(engine::first_index_of_subsequence<E>(span, pattern, Asked_Equality()), expected);
                 // One element more after the end makes the last occurrence one that is found.
                 std::vector<E> longer = elements;
                 longer.push_back(E{});
-                ASSERT_EQ(zeb::find_occurrence<E>(span, pattern),
+                ASSERT_EQ(engine::find_occurrence<E>(span, pattern),
                           reference::first_index_of_subsequence(longer, pattern));
             }
         }
@@ -108,12 +110,12 @@ TYPED_TEST(Search, repetitive_patterns_are_found)
                 pattern[broken_at] = b;
                 std::vector<E> elements(length, a);
                 const std::span<const E> span(elements);
-                ASSERT_EQ(zeb::first_index_of_subsequence<E>(span, pattern), ZEB_NOT_FOUND);
+                ASSERT_EQ(engine::first_index_of_subsequence<E>(span, pattern), ZEB_NOT_FOUND);
                 elements[length - 999] = b;
                 const uint32_t expected = static_cast<uint32_t>(length - 999 - broken_at);
-                ASSERT_EQ(zeb::first_index_of_subsequence<E>(span, pattern), expected);
-                ASSERT_EQ(zeb::find_occurrence<E>(span, pattern, expected), expected);
-                ASSERT_EQ(zeb::find_occurrence<E>(span, pattern, expected + 1), ZEB_NOT_FOUND);
+                ASSERT_EQ(engine::first_index_of_subsequence<E>(span, pattern), expected);
+                ASSERT_EQ(engine::find_occurrence<E>(span, pattern, expected), expected);
+                ASSERT_EQ(engine::find_occurrence<E>(span, pattern, expected + 1), ZEB_NOT_FOUND);
             }
         }
     });
@@ -132,7 +134,7 @@ TYPED_TEST(Search, runs_are_found_anywhere_in_a_long_text)
                  {size_t{7}, sampled_at - length / 2, sampled_at + 1, elements.size() - length - 1}) {
                 const auto first = elements.begin() + static_cast<std::ptrdiff_t>(start);
                 const std::vector<E> pattern(first, first + static_cast<std::ptrdiff_t>(length));
-                ASSERT_EQ(zeb::first_index_of_subsequence<E>(std::span<const E>(elements), pattern),
+                ASSERT_EQ(engine::first_index_of_subsequence<E>(std::span<const E>(elements), pattern),
                           reference::first_index_of_subsequence(elements, pattern));
             }
         }

@@ -1,5 +1,6 @@
 #include "arrays/engine/algorithms/sort.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/vector_algorithms.hpp"
 
@@ -62,7 +63,7 @@ TYPED_TEST(Sorting, by_own_order_ends_as_the_plain_sort_does)
                 std::vector<E> expected = elements;
                 reference::sort(expected, nullptr, less_at);
                 Walled<E> walled(elements, length % 21);
-                zeb::sort(walled.span());
+                engine::sort(walled.span());
                 ASSERT_TRUE(same_bits(walled.elements(), expected)) << length;
                 ASSERT_TRUE(walled.wall_stands());
             });
@@ -83,15 +84,15 @@ TYPED_TEST(Sorting, with_a_permutation_moves_the_indexes_as_the_plain_sort_does)
                 reference::sort(expected, &expected_indexes, less_at);
                 Walled<E> walled(elements, length % 21);
                 Walled<uint32_t> walled_indexes(indexes, length % 19);
-                ASSERT_TRUE(zeb::sort_with_permutation(walled.span(), walled_indexes.span()));
+                ASSERT_TRUE(engine::sort_with_permutation(walled.span(), walled_indexes.span()));
                 ASSERT_TRUE(same_bits(walled.elements(), expected)) << length;
                 ASSERT_EQ(walled_indexes.elements(), expected_indexes) << length;
                 ASSERT_TRUE(walled.wall_stands() && walled_indexes.wall_stands());
-                ASSERT_TRUE(zeb::sort_with_permutation<E>(ours, our_indexes, Asked_Less()));
+                ASSERT_TRUE(engine::sort_with_permutation<E>(ours, our_indexes, Asked_Less()));
                 ASSERT_TRUE(same_bits(ours, expected) && our_indexes == expected_indexes);
                 if (length > 0) {
                     our_indexes.pop_back();
-                    ASSERT_FALSE(zeb::sort_with_permutation<E>(ours, our_indexes));
+                    ASSERT_FALSE(engine::sort_with_permutation<E>(ours, our_indexes));
                 }
             });
         }
@@ -116,7 +117,7 @@ TYPED_TEST(Sorting, with_a_permutation_tells_near_numbers_apart)
                 std::vector<E> expected = elements;
                 std::vector<uint32_t> expected_indexes = indexes;
                 reference::sort(expected, &expected_indexes, less_at);
-                ASSERT_TRUE(zeb::sort_with_permutation<E>(elements, indexes));
+                ASSERT_TRUE(engine::sort_with_permutation<E>(elements, indexes));
                 ASSERT_TRUE(same_bits(elements, expected));
                 ASSERT_EQ(indexes, expected_indexes);
             }
@@ -127,7 +128,7 @@ TYPED_TEST(Sorting, with_a_permutation_tells_near_numbers_apart)
 /// Counts that do not fit in a signed 32-bit number are left alone; the block is never looked at.
 TEST(Sorting_Too_Many, changes_nothing)
 {
-    EXPECT_FALSE(zeb::sort_detail::sorts(size_t{1} << 31));
-    EXPECT_TRUE(zeb::sort_detail::sorts((size_t{1} << 31) - 1));
-    EXPECT_FALSE(zeb::sort_detail::sorts(1));
+    EXPECT_FALSE(engine::sort_detail::sorts(size_t{1} << 31));
+    EXPECT_TRUE(engine::sort_detail::sorts((size_t{1} << 31) - 1));
+    EXPECT_FALSE(engine::sort_detail::sorts(1));
 }

@@ -5,6 +5,7 @@
 #include "arrays/engine/storage/ordered_insertion.hpp"
 #include "arrays/engine/storage/permutation.hpp"
 #include "arrays/engine/storage/replacement.hpp"
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/walked_families.hpp"
 #include "tests/reference/array_growth.hpp"
 #include "tests/reference/vector_algorithms.hpp"
@@ -13,7 +14,7 @@
 
 using namespace walked;
 
-namespace zeb
+namespace zeb::engine
 {
 
 void *reallocate(void *block, std::size_t size) noexcept
@@ -30,7 +31,7 @@ void release(void *block) noexcept
     std::free(block);
 }
 
-} // namespace zeb
+} // namespace zeb::engine
 
 namespace
 {
@@ -42,9 +43,9 @@ protected:
     using Kind = typename Family::Kind;
     using Element = typename Kind::Element;
 
-    using Elements = zeb::Elements_Of<Kind>;
+    using Elements = engine::Elements_Of<Kind>;
 
-    zeb::Array_Storage<Kind> storage()
+    engine::Array_Storage<Kind> storage()
     {
         return {{data, count, marker, family.kind()}, capacity, model.seed};
     }
@@ -93,13 +94,13 @@ protected:
         give(1);
         arm();
         if (way == 0) {
-            zeb::append_element(storage(), given[0], tell());
+            engine::append_element(storage(), given[0], tell());
             model.insert_one(static_cast<uint32_t>(model.elements.size()), values_given[0]);
         } else if (way == 1) {
-            zeb::insert_element(storage(), given[0], at, tell());
+            engine::insert_element(storage(), given[0], at, tell());
             model.insert_one(at, values_given[0]);
         } else {
-            zeb::copy_element(storage(), given[0], tell());
+            engine::copy_element(storage(), given[0], tell());
             model.make_room_for(1);
             model.elements.assign(1, values_given[0]);
         }
@@ -112,16 +113,16 @@ protected:
             give(n);
         arm();
         if (way == 0) {
-            zeb::append_elements(storage(), elements_given(), tell());
+            engine::append_elements(storage(), elements_given(), tell());
             model.insert_many(static_cast<uint32_t>(model.elements.size()), values_given);
         } else if (way == 1) {
-            zeb::insert_elements(storage(), elements_given(), at, tell());
+            engine::insert_elements(storage(), elements_given(), at, tell());
             model.insert_many(at, values_given);
         } else if (replaces) {
-            zeb::replace_element(storage(), at, elements_given(), tell());
+            engine::replace_element(storage(), at, elements_given(), tell());
             model.replace(at, values_given);
         } else if (way == 3) {
-            zeb::set_contents(storage(), elements_given(), tell());
+            engine::set_contents(storage(), elements_given(), tell());
             model.assign(values_given);
         }
     }
@@ -135,13 +136,13 @@ protected:
         const Elements source{data + first, length};
         arm();
         if (way == 0) {
-            zeb::insert_elements(storage(), source, at, tell());
+            engine::insert_elements(storage(), source, at, tell());
             model.insert_many(at, own);
         } else if (way == 1 && at < count) {
-            zeb::replace_element(storage(), at, source, tell());
+            engine::replace_element(storage(), at, source, tell());
             model.replace(at, own);
         } else if (way == 2) {
-            zeb::set_contents(storage(), source, tell());
+            engine::set_contents(storage(), source, tell());
             model.assign(own);
         }
     }
@@ -159,7 +160,7 @@ protected:
             return reference::own_comparison(&key_value, &value);
         };
         takes_over = place.inserts;
-        const uint32_t answer = zeb::ordered_insert(storage(), given[0], compare, true, tell());
+        const uint32_t answer = engine::ordered_insert(storage(), given[0], compare, true, tell());
         ASSERT_EQ(answer, notes.empty() ? place.index : ZEB_NOT_FOUND);
         if (place.inserts)
             model.insert_one(place.index, values_given[0]);
@@ -173,7 +174,7 @@ protected:
         const std::vector<int> pattern(model.elements.begin() + at, model.elements.begin() + at + length);
         arm();
         takes_over = false;
-        zeb::replace_occurrences(storage(), {data + at, length}, given, tell());
+        engine::replace_occurrences(storage(), {data + at, length}, given, tell());
         const bool finds = reference::replace_occurrences(model.elements, pattern, values_given) != 0;
         if (!finds || values_given.size() <= length)
             return;
@@ -189,19 +190,19 @@ protected:
         std::vector<uint32_t> permutation(n);
         for (uint32_t &entry : permutation)
             entry = count == 0 ? 0 : random() % count;
-        const zeb::Vector_Storage<Kind> vector = storage();
+        const engine::Vector_Storage<Kind> vector = storage();
         arm();
         takes_over = at < count && way < 2;
         if (way == 0) {
-            zeb::fill_range_with(vector, {at, at + n}, given[0], tell());
+            engine::fill_range_with(vector, {at, at + n}, given[0], tell());
             for (uint32_t i = at; i <= at + n && i < count; ++i)
                 model.elements[i] = values_given[0];
         } else if (way == 1 && at < count) {
             const int replaced = model.elements[at];
-            zeb::replace_every(vector, data[at], given[0], tell());
+            engine::replace_every(vector, data[at], given[0], tell());
             reference::replace_equal(model.elements, replaced, values_given[0]);
         } else if (way == 2 && count != 0) {
-            zeb::permute(vector, permutation, zeb::Permutation_Way::inverse, tell());
+            engine::permute(vector, permutation, engine::Permutation_Way::inverse, tell());
             reference::apply_inverse_permutation(model.elements, permutation);
         }
     }
@@ -226,12 +227,12 @@ protected:
             give(n);
         const std::vector<int> values = own ? model.elements : values_given;
         const Element *const source = own ? data : given.data();
-        const auto whose = own ? zeb::Source::of_another_array : zeb::Source::of_the_caller;
+        const auto whose = own ? engine::Source::of_another_array : engine::Source::of_the_caller;
         const auto length = static_cast<uint32_t>(values.size());
         const uint32_t wanted = random() % 60;
         arm();
-        zeb::replace_with_copy(zeb::Vector_Storage<Kind>(storage()), whose, source, length, wanted, capacity,
-                               tell());
+        engine::replace_with_copy(engine::Vector_Storage<Kind>(storage()), whose, source, length, wanted,
+                                  capacity, tell());
         model.elements = values;
         model.capacity = std::max(wanted, length);
     }
@@ -241,18 +242,18 @@ protected:
     {
         give(n);
         takes_over = false;
-        zeb::finish(zeb::Vector_Storage<Kind>(storage()));
+        engine::finish(engine::Vector_Storage<Kind>(storage()));
         data = given.data();
         count = n;
-        marker = zeb::link_marker_of_links + random() % 2;
-        capacity = zeb::capacity_of_links;
+        marker = engine::link_marker_of_links + random() % 2;
+        capacity = engine::capacity_of_links;
         expect_refusals();
         arm();
         if (sets)
-            zeb::set_contents(storage(), {data, count, zeb::Source::of_another_array}, tell());
+            engine::set_contents(storage(), {data, count, engine::Source::of_another_array}, tell());
         else
-            zeb::replace_with_copy(zeb::Vector_Storage<Kind>(storage()), zeb::Source::of_another_array, data,
-                                   count, n + 1, capacity, tell());
+            engine::replace_with_copy(engine::Vector_Storage<Kind>(storage()),
+                                      engine::Source::of_another_array, data, count, n + 1, capacity, tell());
         model.capacity = sets ? 0 : n + 1;
         model.assign(values_given);
         if (!notes.empty())
@@ -266,8 +267,8 @@ protected:
         notes.clear();
         ASSERT_EQ(data, given.data());
         ASSERT_EQ(count, given.size());
-        ASSERT_GE(marker, zeb::link_marker_of_links);
-        ASSERT_EQ(capacity, zeb::capacity_of_links);
+        ASSERT_GE(marker, engine::link_marker_of_links);
+        ASSERT_EQ(capacity, engine::capacity_of_links);
         data = nullptr;
         count = marker = capacity = model.capacity = 0;
         model.elements.clear();
@@ -275,28 +276,29 @@ protected:
 
     void expect_refusals()
     {
-        namespace notes = zeb::notes;
+        namespace notes = engine::notes;
         const auto array = storage();
         const Elements one{given.data(), std::min<uint32_t>(count, 1)};
         const Element element = count == 0 ? Element{} : given[0];
         const std::span<const Element> run(given.data(), given.size());
         const auto less = [](const Element *, const Element *) { return ZEB_COMPARED_LESS; };
-        refuses(notes::trim_through_link, [&] { zeb::trim(array, tell()); });
-        refuses(notes::length_through_link, [&] { zeb::set_length(array, 1, tell()); });
-        refuses(notes::room_through_link, [&] { zeb::extend_length(array, 1, tell()); });
-        refuses(notes::room_through_link, [&] { zeb::ensure_room(array, 1, tell()); });
-        refuses(notes::capacity_through_link, [&] { zeb::ensure_capacity_above(array, 1, tell()); });
-        refuses(notes::copy_element_through_link, [&] { zeb::copy_element(array, element, tell()); });
-        refuses(notes::append_element_through_link, [&] { zeb::append_element(array, element, tell()); });
-        refuses(count == 0 ? zeb::Char_Span{} : notes::append_array_through_link,
-                [&] { zeb::append_elements(array, one, tell()); });
-        refuses(notes::insert_element_through_link, [&] { zeb::insert_element(array, element, 0, tell()); });
-        refuses(notes::insert_array_through_link, [&] { zeb::insert_elements(array, one, 0, tell()); });
-        refuses(notes::replace_element_through_link, [&] { zeb::replace_element(array, 0, one, tell()); });
+        refuses(notes::trim_through_link, [&] { engine::trim(array, tell()); });
+        refuses(notes::length_through_link, [&] { engine::set_length(array, 1, tell()); });
+        refuses(notes::room_through_link, [&] { engine::extend_length(array, 1, tell()); });
+        refuses(notes::room_through_link, [&] { engine::ensure_room(array, 1, tell()); });
+        refuses(notes::capacity_through_link, [&] { engine::ensure_capacity_above(array, 1, tell()); });
+        refuses(notes::copy_element_through_link, [&] { engine::copy_element(array, element, tell()); });
+        refuses(notes::append_element_through_link, [&] { engine::append_element(array, element, tell()); });
+        refuses(count == 0 ? engine::Char_Span{} : notes::append_array_through_link,
+                [&] { engine::append_elements(array, one, tell()); });
         refuses(notes::insert_element_through_link,
-                [&] { zeb::ordered_insert(array, element, less, true, tell()); });
+                [&] { engine::insert_element(array, element, 0, tell()); });
+        refuses(notes::insert_array_through_link, [&] { engine::insert_elements(array, one, 0, tell()); });
+        refuses(notes::replace_element_through_link, [&] { engine::replace_element(array, 0, one, tell()); });
+        refuses(notes::insert_element_through_link,
+                [&] { engine::ordered_insert(array, element, less, true, tell()); });
         refuses(notes::replace_occurrences_through_link,
-                [&] { zeb::replace_occurrences(array, run, run, tell()); });
+                [&] { engine::replace_occurrences(array, run, run, tell()); });
         refuses(notes::decode_through_link, [&] { Family::decode(array, {"\0\0\0", 4, false}, tell()); });
     }
 
@@ -311,7 +313,7 @@ protected:
         EXPECT_EQ(data, given.data());
         EXPECT_EQ(values(), values_given);
         EXPECT_EQ(marker, marker_before);
-        EXPECT_EQ(capacity, zeb::capacity_of_links);
+        EXPECT_EQ(capacity, engine::capacity_of_links);
     }
 
     void change_size(unsigned way, uint32_t n)
@@ -319,22 +321,22 @@ protected:
         const auto before = static_cast<uint32_t>(model.elements.size());
         arm();
         if (way == 0) {
-            zeb::set_length(storage(), n, tell());
+            engine::set_length(storage(), n, tell());
             model.resize(n);
         } else if (way == 1) {
-            zeb::extend_length(storage(), n, tell());
+            engine::extend_length(storage(), n, tell());
             model.resize(before + n);
         } else if (way == 2) {
-            zeb::ensure_room(storage(), n, tell());
+            engine::ensure_room(storage(), n, tell());
             model.make_room_for(before + n);
         } else if (way == 3) {
-            zeb::ensure_capacity_above(storage(), n, tell());
+            engine::ensure_capacity_above(storage(), n, tell());
             model.make_room_for(n);
         } else if (way == 4) {
-            zeb::trim(storage(), tell());
+            engine::trim(storage(), tell());
             model.trim();
         } else {
-            zeb::change_count(zeb::Vector_Storage<Kind>(storage()), before / 8, tell());
+            engine::change_count(engine::Vector_Storage<Kind>(storage()), before / 8, tell());
             model.elements.resize(before / 8);
         }
     }
@@ -394,7 +396,7 @@ protected:
 };
 
 using Families =
-    testing::Types<Plain_Array, Counted_Array<zeb::retains>, Counted_Array<zeb::adopts>, Held_Array>;
+    testing::Types<Plain_Array, Counted_Array<engine::retains>, Counted_Array<engine::adopts>, Held_Array>;
 TYPED_TEST_SUITE(Storage_Walk, Families);
 
 constexpr int step_count = 20000;
@@ -429,7 +431,7 @@ TYPED_TEST(Storage_Walk, follows_the_model_and_survives_every_failed_allocation)
         ASSERT_EQ(this->marker, 0u);
     }
     EXPECT_GT(this->failures, step_count / 100);
-    zeb::finish(zeb::Vector_Storage<typename TypeParam::Kind>(this->storage()));
+    engine::finish(engine::Vector_Storage<typename TypeParam::Kind>(this->storage()));
     EXPECT_EQ(live_blocks, 0);
     EXPECT_EQ(live_objects, 0);
 }

@@ -4,6 +4,7 @@
 #include "arrays/engine/allocator.hpp"
 #include "arrays/engine/storage/element_kinds.hpp"
 #include "arrays/engine/storage/insertion.hpp"
+#include "core/engine/namespace.hpp"
 #include "encoding/engine/binary_record.hpp"
 
 #include <cstdlib>
@@ -59,7 +60,7 @@ struct Box {
     std::uint32_t marker = 0;
     std::uint32_t capacity = 0;
 
-    zeb::Array_Storage<zeb::Plain_Elements<int>> storage()
+    engine::Array_Storage<engine::Plain_Elements<int>> storage()
     {
         return {{data, count, marker, {}}, capacity, 4};
     }
@@ -71,8 +72,8 @@ struct Box {
     void set(int value)
     {
         const std::vector<int> all = contents(value);
-        zeb::set_contents(storage(), {all.data(), static_cast<std::uint32_t>(all.size())},
-                          [](ZEB_Char_Span) {});
+        engine::set_contents(storage(), {all.data(), static_cast<std::uint32_t>(all.size())},
+                             [](ZEB_Char_Span) {});
     }
 };
 
@@ -87,17 +88,17 @@ struct Box_Policy {
     }
     static bool make_room(Element into, Element from)
     {
-        return zeb::grow(into->storage(), from->count, [](ZEB_Char_Span) {});
+        return engine::grow(into->storage(), from->count, [](ZEB_Char_Span) {});
     }
     static void copy(Element into, Element from)
     {
-        zeb::set_contents(into->storage(), {from->data, from->count}, [](ZEB_Char_Span) { std::abort(); });
+        engine::set_contents(into->storage(), {from->data, from->count}, [](ZEB_Char_Span) { std::abort(); });
     }
     static bool equal(Element left, Element right) { return left->value() == right->value(); }
     static void release(Element box)
     {
         --live_objects;
-        zeb::finish(zeb::Vector_Storage(box->storage()));
+        engine::finish(engine::Vector_Storage(box->storage()));
         delete box;
     }
 };
@@ -105,7 +106,7 @@ struct Box_Policy {
 /// How values get into a family's elements and out of them, how the caller's reference is settled, and
 /// what record holds them.
 struct Plain_Array {
-    using Kind = zeb::Plain_Elements<int>;
+    using Kind = engine::Plain_Elements<int>;
     static constexpr bool makes_objects = false;
     Kind kind() { return {}; }
     static int draw(std::mt19937 &random) { return static_cast<int>(random() % 8) + 1; }
@@ -114,15 +115,15 @@ struct Plain_Array {
     static int value_of(int element) { return element; }
     static std::string record(const std::vector<int> &values) { return record_of(values); }
     template <class Report>
-    static void decode(zeb::Array_Storage<Kind> array, zeb::Record_Source source, Report report)
+    static void decode(engine::Array_Storage<Kind> array, engine::Record_Source source, Report report)
     {
-        zeb::decode_plain(array, source, report);
+        engine::decode_plain(array, source, report);
     }
 };
 
-template <zeb::Ownership_Mode mode>
+template <engine::Ownership_Mode mode>
 struct Counted_Array {
-    using Kind = zeb::Counted_References<Counting_Policy>;
+    using Kind = engine::Counted_References<Counting_Policy>;
     static constexpr bool makes_objects = false;
     Kind kind() { return {mode}; }
     /// References are told by identity, and so no two objects have one value.
@@ -139,7 +140,7 @@ struct Counted_Array {
     /// In mode 1 the array has taken the caller's reference over.
     static void settle(Counted_Object *object, bool is_taken_over)
     {
-        if (mode == zeb::retains || !is_taken_over)
+        if (mode == engine::retains || !is_taken_over)
             Counting_Policy::release(object);
     }
     static int value_of(Counted_Object *object) { return object == nullptr ? 0 : object->value; }
@@ -150,14 +151,14 @@ struct Counted_Array {
         return record_of(values);
     }
     template <class Report>
-    static void decode(zeb::Array_Storage<Kind> array, zeb::Record_Source source, Report report)
+    static void decode(engine::Array_Storage<Kind> array, engine::Record_Source source, Report report)
     {
-        zeb::decode_references(array, source, report, [] { std::abort(); });
+        engine::decode_references(array, source, report, [] { std::abort(); });
     }
 };
 
 struct Held_Array {
-    using Kind = zeb::Held_Objects<Box_Policy>;
+    using Kind = engine::Held_Objects<Box_Policy>;
     static constexpr bool makes_objects = true;
     std::uint32_t held = 0;
     Kind kind() { return {held}; }
@@ -181,9 +182,9 @@ struct Held_Array {
         return record;
     }
     template <class Report>
-    static void decode(zeb::Array_Storage<Kind> array, zeb::Record_Source source, Report report)
+    static void decode(engine::Array_Storage<Kind> array, engine::Record_Source source, Report report)
     {
-        zeb::decode_held(
+        engine::decode_held(
             array, source, [](Box *box) { return box->storage(); }, report);
     }
 };

@@ -1,5 +1,6 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
+#include "core/engine/namespace.hpp"
 #include "tests/reference/calendar_arithmetic.hpp"
 #include "tests/support/captured.hpp"
 
@@ -11,7 +12,7 @@
 namespace
 {
 
-using zeb::Date_Time;
+using engine::Date_Time;
 
 ZEB_Date *date_of(ZEB_Gregorian_Date date, uint64_t second = 0, uint64_t nanosecond = 0)
 {
@@ -76,9 +77,9 @@ TEST(Date, messages_move_it_as_the_transcription_does)
 TEST(Date, setters_keep_the_two_forms_in_step_save_the_raw_one)
 {
     ZEB_Date *const date = [[[ZEB_Date alloc] init] autorelease];
-    expect_fields(date, zeb::unset_date_time);
+    expect_fields(date, engine::unset_date_time);
     [date set_seconds_since_1970:1e300];
-    expect_fields(date, zeb::unset_date_time); // refused
+    expect_fields(date, engine::unset_date_time); // refused
     [date set_julian_day:2451545];
     expect_fields(date, {{2000, 1, 1}, 2451545, {0, 0}});
     [date update_date_from_julian_day];
@@ -146,7 +147,7 @@ TEST(Date, nil_is_a_date_that_was_never_set)
     EXPECT_EQ([date is_at_or_before_date:nil], 0);
     EXPECT_EQ([[[[ZEB_Date alloc] init] autorelease] is_equal_to_date:nil], 0);
     [date assign_date:nil];
-    expect_fields(date, zeb::unset_date_time);
+    expect_fields(date, engine::unset_date_time);
 }
 
 TEST(Time_Stamp, is_an_instant_and_nothing_else)

@@ -1,5 +1,6 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
+#include "core/engine/namespace.hpp"
 #include "tests/reference/calendar_arithmetic.hpp"
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
@@ -79,7 +80,7 @@ TEST_F(Date_Text, spaced_text_is_read_as_the_transcription_reads_it)
                                  "1/1/2000 -1:0:0"};
     for (const char *const text : texts) {
         [date assign_from_text:string_of(text)];
-        const zeb::Date_Time expected = reference::date_from_spaced_text(text);
+        const engine::Date_Time expected = reference::date_from_spaced_text(text);
         EXPECT_EQ([date julian_day], expected.julian_day) << text;
         EXPECT_EQ([date month], expected.date.month) << text;
         EXPECT_EQ([date second], expected.time.second) << text;

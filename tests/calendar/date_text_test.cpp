@@ -1,8 +1,9 @@
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "calendar/engine/date_text.hpp"
-#include "tests/support/guarded_text.hpp"
+#include "core/engine/namespace.hpp"
 #include "tests/calendar/random_text.hpp"
 #include "tests/reference/calendar_arithmetic.hpp"
+#include "tests/support/guarded_text.hpp"
 
 #include <gtest/gtest.h>
 
@@ -133,19 +134,19 @@ TEST(Slash_Text, seeded_dates_agree_with_the_transcription_and_fit)
 {
     std::mt19937_64 random(73);
     for (int i = 0; i < 100000; ++i) {
-        zeb::Date_Time value = zeb::make_date_time(
+        engine::Date_Time value = engine::make_date_time(
             {static_cast<int>(random() >> random() % 64), static_cast<int>(random() >> random() % 64),
              static_cast<int>(random() >> random() % 64)},
             random() % 3 ? random() % 100000 : 0, random() % 3 ? random() % 1000000000 : 0);
         if (random() % 4 == 0)
             value.time = {random() >> random() % 64, random() % 9000000000000000};
-        ASSERT_EQ(guarded_text(zeb::slash_text_size,
-                               [&](char *buffer) { return zeb::write_slash_text(buffer, value); }),
+        ASSERT_EQ(guarded_text(engine::slash_text_size,
+                               [&](char *buffer) { return engine::write_slash_text(buffer, value); }),
                   reference::slash_text(value));
     }
-    char buffer[zeb::slash_text_size];
+    char buffer[engine::slash_text_size];
     constexpr std::uint64_t most = std::numeric_limits<std::uint64_t>::max();
-    zeb::write_slash_text(buffer, zeb::make_date_time({INT32_MIN, INT32_MIN, INT32_MIN}, most, most));
+    engine::write_slash_text(buffer, engine::make_date_time({INT32_MIN, INT32_MIN, INT32_MIN}, most, most));
     EXPECT_STREQ(buffer, "-2147483648/-2147483648/-2147483648 5124095576030431:00:151.84467440737096e+10");
 }
 
@@ -155,11 +156,11 @@ TEST(Spaced_Text, seeded_texts_are_read_as_scanf_reads_them)
     for (int i = 0; i < 100000; ++i) {
         const std::string text = random_date_text(random);
         const std::vector<char> exact(text.begin(), text.end());
-        const zeb::Date_Time value =
-            zeb::read_spaced_text(exact.data(), static_cast<std::uint32_t>(exact.size()));
-        const zeb::Date_Time expected = reference::date_from_spaced_text(text);
-        ASSERT_TRUE(zeb::is_equal(value, expected)) << text;
+        const engine::Date_Time value =
+            engine::read_spaced_text(exact.data(), static_cast<std::uint32_t>(exact.size()));
+        const engine::Date_Time expected = reference::date_from_spaced_text(text);
+        ASSERT_TRUE(engine::is_equal(value, expected)) << text;
         ASSERT_EQ(value.date.day, expected.date.day) << text;
     }
-    EXPECT_EQ(zeb::read_spaced_text("2/30/2021 1:2:3.5", 17).time.nanosecond, 5U);
+    EXPECT_EQ(engine::read_spaced_text("2/30/2021 1:2:3.5", 17).time.nanosecond, 5U);
 }

@@ -1,5 +1,6 @@
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "calendar/engine/civil_date.hpp"
+#include "core/engine/namespace.hpp"
 #include "tests/reference/calendar.hpp"
 
 #include <gtest/gtest.h>
@@ -109,11 +110,11 @@ TEST(Civil_Calendar, clamped_months_agree_with_the_standard_library)
               "2025-2--3"); // only the month's end is a limit
     EXPECT_EQ(ZC_add_months_clamped({INT32_MAX, INT32_MAX, INT32_MAX}, INT32_MAX).month, 2);
     EXPECT_EQ(ZC_add_months_clamped({INT32_MIN, INT32_MIN, INT32_MIN}, INT32_MIN).month, 8);
-    zeb::Date_Time value = zeb::make_date_time({2024, 3, 31}, 5, 6);
-    zeb::add_months_clamped(value, 1);
+    engine::Date_Time value = engine::make_date_time({2024, 3, 31}, 5, 6);
+    engine::add_months_clamped(value, 1);
     EXPECT_EQ(value.julian_day, ZC_map_gregorian_date_to_julian_day({2024, 4, 30}));
     EXPECT_EQ(value.time.second, 5U);
-    value = zeb::make_date_time({-5000, 3, 31}, 0, 0); // the day number is the civil one far out too
-    zeb::add_months_clamped(value, -1);
+    value = engine::make_date_time({-5000, 3, 31}, 0, 0); // the day number is the civil one far out too
+    engine::add_months_clamped(value, -1);
     EXPECT_EQ(value.julian_day, ZC_map_civil_date_to_julian_day({-5000, 2, 28}));
 }

@@ -1,7 +1,7 @@
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "calendar/engine/iso8601.hpp"
-#include "tests/support/guarded_text.hpp"
 #include "tests/calendar/random_text.hpp"
+#include "tests/support/guarded_text.hpp"
 
 #include <gtest/gtest.h>
 

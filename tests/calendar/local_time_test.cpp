@@ -1,5 +1,6 @@
 #include "calendar/engine/local_time.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/reference/calendar_arithmetic.hpp"
 
 #include <gtest/gtest.h>
@@ -31,10 +32,10 @@ private:
 namespace
 {
 
-std::string formatted(const char *format, const zeb::Date_Time &value)
+std::string formatted(const char *format, const engine::Date_Time &value)
 {
-    char text[zeb::strftime_limit];
-    return {text, zeb::format_with_strftime(text, format, value)};
+    char text[engine::strftime_limit];
+    return {text, engine::format_with_strftime(text, format, value)};
 }
 
 } // namespace
@@ -42,42 +43,43 @@ std::string formatted(const char *format, const zeb::Date_Time &value)
 TEST_F(Local_Time, the_zone_moves_the_clock_and_the_nanoseconds_stay)
 {
     set_zone("AAA-3");
-    EXPECT_EQ(reference::slash_text(zeb::local_date_time(0, 5)), "1/1/1970 03:00:00.000000005");
+    EXPECT_EQ(reference::slash_text(engine::local_date_time(0, 5)), "1/1/1970 03:00:00.000000005");
     setenv("TZ", "BBB5", 1); // noticed without a further call
-    const zeb::Date_Time value = zeb::local_date_time(0, 0);
+    const engine::Date_Time value = engine::local_date_time(0, 0);
     EXPECT_EQ(reference::slash_text(value), "12/31/1969 19:00:00");
     EXPECT_EQ(value.julian_day, 2440587);
     // No year of the platform's reaches so far.
-    EXPECT_EQ(zeb::local_date_time(std::numeric_limits<std::time_t>::max(), 1).date.year, -4713);
+    EXPECT_EQ(engine::local_date_time(std::numeric_limits<std::time_t>::max(), 1).date.year, -4713);
 }
 
 TEST_F(Local_Time, now_lies_between_two_readings_of_the_clock)
 {
     set_zone("AAA-3");
-    const zeb::Date_Time first = zeb::local_date_time(std::time(nullptr), 0);
-    const ZEB_Time_Value stamp = zeb::current_time_value();
-    zeb::Date_Time now = zeb::current_local_date_time();
+    const engine::Date_Time first = engine::local_date_time(std::time(nullptr), 0);
+    const ZEB_Time_Value stamp = engine::current_time_value();
+    engine::Date_Time now = engine::current_local_date_time();
     EXPECT_LT(now.time.nanosecond, 1000000000U);
     now.time.nanosecond = 0;
-    const zeb::Date_Time last = zeb::local_date_time(std::time(nullptr), 0);
-    EXPECT_TRUE(zeb::is_at_or_before(first, now) && zeb::is_at_or_before(now, last));
+    const engine::Date_Time last = engine::local_date_time(std::time(nullptr), 0);
+    EXPECT_TRUE(engine::is_at_or_before(first, now) && engine::is_at_or_before(now, last));
     EXPECT_LT(stamp.nanosecond, 1000000000U);
     EXPECT_EQ(stamp.nanosecond % 1000, 0U);
-    EXPECT_NEAR(static_cast<double>(stamp.second) + 3 * 3600, zeb::seconds_since_1970(last), 60.0);
+    EXPECT_NEAR(static_cast<double>(stamp.second) + 3 * 3600, engine::seconds_since_1970(last), 60.0);
 }
 
 TEST_F(Local_Time, now_never_steps_back_where_the_second_turns)
 {
     set_zone("UTC0");
-    const std::uint64_t nanosecond = zeb::current_time_value().nanosecond;
+    const std::uint64_t nanosecond = engine::current_time_value().nanosecond;
     std::this_thread::sleep_for(
         std::chrono::nanoseconds(nanosecond < 999000000 ? 999000000 - nanosecond : 0));
-    const std::uint64_t start = zeb::current_time_value().second;
-    zeb::Date_Time last = zeb::current_local_date_time();
+    const std::uint64_t start = engine::current_time_value().second;
+    engine::Date_Time last = engine::current_local_date_time();
     // Until well into the next second: the platform's coarser clocks turn some milliseconds late.
-    while (zeb::current_time_value().second == start || zeb::current_time_value().nanosecond < 5000000) {
-        const zeb::Date_Time now = zeb::current_local_date_time();
-        ASSERT_TRUE(zeb::is_at_or_before(last, now));
+    while (engine::current_time_value().second == start ||
+           engine::current_time_value().nanosecond < 5000000) {
+        const engine::Date_Time now = engine::current_local_date_time();
+        ASSERT_TRUE(engine::is_at_or_before(last, now));
         last = now;
     }
 }
@@ -103,7 +105,7 @@ TEST_F(Local_Time, strftime_text_is_the_date_s_own_in_summer_and_in_gap_hours)
     constexpr char format[] = "%Y-%m-%d %H:%M:%S %a %j %Z %z";
     for (const auto &row : rows) {
         set_zone(row.zone);
-        EXPECT_EQ(formatted(format, zeb::make_date_time(row.date, row.second, 0)), row.text) << row.zone;
+        EXPECT_EQ(formatted(format, engine::make_date_time(row.date, row.second, 0)), row.text) << row.zone;
     }
     const struct {
         const char *zone;
@@ -118,22 +120,22 @@ TEST_F(Local_Time, strftime_text_is_the_date_s_own_in_summer_and_in_gap_hours)
     };
     for (const auto &row : gaps) {
         set_zone(row.zone);
-        EXPECT_EQ(formatted("%Y-%m-%d %H:%M:%S", zeb::make_date_time(row.date, row.second, 0)), row.text);
+        EXPECT_EQ(formatted("%Y-%m-%d %H:%M:%S", engine::make_date_time(row.date, row.second, 0)), row.text);
     }
 }
 
 TEST_F(Local_Time, strftime_text_is_completed_and_bounded)
 {
     set_zone("UTC0");
-    const zeb::Date_Time date = zeb::make_date_time({2021, 3, 4}, 37230, 0);
+    const engine::Date_Time date = engine::make_date_time({2021, 3, 4}, 37230, 0);
     EXPECT_EQ(formatted("%Y-%m-%d %H:%M:%S %A %j", date), "2021-03-04 10:20:30 Thursday 063");
-    EXPECT_EQ(formatted("%d.%m.%Y", zeb::make_date_time({2021, 2, 31}, 0, 0)),
+    EXPECT_EQ(formatted("%d.%m.%Y", engine::make_date_time({2021, 2, 31}, 0, 0)),
               "03.03.2021"); // brought into range
-    EXPECT_EQ(formatted("%d %H", zeb::make_date_time({2021, 2, 1}, 90000, 0)), "02 01");
-    EXPECT_EQ(formatted("%Y %a %j", zeb::make_date_time({-4713, 1, 1}, 0, 0)), "-4713 Wed 001");
+    EXPECT_EQ(formatted("%d %H", engine::make_date_time({2021, 2, 1}, 90000, 0)), "02 01");
+    EXPECT_EQ(formatted("%Y %a %j", engine::make_date_time({-4713, 1, 1}, 0, 0)), "-4713 Wed 001");
     EXPECT_EQ(formatted("", date), "");
     EXPECT_EQ(formatted(std::string(2047, 'x').c_str(), date).size(), 2047U);
     EXPECT_EQ(formatted(std::string(2048, 'x').c_str(), date), ""); // does not fit
     // Fields beyond the platform's years are formatted as they stand and break nothing.
-    formatted("%c", zeb::make_date_time({INT32_MIN, INT32_MIN, INT32_MIN}, UINT64_MAX, 0));
+    formatted("%c", engine::make_date_time({INT32_MIN, INT32_MIN, INT32_MIN}, UINT64_MAX, 0));
 }

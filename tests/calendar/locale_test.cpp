@@ -1,6 +1,7 @@
 #include "calendar/ZEB_Calendar_Functions.h"
-#include "numbers/ZEB_Number_Functions.h"
 #include "calendar/engine/date_text.hpp"
+#include "core/engine/namespace.hpp"
+#include "numbers/ZEB_Number_Functions.h"
 #include "numbers/engine/number_format.hpp"
 #include "tests/reference/number_scanning.hpp"
 #include "tests/support/comma_locale.hpp"
@@ -19,9 +20,9 @@ std::vector<std::string> all_texts(double x)
 {
     char buffer[128];
     char *const start = buffer;
-    zeb::Number_Format_Result result{};
-    const zeb::Scientific_Rules rules{3, 1.5, 1.0};
-    const zeb::Date_Time date = zeb::make_date_time({2000, 1, 1}, 5, 250000000);
+    engine::Number_Format_Result result{};
+    const engine::Scientific_Rules rules{3, 1.5, 1.0};
+    const engine::Date_Time date = engine::make_date_time({2000, 1, 1}, 5, 250000000);
     const std::function<char *()> writers[] = {
         [&] { return ZC_pretty_format_double(buffer, x); },
         [&] { return ZC_pretty_format_float(buffer, static_cast<float>(x)); },
@@ -29,10 +30,10 @@ std::vector<std::string> all_texts(double x)
         [&] { return ZC_format_fraction_double(buffer, 3, x); },
         [&] { return ZC_format_fixed_float(buffer, 3, static_cast<float>(x)); },
         [&] { return ZC_format_scientific_double(buffer, 3, nullptr, nullptr, x, 1.5, 1.0); },
-        [&] { return zeb::format_value(buffer, rules, x, result); },
-        [&] { return zeb::format_fixed(buffer, 5, x, result); },
+        [&] { return engine::format_value(buffer, rules, x, result); },
+        [&] { return engine::format_fixed(buffer, 5, x, result); },
         [&] { return ZC_pretty_format_gregorian_date_from_seconds(buffer, x); },
-        [&] { return zeb::write_slash_text(buffer, date); },
+        [&] { return engine::write_slash_text(buffer, date); },
         [&] { return ZC_format_iso8601_from_seconds(buffer, x); },
     };
     std::vector<std::string> texts;
@@ -95,7 +96,7 @@ TEST_F(Comma_Locale, dates_are_read_with_a_full_stop)
             << row.text;
         EXPECT_EQ(seconds, row.seconds) << row.text;
     }
-    EXPECT_EQ(zeb::read_spaced_text("1/2/2000 3:4:5.6", 16).time.nanosecond, 6U);
+    EXPECT_EQ(engine::read_spaced_text("1/2/2000 3:4:5.6", 16).time.nanosecond, 6U);
     double seconds = 0;
     EXPECT_EQ(ZC_assign_seconds_from_iso8601_char_c_array("1970-01-01T00:00:01.5", 21, &seconds), 21U);
     EXPECT_EQ(seconds, 1.5);

@@ -1,3 +1,4 @@
+#include "core/engine/namespace.hpp"
 #include "core/engine/scan_format.hpp"
 
 #include <gtest/gtest.h>
@@ -22,5 +23,5 @@ TEST(Scan_Format, widens_every_double_conversion_that_stores)
         {"", ""},
     };
     for (const auto &[given, widened] : rows)
-        EXPECT_EQ(zeb::Double_Scan_Format(given.c_str()).c_string(), widened);
+        EXPECT_EQ(engine::Double_Scan_Format(given.c_str()).c_string(), widened);
 }

@@ -1,3 +1,4 @@
+#include "core/engine/namespace.hpp"
 #include "encoding/engine/zlib_loops.hpp"
 
 #include <gtest/gtest.h>
@@ -31,7 +32,7 @@ struct Sink {
     std::string bytes;
     std::size_t room = SIZE_MAX;
 
-    zeb::Zlib_Output output() { return {this, append}; }
+    engine::Zlib_Output output() { return {this, append}; }
 
     static bool append(void *destination, const char *bytes, std::uint32_t length)
     {
@@ -46,13 +47,13 @@ struct Sink {
 std::string compressed(const std::string &source)
 {
     Sink sink;
-    EXPECT_EQ(zeb::compress(source.data(), static_cast<std::uint32_t>(source.size()), sink.output()), 0);
+    EXPECT_EQ(engine::compress(source.data(), static_cast<std::uint32_t>(source.size()), sink.output()), 0);
     return sink.bytes;
 }
 
 std::int32_t decompress_into(Sink &sink, const std::string &source)
 {
-    return zeb::decompress(source.data(), static_cast<std::uint32_t>(source.size()), sink.output());
+    return engine::decompress(source.data(), static_cast<std::uint32_t>(source.size()), sink.output());
 }
 
 /// The required loop, with zlib alone; gives up, with 1, after some passes that all end alike.
@@ -173,6 +174,6 @@ TEST(Zlib, says_what_is_wrong)
     Sink full{"", 100};
     EXPECT_EQ(decompress_into(full, compressed(some_text(5000))), Z_MEM_ERROR);
     const std::string source = some_text(5000);
-    EXPECT_EQ(zeb::compress(source.data(), 5000, full.output()), Z_MEM_ERROR);
+    EXPECT_EQ(engine::compress(source.data(), 5000, full.output()), Z_MEM_ERROR);
     EXPECT_EQ(full.bytes, "");
 }

@@ -1,16 +1,17 @@
+#include "core/engine/namespace.hpp"
 #include "filesystem/engine/file_status.hpp"
 
 #include <gtest/gtest.h>
 
 TEST(Effective_Rights, add_up_and_strangers_keep_what_was)
 {
-    using Rights = zeb::Access_Rights;
-    zeb::File_Status status{};
+    using Rights = engine::Access_Rights;
+    engine::File_Status status{};
     status.owner = {true, false, false};
     status.group = {false, true, false};
     status.other = {false, false, true};
     const auto sum = [&](bool owner, bool group, Rights before) {
-        const Rights rights = zeb::effective_rights(status, owner, group, before);
+        const Rights rights = engine::effective_rights(status, owner, group, before);
         return 4 * rights.read + 2 * rights.write + rights.execute;
     };
     const Rights none{false, false, false};

@@ -1,6 +1,6 @@
 #include "numbers/ZEB_Number_Functions.h"
-#include "tests/support/guarded_text.hpp"
 #include "tests/reference/number_text.hpp"
+#include "tests/support/guarded_text.hpp"
 
 #include <gtest/gtest.h>
 

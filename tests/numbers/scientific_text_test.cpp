@@ -1,7 +1,8 @@
+#include "core/engine/namespace.hpp"
 #include "numbers/ZEB_Number_Functions.h"
 #include "numbers/engine/number_format.hpp"
-#include "tests/support/guarded_text.hpp"
 #include "tests/reference/scientific_text.hpp"
+#include "tests/support/guarded_text.hpp"
 
 #include <gtest/gtest.h>
 
@@ -32,21 +33,22 @@ reference::Scientific scientific(std::uint32_t precision, double x, double base,
 template <typename Format>
 reference::Scientific formatted(std::size_t size, Format format)
 {
-    zeb::Number_Format_Result result{9, 9, {9, 9}};
+    engine::Number_Format_Result result{9, 9, {9, 9}};
     const std::string text = guarded_text(size, [&](char *buffer) { return format(buffer, result); });
     return {text, result.result_kind, result.error_code, result.range.start, result.range.end};
 }
 
-reference::Scientific value_text(const zeb::Scientific_Rules &rules, double x)
+reference::Scientific value_text(const engine::Scientific_Rules &rules, double x)
 {
-    return formatted(zeb::scientific_text_size,
-                     [&](char *buffer, auto &result) { return zeb::format_value(buffer, rules, x, result); });
+    return formatted(engine::scientific_text_size, [&](char *buffer, auto &result) {
+        return engine::format_value(buffer, rules, x, result);
+    });
 }
 
 reference::Scientific fixed_text(std::uint32_t decimals, double x)
 {
     return formatted(
-        64, [&](char *buffer, auto &result) { return zeb::format_fixed(buffer, decimals, x, result); });
+        64, [&](char *buffer, auto &result) { return engine::format_fixed(buffer, decimals, x, result); });
 }
 
 void expect_same(const reference::Scientific &made, const reference::Scientific &expected)
@@ -109,7 +111,7 @@ TEST(Scientific_Text, seeded_values_and_bases_agree_with_the_transcription)
 
 TEST(Number_Format, special_values_and_failures)
 {
-    const zeb::Scientific_Rules rules{6, 10.0, 1.0};
+    const engine::Scientific_Rules rules{6, 10.0, 1.0};
     expect_same(value_text(rules, std::nan("")), {"NaN", 0, 201});
     expect_same(value_text(rules, -infinity), {"Inf", 0, 201});
     expect_same(value_text(rules, -1e-12), {"0", 1});

@@ -3,13 +3,14 @@
 // Date arithmetic as plainly as it can be said, one statement per rule.
 
 #include "calendar/engine/date_time.hpp"
+#include "core/engine/namespace.hpp"
 #include "tests/reference/calendar.hpp"
 #include "tests/reference/number_text.hpp"
 
 namespace reference
 {
 
-using zeb::Date_Time;
+using engine::Date_Time;
 
 inline std::int32_t plus(std::int32_t field, std::uint32_t amount)
 {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/engine/namespace.hpp"
 #include "core/engine/one_time.hpp"
 
 TEST(Start_Up, runs_once_and_does_not_come_back_to_itself)
@@ -9,7 +10,7 @@ TEST(Start_Up, runs_once_and_does_not_come_back_to_itself)
     uint8_t done = 0;
     int runs = 0;
     const auto start = [&](auto &again) -> void {
-        zeb::run_once(done, [&] {
+        engine::run_once(done, [&] {
             ++runs;
             again(again);
         });

@@ -2,6 +2,7 @@
 #include "strings/engine/number_scanners.hpp"
 #include "strings/engine/text_comparison.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/strings.hpp"
 #include "tests/reference/vector_algorithms.hpp"
@@ -21,22 +22,22 @@ using Text = std::span<const char>;
 
 void expect_same_scans(const std::string &text)
 {
-    ASSERT_EQ(zeb::index_of_number_start(text), reference::index_of_number_start(text)) << text;
-    ASSERT_EQ(zeb::number_prefix_length(text), reference::number_prefix_length(text)) << text;
-    ASSERT_EQ(zeb::index_of_number_end(text), reference::index_of_number_end(text)) << text;
-    ASSERT_EQ(zeb::index_of_last_non_number(text), reference::index_of_last_non_number(text)) << text;
+    ASSERT_EQ(engine::index_of_number_start(text), reference::index_of_number_start(text)) << text;
+    ASSERT_EQ(engine::number_prefix_length(text), reference::number_prefix_length(text)) << text;
+    ASSERT_EQ(engine::index_of_number_end(text), reference::index_of_number_end(text)) << text;
+    ASSERT_EQ(engine::index_of_last_non_number(text), reference::index_of_last_non_number(text)) << text;
 }
 
 void expect_same_orders(const std::string &left, const std::string &right)
 {
     const Text first(left), second(right);
-    ASSERT_EQ(zeb::compare(first, second), reference::compare(left, right));
-    ASSERT_EQ(zeb::is_less<char>(first, second), reference::compare(left, right) == 2);
+    ASSERT_EQ(engine::compare(first, second), reference::compare(left, right));
+    ASSERT_EQ(engine::is_less<char>(first, second), reference::compare(left, right) == 2);
     const ZEB_Comparison folded = reference::compare_ignoring_case(left, right);
-    ASSERT_EQ(zeb::compare_ignoring_case(first, second), folded) << left << '|' << right;
-    ASSERT_EQ(zeb::is_equal_ignoring_case(first, second), folded == 1);
+    ASSERT_EQ(engine::compare_ignoring_case(first, second), folded) << left << '|' << right;
+    ASSERT_EQ(engine::is_equal_ignoring_case(first, second), folded == 1);
     const auto left_units = widened<uint32_t>(left), right_units = widened<uint32_t>(right);
-    const ZEB_Comparison wide = zeb::compare(std::span<const uint32_t>(left_units), right_units);
+    const ZEB_Comparison wide = engine::compare(std::span<const uint32_t>(left_units), right_units);
     ASSERT_EQ(wide, reference::compare(left_units, right_units));
 }
 
@@ -62,10 +63,10 @@ void expect_every_pair_of_bytes_to_compare_alike()
             first[66] = static_cast<char>(left);
             second[66] = static_cast<char>(right);
             const ZEB_Comparison expected = reference::compare_ignoring_case({first[66]}, {second[66]});
-            ASSERT_EQ(zeb::compare_ignoring_case(first, second), expected) << left << ' ' << right;
-            ASSERT_EQ(zeb::is_equal_ignoring_case(first, second), expected == 1);
+            ASSERT_EQ(engine::compare_ignoring_case(first, second), expected) << left << ' ' << right;
+            ASSERT_EQ(engine::is_equal_ignoring_case(first, second), expected == 1);
             const Text one(&first[66], 1), other(&second[66], 1);
-            ASSERT_EQ(zeb::compare_ignoring_case(one, other), expected) << left << ' ' << right;
+            ASSERT_EQ(engine::compare_ignoring_case(one, other), expected) << left << ' ' << right;
         }
     }
 }
@@ -89,14 +90,14 @@ TEST(Number_Scanners, find_what_the_literal_scans_find)
 TEST(Number_Scanners, pass_over_what_they_are_told_to)
 {
     const auto text = [](const char *characters) { return Text(characters, std::strlen(characters)); };
-    EXPECT_EQ(zeb::number_prefix_length(text("12.5e3")), ZEB_NOT_FOUND);
-    EXPECT_EQ(zeb::number_prefix_length(text("12 apples")), 2u);
-    EXPECT_EQ(zeb::number_prefix_length(text("Infinity")), 8u);
-    EXPECT_EQ(zeb::index_of_number_start(text("  -3")), 2u);
-    EXPECT_EQ(zeb::index_of_number_start(text("abc7")), 3u);
-    EXPECT_EQ(zeb::index_of_number_end(text("x = 4.2e1  ")), 8u);
-    EXPECT_EQ(zeb::index_of_number_end(text("value INF")), 8u);
-    EXPECT_EQ(zeb::index_of_last_non_number(text("12E5")), 2u);
+    EXPECT_EQ(engine::number_prefix_length(text("12.5e3")), ZEB_NOT_FOUND);
+    EXPECT_EQ(engine::number_prefix_length(text("12 apples")), 2u);
+    EXPECT_EQ(engine::number_prefix_length(text("Infinity")), 8u);
+    EXPECT_EQ(engine::index_of_number_start(text("  -3")), 2u);
+    EXPECT_EQ(engine::index_of_number_start(text("abc7")), 3u);
+    EXPECT_EQ(engine::index_of_number_end(text("x = 4.2e1  ")), 8u);
+    EXPECT_EQ(engine::index_of_number_end(text("value INF")), 8u);
+    EXPECT_EQ(engine::index_of_last_non_number(text("12E5")), 2u);
 }
 
 TEST(Text_Comparison, orders_as_the_literal_loops_do)
@@ -153,10 +154,10 @@ TEST(Substring_Search, leaves_the_last_start_out)
             const auto text = widened<char>(draw_text(random, length, "ab"));
             const auto pattern = widened<char>(draw_text(random, random() % 6, "ab"));
             const uint32_t expected = reference::first_index_of_subsequence(text, pattern);
-            ASSERT_EQ(zeb::first_index_of_subsequence<char>(text, pattern), expected);
+            ASSERT_EQ(engine::first_index_of_subsequence<char>(text, pattern), expected);
             const std::vector<uint32_t> units(text.begin(), text.end());
             const std::vector<uint32_t> run(pattern.begin(), pattern.end());
-            ASSERT_EQ(zeb::first_index_of_subsequence<uint32_t>(units, run), expected);
+            ASSERT_EQ(engine::first_index_of_subsequence<uint32_t>(units, run), expected);
         }
     }
 }

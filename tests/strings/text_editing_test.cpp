@@ -1,6 +1,7 @@
 #include "arrays/engine/storage/occurrences.hpp"
 #include "strings/engine/c_strings.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/strings.hpp"
 #include "tests/strings/random_text.hpp"
@@ -24,25 +25,25 @@ struct Fields {
     Fields() = default;
     Fields(const Fields &) = delete;
     Fields &operator=(const Fields &) = delete;
-    ~Fields() { zeb::release(marker == 0 ? data : nullptr); }
+    ~Fields() { engine::release(marker == 0 ? data : nullptr); }
 
-    zeb::Text_Storage<Character> storage() { return {{data, count, marker, {}}, capacity, 16}; }
+    engine::Text_Storage<Character> storage() { return {{data, count, marker, {}}, capacity, 16}; }
     auto report()
     {
-        return [this](zeb::Char_Span note) { notes.emplace_back(note.char_c_array, note.length); };
+        return [this](engine::Char_Span note) { notes.emplace_back(note.char_c_array, note.length); };
     }
     std::vector<Character> text() const { return {data, data + count}; }
     void put(const std::string &bytes, bool append)
     {
         const uint32_t length = static_cast<uint32_t>(bytes.size());
         if (append)
-            zeb::append_c_string(storage(), bytes.data(), length, report());
+            engine::append_c_string(storage(), bytes.data(), length, report());
         else
-            zeb::copy_c_string(storage(), bytes.data(), length, report());
+            engine::copy_c_string(storage(), bytes.data(), length, report());
     }
     uint32_t replace(std::span<const Character> pattern, std::span<const Character> replacement)
     {
-        return zeb::replace_occurrences(storage(), pattern, replacement, report());
+        return engine::replace_occurrences(storage(), pattern, replacement, report());
     }
 };
 
@@ -72,7 +73,7 @@ TYPED_TEST(Text_Editing, keeps_text_and_capacity_of_the_literal_steps)
                 const auto replacement = widened<C>(draw_text(random, random() % 5, "ab"));
                 ASSERT_EQ(ours.replace(pattern, replacement), literal.replace(pattern, replacement));
             } else if constexpr (sizeof(C) == 1) {
-                zeb::append_null_terminator(ours.storage(), ours.report());
+                engine::append_null_terminator(ours.storage(), ours.report());
                 literal.terminate();
                 ASSERT_EQ(ours.data[ours.count], '\0');
             }
@@ -124,11 +125,11 @@ TYPED_TEST(Text_Editing, reads_its_own_text_as_if_it_were_a_copy)
         const std::string copy(part.begin(), part.end());
         literal.put(copy, turn % 2 == 0);
         if (turn % 2 == 0)
-            zeb::append_c_string(ours.storage(), part.data(), static_cast<uint32_t>(part.size()),
-                                 ours.report());
+            engine::append_c_string(ours.storage(), part.data(), static_cast<uint32_t>(part.size()),
+                                    ours.report());
         else
-            zeb::copy_c_string(ours.storage(), part.data(), static_cast<uint32_t>(part.size()),
-                               ours.report());
+            engine::copy_c_string(ours.storage(), part.data(), static_cast<uint32_t>(part.size()),
+                                  ours.report());
         ASSERT_EQ(ours.text(), literal.text);
         ASSERT_EQ(ours.capacity, literal.capacity);
     }
@@ -142,7 +143,7 @@ TYPED_TEST(Text_Editing, refuses_on_a_link)
     Fields<C> link;
     link.data = viewed;
     link.count = 3;
-    link.capacity = zeb::capacity_of_links;
+    link.capacity = engine::capacity_of_links;
     link.marker = 10001;
     link.put("", false);
     link.put("", true);
@@ -153,7 +154,7 @@ TYPED_TEST(Text_Editing, refuses_on_a_link)
                                       "Can not replace occurences through a link",
                                       "Can not replace occurences through a link"};
     if constexpr (sizeof(C) == 1) {
-        zeb::append_null_terminator(link.storage(), link.report());
+        engine::append_null_terminator(link.storage(), link.report());
         notes.push_back("Cannot append null terminator through link, no append made.");
     }
     EXPECT_EQ(link.notes, notes);
@@ -166,14 +167,14 @@ TYPED_TEST(Text_Editing, reports_a_size_that_cannot_be_had)
     Fields<C> ours;
     ours.put("abc", false);
     ours.count = UINT32_MAX - 1;
-    zeb::append_c_string(ours.storage(), "xyz", 3, ours.report());
+    engine::append_c_string(ours.storage(), "xyz", 3, ours.report());
     EXPECT_EQ(ours.notes, std::vector<std::string>{"Runtime error in reallocate macro"});
     EXPECT_EQ(ours.count, UINT32_MAX - 1);
     EXPECT_EQ(ours.capacity, 16u);
     ours.count = 3;
     EXPECT_EQ(ours.text(), widened<C>("abc"));
     Fields<C> fresh;
-    zeb::copy_c_string(fresh.storage(), "x", UINT32_MAX, fresh.report());
+    engine::copy_c_string(fresh.storage(), "x", UINT32_MAX, fresh.report());
     EXPECT_EQ(fresh.notes, std::vector<std::string>{"Runtime error in allocate macro"});
     EXPECT_EQ(fresh.data, nullptr);
 }

@@ -3,6 +3,7 @@
 #include "strings/engine/text_kernels.hpp"
 #include "strings/engine/text_loops.hpp"
 
+#include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/reference/strings.hpp"
 #include "tests/strings/random_text.hpp"
@@ -33,27 +34,27 @@ struct Text {
 
 void expect_all_conversions(const Text &text)
 {
-    ASSERT_TRUE(zeb::is_valid_utf8(text.utf8));
-    Units units(zeb::utf16_length_of_utf8(text.utf8));
-    ASSERT_TRUE(zeb::utf16_from_utf8(text.utf8, units.data()));
+    ASSERT_TRUE(engine::is_valid_utf8(text.utf8));
+    Units units(engine::utf16_length_of_utf8(text.utf8));
+    ASSERT_TRUE(engine::utf16_from_utf8(text.utf8, units.data()));
     ASSERT_EQ(units, text.utf16);
-    units.resize(zeb::code_point_count_of_utf8(text.utf8));
-    ASSERT_TRUE(zeb::code_points_from_utf8(text.utf8, units.data()));
+    units.resize(engine::code_point_count_of_utf8(text.utf8));
+    ASSERT_TRUE(engine::code_points_from_utf8(text.utf8, units.data()));
     ASSERT_EQ(units, text.code_points);
 
-    std::string utf8(zeb::utf8_length_of_utf16(text.utf16), ' ');
-    ASSERT_TRUE(zeb::utf8_from_utf16(text.utf16, utf8.data()));
+    std::string utf8(engine::utf8_length_of_utf16(text.utf16), ' ');
+    ASSERT_TRUE(engine::utf8_from_utf16(text.utf16, utf8.data()));
     ASSERT_EQ(utf8, text.utf8);
-    utf8.assign(zeb::utf8_length_of_code_points(text.code_points), ' ');
-    ASSERT_TRUE(zeb::utf8_from_code_points(text.code_points, utf8.data()));
+    utf8.assign(engine::utf8_length_of_code_points(text.code_points), ' ');
+    ASSERT_TRUE(engine::utf8_from_code_points(text.code_points, utf8.data()));
     ASSERT_EQ(utf8, text.utf8);
 
     units = text.utf16;
-    units.resize(zeb::join_surrogate_pairs(units));
+    units.resize(engine::join_surrogate_pairs(units));
     ASSERT_EQ(units, text.code_points);
-    const size_t pairs = zeb::count_of_pairs(units);
+    const size_t pairs = engine::count_of_pairs(units);
     units.resize(units.size() + pairs);
-    zeb::split_to_surrogate_pairs(units.data(), text.code_points.size(), pairs);
+    engine::split_to_surrogate_pairs(units.data(), text.code_points.size(), pairs);
     ASSERT_EQ(units, text.utf16);
 }
 
@@ -97,12 +98,12 @@ TEST(Unicode_Forms, are_well_formed_as_the_table_of_byte_ranges_has_it)
 {
     const auto expect_same = [](const std::string &text) {
         const bool valid = reference::is_valid_utf8(text);
-        ASSERT_EQ(zeb::is_valid_utf8(text), valid);
+        ASSERT_EQ(engine::is_valid_utf8(text), valid);
         // In a block of their exact size, for the sanitizer to watch.
-        const std::unique_ptr<uint32_t[]> units(new uint32_t[zeb::utf16_length_of_utf8(text)]);
-        ASSERT_EQ(zeb::utf16_from_utf8(text, units.get()), valid);
-        const std::unique_ptr<uint32_t[]> points(new uint32_t[zeb::code_point_count_of_utf8(text)]);
-        ASSERT_EQ(zeb::code_points_from_utf8(text, points.get()), valid);
+        const std::unique_ptr<uint32_t[]> units(new uint32_t[engine::utf16_length_of_utf8(text)]);
+        ASSERT_EQ(engine::utf16_from_utf8(text, units.get()), valid);
+        const std::unique_ptr<uint32_t[]> points(new uint32_t[engine::code_point_count_of_utf8(text)]);
+        ASSERT_EQ(engine::code_points_from_utf8(text, points.get()), valid);
     };
     for (unsigned first = 0; first < 256; ++first)
         for (unsigned second = 0; second < 256; ++second)
@@ -128,23 +129,23 @@ TEST(Unicode_Forms, refuse_what_is_no_character)
     const Units lone[] = {{0xD800},      {0xDC00},         {'a', 0xDBFF},
                           {0xD800, 'a'}, {0xDC00, 0xD800}, {0xD800, 0xD800, 0xDC00}};
     for (const Units &units : lone) {
-        EXPECT_FALSE(zeb::utf8_from_utf16(units, room));
-        EXPECT_FALSE(zeb::are_code_points(units));
-        EXPECT_FALSE(zeb::utf8_from_code_points(units, room));
+        EXPECT_FALSE(engine::utf8_from_utf16(units, room));
+        EXPECT_FALSE(engine::are_code_points(units));
+        EXPECT_FALSE(engine::utf8_from_code_points(units, room));
     }
     for (const uint32_t none : {0x110000u, 0xDFFFu, UINT32_MAX}) {
-        EXPECT_FALSE(zeb::are_code_points(Units{'a', none}));
-        EXPECT_FALSE(zeb::utf8_from_code_points(Units{'a', none}, room));
+        EXPECT_FALSE(engine::are_code_points(Units{'a', none}));
+        EXPECT_FALSE(engine::utf8_from_code_points(Units{'a', none}, room));
     }
     // Of a UTF-16 element only the low half counts; as a code point it is what it is.
-    EXPECT_TRUE(zeb::utf8_from_utf16(Units{0xABCD0041}, room));
+    EXPECT_TRUE(engine::utf8_from_utf16(Units{0xABCD0041}, room));
     EXPECT_EQ(room[0], 'A');
     Units mixed{0xD800, 0x110000, 0x1F600, 'x', 0xDC00, 0xD83D};
     Units joined = mixed;
-    EXPECT_EQ(zeb::join_surrogate_pairs(joined), mixed.size());
+    EXPECT_EQ(engine::join_surrogate_pairs(joined), mixed.size());
     EXPECT_EQ(joined, mixed);
-    mixed.resize(mixed.size() + zeb::count_of_pairs(mixed));
-    zeb::split_to_surrogate_pairs(mixed.data(), mixed.size() - 1, 1);
+    mixed.resize(mixed.size() + engine::count_of_pairs(mixed));
+    engine::split_to_surrogate_pairs(mixed.data(), mixed.size() - 1, 1);
     EXPECT_EQ(mixed, (Units{0xD800, 0x110000, 0xD83D, 0xDE00, 'x', 0xDC00, 0xD83D}));
 }
 
@@ -157,12 +158,12 @@ TEST(Text_Kernels, do_what_the_plain_loops_do)
             for (uint32_t &unit : units)
                 unit >>= random() % 32;
             std::vector<uint16_t> halves(count), expected_halves(count);
-            zeb::kernels::narrow(units.data(), count, halves.data());
-            zeb::plain::narrow(units.data(), count, expected_halves.data());
+            engine::kernels::narrow(units.data(), count, halves.data());
+            engine::plain::narrow(units.data(), count, expected_halves.data());
             ASSERT_EQ(halves, expected_halves);
             Units widened(count);
             std::copy(halves.begin(), halves.end(), reinterpret_cast<uint16_t *>(widened.data()));
-            zeb::kernels::widen_in_place(widened.data(), count);
+            engine::kernels::widen_in_place(widened.data(), count);
             ASSERT_EQ(widened, Units(halves.begin(), halves.end()));
         }
     });

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// True when both hold the same bytes: 0.0 and -0.0 differ, a not-a-number equals itself.
@@ -35,4 +35,4 @@ bool same_values(std::span<const Element> left, std::span<const std::type_identi
         return same_memory<Element>(left, right);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -8,7 +8,7 @@
 
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 template <class Element>
@@ -78,4 +78,4 @@ Extrema<Element> minimum_and_maximum(std::span<const Element> elements, Less les
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

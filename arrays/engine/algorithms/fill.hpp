@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Stores the value into every element.
@@ -34,4 +34,4 @@ void fill_range(std::span<Element> elements, ZEB_Index_Range range,
     fill<Element>(elements.subspan(range.start, std::min(length, elements.size() - range.start)), value);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Calls `visit(index)` for the start of each occurrence of the pattern, from the front, without overlap;
@@ -82,4 +82,4 @@ std::uint32_t copy_with_occurrences_replaced(std::span<const Element> source,
     return found;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -9,7 +9,7 @@
 #include <span>
 #include <type_traits>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Where a binary search ended.
@@ -187,4 +187,4 @@ Ordered_Insert ordered_insert_position(std::span<const Element> elements,
     return {end.index, Found, elements.size() == 1 && ordered_detail::is_unknown(end.answer)};
 }
 
-} // namespace zeb
+} // namespace zeb::engine

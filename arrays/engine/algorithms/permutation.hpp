@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Which way a permutation is read: element i becomes what element `permutation[i]` was, or that becomes what
@@ -68,4 +68,4 @@ bool transpose(std::span<Element> elements, std::uint32_t rows, std::uint32_t co
     return true;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

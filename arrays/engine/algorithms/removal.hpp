@@ -8,7 +8,7 @@
 
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Removes every element equal to the value and keeps the order of the rest.
@@ -26,4 +26,4 @@ std::uint32_t remove_equal(std::span<Element> elements, const std::type_identity
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

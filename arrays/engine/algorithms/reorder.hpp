@@ -8,7 +8,7 @@
 #include <span>
 #include <utility>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Exchanges two elements. An index outside the span changes nothing.
@@ -51,4 +51,4 @@ void reverse(std::span<Element> elements) noexcept
         std::swap(elements[count / 2 - 1], elements[count / 2]);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -8,7 +8,7 @@
 #include <span>
 #include <type_traits>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Replaces every element equal to `value` and answers how many. An element that differs is not written.
@@ -27,4 +27,4 @@ std::uint32_t replace_equal(std::span<Element> elements, const std::type_identit
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

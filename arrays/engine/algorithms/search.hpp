@@ -9,7 +9,7 @@
 #include <span>
 #include <type_traits>
 
-namespace zeb
+namespace zeb::engine
 {
 
 namespace search_detail
@@ -89,4 +89,4 @@ std::uint32_t first_index_of_subsequence(std::span<const Element> elements,
     return find_occurrence<Element>(elements.first(elements.size() - 1), pattern, 0, equal);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

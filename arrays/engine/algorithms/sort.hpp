@@ -10,7 +10,7 @@
 #include <span>
 #include <utility>
 
-namespace zeb
+namespace zeb::engine
 {
 
 namespace sort_detail
@@ -129,4 +129,4 @@ bool sort_with_permutation_by(std::span<Element> elements, std::span<std::uint32
     return true;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

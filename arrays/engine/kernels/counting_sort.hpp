@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Sorts ascending, as unsigned bytes with `bias` 0 and as signed ones with 0x80. The bytes of each value
@@ -36,4 +36,4 @@ inline void counting_sort(std::uint8_t *bytes, std::size_t count, std::uint8_t b
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

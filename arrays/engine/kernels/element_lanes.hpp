@@ -8,7 +8,7 @@
 #include <cstring>
 #include <type_traits>
 
-namespace zeb
+namespace zeb::engine
 {
 
 template <class Element>
@@ -106,4 +106,4 @@ Lane lane_of(const Element &element) noexcept
     return lane;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

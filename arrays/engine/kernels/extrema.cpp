@@ -13,7 +13,7 @@
 #include "arrays/engine/kernels/vector_lanes.hpp"
 
 HWY_BEFORE_NAMESPACE();
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace HWY_NAMESPACE
 {
@@ -157,12 +157,12 @@ ZEB_LANE(double)
 #undef ZEB_LANE
 
 } // namespace HWY_NAMESPACE
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace
 {
@@ -234,5 +234,5 @@ ZEB_LANE(float)
 ZEB_LANE(double)
 #undef ZEB_LANE
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 std::uint8_t minimum(const std::uint8_t *lanes, std::size_t count) noexcept;
@@ -37,4 +37,4 @@ void minimum_and_maximum(const std::uint64_t *lanes, std::size_t count, std::uin
 void minimum_and_maximum(const float *lanes, std::size_t count, float &low, float &high) noexcept;
 void minimum_and_maximum(const double *lanes, std::size_t count, double &low, double &high) noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

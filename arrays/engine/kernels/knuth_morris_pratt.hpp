@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::plain
+namespace zeb::engine::plain
 {
 
 /// For each prefix of the pattern, the length of its longest proper prefix that also ends it.
@@ -41,4 +41,4 @@ std::size_t find_run_by_borders(const Element *elements, std::size_t count, cons
     return count;
 }
 
-} // namespace zeb::plain
+} // namespace zeb::engine::plain

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <type_traits>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Three indexes into a pattern.
@@ -72,4 +72,4 @@ Telling_Places rarest_places(const Lane *text, std::size_t count, const Lane *pa
     return rarest;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::plain
+namespace zeb::engine::plain
 {
 
 /// Index of the first element equal to the value; count when there is none.
@@ -78,4 +78,4 @@ std::size_t remove_equal(Element *elements, std::size_t count, const Element &va
     return kept;
 }
 
-} // namespace zeb::plain
+} // namespace zeb::engine::plain

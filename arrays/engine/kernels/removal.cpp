@@ -12,7 +12,7 @@
 #include <immintrin.h>
 #endif
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace
 {
@@ -229,4 +229,4 @@ ZEB_LANE(float, Word_Vector<float>)
 ZEB_LANE(double, Word_Vector<double>)
 #undef ZEB_LANE
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

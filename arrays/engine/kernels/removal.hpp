@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 /// Moves the lanes that are not `==` the value to the front, in order, and answers how many. Nothing is
@@ -15,4 +15,4 @@ std::size_t remove_equal(std::uint64_t *lanes, std::size_t count, std::uint64_t 
 std::size_t remove_equal(float *lanes, std::size_t count, float value) noexcept;
 std::size_t remove_equal(double *lanes, std::size_t count, double value) noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

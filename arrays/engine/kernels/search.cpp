@@ -17,7 +17,7 @@
 #include "arrays/engine/kernels/vector_lanes.hpp"
 
 HWY_BEFORE_NAMESPACE();
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace HWY_NAMESPACE
 {
@@ -273,12 +273,12 @@ bool all_equal_double(const double *left, const double *right, std::size_t count
 }
 
 } // namespace HWY_NAMESPACE
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace
 {
@@ -368,5 +368,5 @@ bool all_equal(const double *left, const double *right, std::size_t count) noexc
 #endif
 }
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif

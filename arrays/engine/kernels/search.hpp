@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 /// Index of the first (last) lane equal to the value; count when there is none.
@@ -39,4 +39,4 @@ std::size_t find_run(const double *lanes, std::size_t count, const double *patte
 bool all_equal(const float *left, const float *right, std::size_t count) noexcept;
 bool all_equal(const double *left, const double *right, std::size_t count) noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

@@ -13,7 +13,7 @@
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace HWY_NAMESPACE
 {
@@ -190,12 +190,12 @@ ZEB_LANE(uint64_t, std::uint64_t)
 #undef ZEB_LANE
 
 } // namespace HWY_NAMESPACE
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 #if ZEB_HAS_HIGHWAY
@@ -228,5 +228,5 @@ ZEB_LANE(uint32_t, std::uint32_t)
 ZEB_LANE(uint64_t, std::uint64_t)
 #undef ZEB_LANE
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 /// Sorts ascending by the lane's own `<`, not-a-numbers and zeros of both signs included.
@@ -22,4 +22,4 @@ void shell_sort(std::int32_t *lanes, std::uint32_t *companions, std::size_t coun
 void shell_sort(std::uint32_t *lanes, std::uint32_t *companions, std::size_t count) noexcept;
 void shell_sort(std::uint64_t *lanes, std::uint64_t *companions, std::size_t count) noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::shell
+namespace zeb::engine::shell
 {
 
 /// The first gap for a count: the first of 1, 4, 13, 40, ... whose triple is not less than the count.
@@ -76,4 +76,4 @@ void sort_lanes(Lane *lanes, Companions companions, std::size_t count) noexcept
         pass(lanes, companions, count, gap);
 }
 
-} // namespace zeb::shell
+} // namespace zeb::engine::shell

@@ -15,7 +15,7 @@
 #include <hwy/contrib/sort/vqsort.h>
 #endif
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace
 {
@@ -306,4 +306,4 @@ ZEB_LANE(float)
 ZEB_LANE(double)
 #undef ZEB_LANE
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

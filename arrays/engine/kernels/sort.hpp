@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 /// Sorts ascending. Floating-point lanes end where the Shell sort leaves them, which shows where zeros
@@ -26,4 +26,4 @@ void sort(std::uint64_t *lanes, std::uint32_t *indexes, std::size_t count) noexc
 void sort(float *lanes, std::uint32_t *indexes, std::size_t count) noexcept;
 void sort(double *lanes, std::uint32_t *indexes, std::size_t count) noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

@@ -16,7 +16,7 @@
 
 #ifndef ZEB_FLOAT_SCAN
 #define ZEB_FLOAT_SCAN
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace
 {
@@ -50,12 +50,12 @@ struct Float_Scan {
 };
 
 } // namespace
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif
 
 #if ZEB_HAS_HIGHWAY
 HWY_BEFORE_NAMESPACE();
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace HWY_NAMESPACE
 {
@@ -130,12 +130,12 @@ Float_Order float_order_double(const double *lanes, std::size_t count) { return 
 bool has_vectors() { return HWY_TARGET != HWY_SCALAR && HWY_TARGET != HWY_EMU128; }
 
 } // namespace HWY_NAMESPACE
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 #if ZEB_HAS_HIGHWAY
@@ -188,5 +188,5 @@ ZEB_LANE(float)
 ZEB_LANE(double)
 #undef ZEB_LANE
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 /// What floating-point lanes hold beside finite numbers.
@@ -29,4 +29,4 @@ Run_Order run_order(const double *lanes, std::size_t count) noexcept;
 /// True when this machine has vectors that the library's sort can use.
 bool sorts_in_vectors() noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

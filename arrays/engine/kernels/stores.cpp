@@ -11,11 +11,11 @@
 
 #ifndef ZEB_STREAMING_BYTES
 #define ZEB_STREAMING_BYTES
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 /// Above this many bytes a fill goes past the caches, which could not keep it anyway.
 static constexpr std::size_t streaming_bytes = std::size_t{16} << 20;
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif
 
 #undef HWY_TARGET_INCLUDE
@@ -26,7 +26,7 @@ static constexpr std::size_t streaming_bytes = std::size_t{16} << 20;
 #include <hwy/cache_control.h>
 
 HWY_BEFORE_NAMESPACE();
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace HWY_NAMESPACE
 {
@@ -227,12 +227,12 @@ ZEB_LANE(double)
 #undef ZEB_LANE
 
 } // namespace HWY_NAMESPACE
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 #if ZEB_HAS_HIGHWAY
@@ -291,5 +291,5 @@ ZEB_REPLACE(uint64_t)
 ZEB_REPLACE(float)
 ZEB_REPLACE(double)
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 #endif

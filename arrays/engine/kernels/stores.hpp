@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 
 /// Stores the value into every lane.
@@ -28,4 +28,4 @@ std::size_t replace_equal(std::uint64_t *lanes, std::size_t count, std::uint64_t
 std::size_t replace_equal(float *lanes, std::size_t count, float value, float replacement) noexcept;
 std::size_t replace_equal(double *lanes, std::size_t count, double value, double replacement) noexcept;
 
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels

@@ -15,7 +15,7 @@
 #include <cstring>
 
 HWY_BEFORE_NAMESPACE();
-namespace zeb::kernels
+namespace zeb::engine::kernels
 {
 namespace HWY_NAMESPACE
 {
@@ -48,7 +48,7 @@ HWY_INLINE std::uint64_t bits_of(D d, Mask mask)
 }
 
 } // namespace HWY_NAMESPACE
-} // namespace zeb::kernels
+} // namespace zeb::engine::kernels
 HWY_AFTER_NAMESPACE();
 
 #endif

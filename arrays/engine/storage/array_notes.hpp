@@ -3,7 +3,7 @@
 
 #include "core/engine/char_span.hpp"
 
-namespace zeb::notes
+namespace zeb::engine::notes
 {
 
 inline constexpr Char_Span trim_through_link =
@@ -43,4 +43,4 @@ inline constexpr Char_Span permutation_out_of_range =
 inline constexpr Char_Span not_implemented = span_of("Not implemented");
 inline constexpr Char_Span need_to_implement = span_of("Need to implement");
 
-} // namespace zeb::notes
+} // namespace zeb::engine::notes

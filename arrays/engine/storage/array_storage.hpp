@@ -8,7 +8,7 @@
 
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// The marker that the link makers set, and from which on arrays refuse to change their block.
@@ -48,4 +48,4 @@ struct Array_Storage : Vector_Storage<Kind> {
     }
 };
 
-} // namespace zeb
+} // namespace zeb::engine

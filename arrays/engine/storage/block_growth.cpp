@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 namespace
 {
@@ -62,4 +62,4 @@ bool grow_block(Block &block, std::uint64_t needed, std::uint32_t seed, Block_La
     return resize_block(block, grown_capacity(block.capacity, needed, seed), layout);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// One block from the C allocator and the number of elements that fit into it.
@@ -45,4 +45,4 @@ bool grow_block(Block &block, std::uint64_t needed, std::uint32_t seed, Block_La
 /// Capacity 0 is left to the caller.
 bool resize_block(Block &block, std::uint64_t capacity, Block_Layout layout) noexcept;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -29,7 +29,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Numbers, characters and pointers: bytes that may be copied and forgotten.
@@ -266,4 +266,4 @@ struct Held_Objects {
     }
 };
 
-} // namespace zeb
+} // namespace zeb::engine

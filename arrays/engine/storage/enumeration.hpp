@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Sets an enumeration's state to all elements at the first call, and to none at the second. A change of
@@ -20,4 +20,4 @@ std::size_t hand_over_once(State &state, Element *&data, std::uint32_t count) no
     return count;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -6,7 +6,7 @@
 
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Plain elements and references are compared as memory, held objects by their contents.
@@ -34,4 +34,4 @@ std::uint64_t hash_as_vector(std::span<const typename Kind::Element> elements) n
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 #include "arrays/engine/storage/array_notes.hpp"
 #include "arrays/engine/storage/repeated_element.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Stores `element` into the range, both ends included; a range that starts after its end fills nothing,
@@ -36,4 +36,4 @@ void fill_with(Vector_Storage<Kind> vector, typename Kind::Element element, Repo
         fill_range_with(vector, {0, vector.count - 1}, element, report);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <functional>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Elements to put in: where they are, how many, whose references they are.
@@ -190,4 +190,4 @@ void copy_element(Array_Storage<Kind> array, typename Kind::Element element, Rep
     array.count = 1;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

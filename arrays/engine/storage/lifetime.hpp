@@ -8,7 +8,7 @@
 #include "arrays/engine/storage/array_notes.hpp"
 #include "arrays/engine/storage/array_storage.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Drops the elements and frees the block of an owner; a link forgets what it views.
@@ -125,4 +125,4 @@ bool replace_with_copy(Vector_Storage<Kind> storage, Source source, typename Kin
     return true;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

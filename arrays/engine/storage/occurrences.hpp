@@ -10,7 +10,7 @@
 #include <span>
 #include <utility>
 
-namespace zeb
+namespace zeb::engine
 {
 
 namespace occurrences_detail
@@ -217,4 +217,4 @@ std::uint32_t replace_occurrences(Array_Storage<Kind> array, std::span<typename 
         return replace_into_new_block(array, {pattern, replacement}, report);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

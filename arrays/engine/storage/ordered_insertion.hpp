@@ -4,7 +4,7 @@
 #include "arrays/engine/algorithms/ordered_search.hpp"
 #include "arrays/engine/storage/insertion.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Answers what was found, after the warning that it calls for.
@@ -36,4 +36,4 @@ std::uint32_t ordered_insert(Array_Storage<Kind> array, typename Kind::Element e
     return array.count == count ? ZEB_NOT_FOUND : place.index;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

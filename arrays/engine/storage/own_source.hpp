@@ -6,7 +6,7 @@
 
 #include <span>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// A copy of a run of elements, or several copies one after the other, kept as the array keeps its own.
@@ -83,4 +83,4 @@ private:
 template <class Element>
 using Own_Values = Own_Source<Plain_Elements<Element>>;
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -5,7 +5,7 @@
 #include "arrays/engine/storage/array_notes.hpp"
 #include "arrays/engine/storage/own_source.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 namespace permutation_detail
@@ -59,4 +59,4 @@ void permute(Vector_Storage<Kind> vector, std::span<const std::uint32_t> entries
         report(notes::allocate_failed);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

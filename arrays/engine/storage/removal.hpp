@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Takes out `n` elements at `at`; the caller has checked the range.
@@ -76,4 +76,4 @@ void replace_range(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename 
     take_out(vector, range.start + 1, std::min(range.end, vector.count - 1) - range.start);
 }
 
-} // namespace zeb
+} // namespace zeb::engine

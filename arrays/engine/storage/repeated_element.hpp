@@ -4,7 +4,7 @@
 #include "arrays/engine/storage/array_storage.hpp"
 #include "arrays/engine/storage/lifetime.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Every slot is prepared first. The first one stored to takes over the caller's reference, where the kind
@@ -35,4 +35,4 @@ private:
     Source source = Source::of_the_caller;
 };
 
-} // namespace zeb
+} // namespace zeb::engine

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Stores `replacement` over every element equal to `element`, and answers how many those were. Where an
@@ -44,4 +44,4 @@ std::uint32_t replace_every(Vector_Storage<Kind> vector, typename Kind::Element 
     }
 }
 
-} // namespace zeb
+} // namespace zeb::engine

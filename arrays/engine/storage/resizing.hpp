@@ -7,7 +7,7 @@
 #include "arrays/engine/storage/array_notes.hpp"
 #include "arrays/engine/storage/array_storage.hpp"
 
-namespace zeb
+namespace zeb::engine
 {
 
 /// Grows the block until the capacity exceeds `needed`; false, after the report of `failure`, where that
@@ -129,4 +129,4 @@ void change_count(Vector_Storage<Kind> vector, std::uint32_t count, Report repor
     vector.count = count;
 }
 
-} // namespace zeb
+} // namespace zeb::engine

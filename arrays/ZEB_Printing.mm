@@ -6,6 +6,8 @@
 #import <Korvane_ZEB/ZEB_String_Converter.h>
 #import <Korvane_ZEB/ZEB_Wide_String.h>
 
+#include "numbers/engine/unsigned_text.hpp"
+
 #include <inttypes.h>
 #include <stdio.h>
 
@@ -44,6 +46,11 @@ void print_element(ZEB_Stream *stream, int32_t element)
 void print_element(ZEB_Stream *stream, uint32_t element)
 {
     print_number(stream, ZC_pretty_format_unsigned, element);
+}
+
+void print_element(ZEB_Stream *stream, int64_t element)
+{
+    print_number(stream, put_signed_64, element);
 }
 
 void print_element(ZEB_Stream *stream, float element)

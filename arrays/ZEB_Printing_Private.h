@@ -17,6 +17,7 @@ void print_element(ZEB_Stream *stream, uint8_t element);
 void print_element(ZEB_Stream *stream, char element);
 void print_element(ZEB_Stream *stream, int32_t element);
 void print_element(ZEB_Stream *stream, uint32_t element);
+void print_element(ZEB_Stream *stream, int64_t element);
 void print_element(ZEB_Stream *stream, float element);
 void print_element(ZEB_Stream *stream, double element);
 void print_element(ZEB_Stream *stream, void *element);

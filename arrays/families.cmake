@@ -1,71 +1,77 @@
 # The table of element families: one row makes a collection, a vector and an array class.
 #
-#   NAME        the family's word in class names          WORD    the family's word in operation names
-#   PHRASE      what the elements are called              ELEMENT their C type
-#   ARRAY       the class name of the array               KIND    the engine's kind of element
-#   KIND_STATE  what the kind reads from a vector         WRITE   how one `element` goes onto a `stream`
-#   FORWARD     classes that the headers name             COLLECTION_FIELDS, VECTOR_FIELDS  fields of its own
-#   FIELD_AT_FIRST, FIELD_OF_FOREIGN   a field's value after init, and with elements of a raw block
-#   TAKE_MODE   how a copy (`made`) takes the mode of its model (`other`)
-#   STORING     what storing an element means, for the header
+#   ZEB_T_                what the family's class names begin with
+#   TT_word               the family's word in operation names
+#   TT_PHRASE             what the elements are called
+#   ZEB_T_Element         their C type
+#   ZEB_T_Array           the class name of the array
+#   TT_KIND               the engine's kind of element
+#   TT_KIND_STATE         what the kind reads from a vector
+#   TT_STORING            what storing an element means, for the header
+#   TT_WRITE_ELEMENT      how one `element` goes onto a `stream`
+#   TT_FORWARD_CLASSES    classes that the headers name
+#   TT_COLLECTION_FIELDS, TT_VECTOR_FIELDS  fields of its own; ZEB_Family_Settings_Private.h sets them
 #
-# A field that a row leaves out has the default of `zeb_family`.
+# Columns that a row leaves out have the defaults of `zeb_family`.
 
 set(zeb_storing_of_held "Storing an element copies its contents into an object that the array makes for the slot
  * and keeps: the element given stays the caller's. Slots are reused, so an object that was read from one is
  * overwritten by what is stored there next, also after its removal; copy it to keep it.")
 
-zeb_family(NAME Byte WORD byte PHRASE "unsigned bytes" ELEMENT "uint8_t"
-           WRITE "[stream write_unsigned:element]")
+zeb_family(ZEB_T_ ZEB_Byte_ TT_word byte TT_PHRASE "unsigned bytes" ZEB_T_Element "uint8_t"
+           TT_WRITE_ELEMENT "[stream write_unsigned:element]")
 
-zeb_family(NAME Double WORD double PHRASE "double-precision numbers" ELEMENT "double"
-           WRITE "[stream write_double:element]")
+zeb_family(ZEB_T_ ZEB_Double_ TT_word double TT_PHRASE "double-precision numbers" ZEB_T_Element "double"
+           TT_WRITE_ELEMENT "[stream write_double:element]")
 
-zeb_family(NAME Float WORD float PHRASE "single-precision numbers" ELEMENT "float"
-           WRITE "[stream write_float:element]")
+zeb_family(ZEB_T_ ZEB_Float_ TT_word float TT_PHRASE "single-precision numbers" ZEB_T_Element "float"
+           TT_WRITE_ELEMENT "[stream write_float:element]")
 
-zeb_family(NAME Int WORD int PHRASE "signed 32-bit integers" ELEMENT "int32_t"
-           WRITE "[stream write_int:element]")
+zeb_family(ZEB_T_ ZEB_Int_ TT_word int TT_PHRASE "signed 32-bit integers" ZEB_T_Element "int32_t"
+           TT_WRITE_ELEMENT "[stream write_int:element]")
 
-zeb_family(NAME UInt WORD uint PHRASE "unsigned 32-bit integers" ELEMENT "uint32_t"
-           WRITE "[stream write_unsigned:element]")
+zeb_family(ZEB_T_ ZEB_UInt_ TT_word uint TT_PHRASE "unsigned 32-bit integers" ZEB_T_Element "uint32_t"
+           TT_WRITE_ELEMENT "[stream write_unsigned:element]")
 
-zeb_family(NAME Pointer WORD pointer PHRASE "untyped pointers" ELEMENT "void *"
-           WRITE "[stream write_unsigned_long:reinterpret_cast<uint64_t>(element)]")
+zeb_family(ZEB_T_ ZEB_Int64_ TT_word int64 TT_PHRASE "signed 64-bit integers" ZEB_T_Element "int64_t")
 
-zeb_family(NAME Object WORD object PHRASE "object references" ELEMENT "id"
-           KIND "Counted_References<Object_Policy>" KIND_STATE "vector->ownership_mode"
-           COLLECTION_FIELDS "uint32_t ownership_mode;"
-           FIELD_AT_FIRST "ownership_mode = engine::retains" FIELD_OF_FOREIGN "ownership_mode = engine::borrows"
-           TAKE_MODE "made->ownership_mode = other->ownership_mode"
-           STORING "Storing an object retains and releases by the ownership mode (ZEB_Ownership.h). A link onto a
+zeb_family(ZEB_T_ ZEB_Pointer_ TT_word pointer TT_PHRASE "untyped pointers" ZEB_T_Element "void *"
+           TT_WRITE_ELEMENT "[stream write_unsigned_long:reinterpret_cast<uint64_t>(element)]")
+
+zeb_family(ZEB_T_ ZEB_Object_ TT_word object TT_PHRASE "object references" ZEB_T_Element "id"
+           TT_KIND "Counted_References<Object_Policy>" TT_KIND_STATE "vector->ownership_mode"
+           TT_COLLECTION_FIELDS "uint32_t ownership_mode;"
+           TT_STORING "Storing an object retains and releases by the ownership mode (ZEB_Ownership.h). A link onto a
  * raw block has mode 0: what is stored through it into an array that retains is neither retained nor is the
  * object that was there released. A link by range takes the mode of the vector that it views."
-           WRITE "[stream write_object:element]")
+           TT_WRITE_ELEMENT "[stream write_object:element]")
 
-zeb_family(NAME Char WORD char PHRASE "8-bit characters" ELEMENT "char" ARRAY ZEB_String
-           STORING "A character is a signed byte on every processor: in order, as a number, and where it is widened."
-           COLLECTION_FIELDS "int32_t pool_index;" FIELD_AT_FIRST "pool_index = -1"
-           WRITE "[stream write_char:static_cast<signed char>(element)]")
+zeb_family(ZEB_T_ ZEB_Char_ TT_word char TT_PHRASE "8-bit characters" ZEB_T_Element "char"
+           ZEB_T_Array ZEB_String
+           TT_STORING "A character is a signed byte on every processor: in order, as a number, and where it is widened."
+           TT_COLLECTION_FIELDS "int32_t pool_index;"
+           TT_WRITE_ELEMENT "[stream write_char:static_cast<signed char>(element)]")
 
-zeb_family(NAME Wide_Char WORD wide_char PHRASE "32-bit characters" ELEMENT "uint32_t" ARRAY ZEB_Wide_String
-           COLLECTION_FIELDS "int32_t pool_index;" FIELD_AT_FIRST "pool_index = -1"
-           WRITE "[stream write_character_code:element]")
+zeb_family(ZEB_T_ ZEB_Wide_Char_ TT_word wide_char TT_PHRASE "32-bit characters" ZEB_T_Element "uint32_t"
+           ZEB_T_Array ZEB_Wide_String
+           TT_COLLECTION_FIELDS "int32_t pool_index;"
+           TT_WRITE_ELEMENT "[stream write_character_code:element]")
 
-zeb_family(NAME String WORD string PHRASE "8-bit strings" ELEMENT "ZEB_String *"
-           KIND "Held_Objects<String_Policy>" KIND_STATE "vector->held_count"
-           VECTOR_FIELDS "uint32_t held_count;" FORWARD "@class ZEB_Stream, ZEB_String;"
-           STORING "${zeb_storing_of_held}"
-           WRITE "[stream write_string:element]")
+zeb_family(ZEB_T_ ZEB_String_ TT_word string TT_PHRASE "8-bit strings" ZEB_T_Element "ZEB_String *"
+           TT_KIND "Held_Objects<String_Policy>" TT_KIND_STATE "vector->held_count"
+           TT_VECTOR_FIELDS "uint32_t held_count;" TT_FORWARD_CLASSES "@class ZEB_Stream, ZEB_String;"
+           TT_STORING "${zeb_storing_of_held}"
+           TT_WRITE_ELEMENT "[stream write_string:element]")
 
-zeb_family(NAME Wide_String WORD wide_string PHRASE "32-bit strings" ELEMENT "ZEB_Wide_String *"
-           KIND "Held_Objects<Wide_String_Policy>" KIND_STATE "vector->held_count"
-           VECTOR_FIELDS "uint32_t held_count;" FORWARD "@class ZEB_Stream, ZEB_Wide_String;"
-           STORING "${zeb_storing_of_held}"
-           WRITE "engine::print_element(stream, element)")
+zeb_family(ZEB_T_ ZEB_Wide_String_ TT_word wide_string TT_PHRASE "32-bit strings"
+           ZEB_T_Element "ZEB_Wide_String *"
+           TT_KIND "Held_Objects<Wide_String_Policy>" TT_KIND_STATE "vector->held_count"
+           TT_VECTOR_FIELDS "uint32_t held_count;" TT_FORWARD_CLASSES "@class ZEB_Stream, ZEB_Wide_String;"
+           TT_STORING "${zeb_storing_of_held}"
+           TT_WRITE_ELEMENT "engine::print_element(stream, element)")
 
-zeb_family(NAME Byte_Array WORD byte_array PHRASE "byte arrays" ELEMENT "ZEB_Byte_Array *"
-           KIND "Held_Objects<Byte_Array_Policy>" KIND_STATE "vector->held_count"
-           VECTOR_FIELDS "uint32_t held_count;" FORWARD "@class ZEB_Stream, ZEB_Byte_Array;"
-           STORING "${zeb_storing_of_held}"
-           WRITE "[stream write_object:element]")
+zeb_family(ZEB_T_ ZEB_Byte_Array_ TT_word byte_array TT_PHRASE "byte arrays" ZEB_T_Element "ZEB_Byte_Array *"
+           TT_KIND "Held_Objects<Byte_Array_Policy>" TT_KIND_STATE "vector->held_count"
+           TT_VECTOR_FIELDS "uint32_t held_count;" TT_FORWARD_CLASSES "@class ZEB_Stream, ZEB_Byte_Array;"
+           TT_STORING "${zeb_storing_of_held}"
+           TT_WRITE_ELEMENT "[stream write_object:element]")

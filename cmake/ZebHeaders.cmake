@@ -16,20 +16,27 @@ function(zeb_stage_headers)
   endforeach()
 endfunction()
 
-# Writes the umbrella header over all public headers, once every room and family has added its own.
-function(zeb_write_umbrella)
+# Stages the header that `template` becomes with lines that include the public headers whose names match.
+# `directive` is #include or #import, `variable` what the template calls the lines.
+function(zeb_write_header template directive variable pattern)
   get_property(headers GLOBAL PROPERTY ZEB_PUBLIC_HEADERS)
   set(names)
   foreach(header ${headers})
     get_filename_component(name ${header} NAME)
     list(APPEND names ${name})
   endforeach()
-  # What needs C++ is included by those who want it.
-  list(FILTER names EXCLUDE REGEX "\\.hpp$")
+  list(FILTER names INCLUDE REGEX "${pattern}")
   list(SORT names)
-  list(TRANSFORM names REPLACE "(.+)" "#import <Korvane_ZEB/\\1>")
-  list(JOIN names "\n" umbrella_imports)
-  set(umbrella ${PROJECT_BINARY_DIR}/generated/Korvane_ZEB.h)
-  configure_file(${PROJECT_SOURCE_DIR}/umbrella/Korvane_ZEB.h.in ${umbrella} @ONLY)
-  zeb_stage_headers(${umbrella})
+  list(TRANSFORM names REPLACE "(.+)" "${directive} <Korvane_ZEB/\\1>")
+  list(JOIN names "\n" ${variable})
+  get_filename_component(name ${template} NAME_WLE)
+  configure_file(${PROJECT_SOURCE_DIR}/${template} ${PROJECT_BINARY_DIR}/generated/${name} @ONLY)
+  zeb_stage_headers(${PROJECT_BINARY_DIR}/generated/${name})
+endfunction()
+
+# Writes the headers that name all others, once every room and family has added its own. What needs C++ is
+# left out of the umbrella, for those who want it.
+function(zeb_write_collective_headers)
+  zeb_write_header(umbrella/Korvane_ZEB.h.in "#import" umbrella_imports "\\.h$")
+  zeb_write_header(arrays/ZEB_Array_Spans.hpp.in "#include" span_includes "_Span\\.hpp$")
 endfunction()

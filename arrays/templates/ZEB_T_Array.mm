@@ -103,7 +103,7 @@ Elements elements_of(ZEB_T_Vector *vector)
 {
     self = [super init_unlinked];
     if (self != nil) {
-        TT_FIELD_OF_FOREIGN;
+        engine::set_foreign_settings(self);
         capacity = engine::start_as_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n,
                                          engine::grown_capacity(0, n, engine::ZEB_T_growth_seed),
                                          engine::Fix_Report{self, _cmd});
@@ -122,7 +122,7 @@ Elements elements_of(ZEB_T_Vector *vector)
 - (ZEB_T_Array *)duplicate
 {
     ZEB_T_Array *const made = [[[[self class] alloc] init_unlinked] autorelease];
-    engine::take_mode(made, self);
+    engine::take_settings(made, self);
     [made set_contents_of_array:self];
     return made;
 }

@@ -15,7 +15,7 @@
 {
     self = [super init];
     if (self != nil) {
-        TT_FIELD_AT_FIRST;
+        engine::start_settings(self);
     }
     return self;
 }
@@ -24,7 +24,7 @@
 {
     [super copy_settings_from:other];
     if ([other isKindOfClass:[ZEB_T_Collection class]])
-        engine::take_mode(self, other);
+        engine::take_settings(self, other);
 }
 
 - (ZEB_T_Element)ZEB_T_element_at_index:(uint32_t)index

@@ -4,6 +4,7 @@
 #import <Korvane_ZEB/ZEB_T_Array.h>
 
 #import "arrays/ZEB_Element_Policies_Private.h"
+#import "arrays/ZEB_Family_Settings_Private.h"
 #import "core/ZEB_Report_Private.h"
 
 #include "arrays/engine/storage/array_storage.hpp"
@@ -26,14 +27,6 @@ inline Vector_Storage<ZEB_T_Kind> storage_of_vector(ZEB_T_Vector *vector)
 inline Array_Storage<ZEB_T_Kind> storage_of_array(ZEB_T_Array *vector)
 {
     return {storage_of_vector(vector), vector->capacity, ZEB_T_growth_seed};
-}
-
-/// Gives a collection the element-keeping mode of another, in families that have one.
-inline void take_mode(ZEB_T_Collection *made, ZEB_T_Collection *other)
-{
-    (void)made;
-    (void)other;
-    TT_TAKE_MODE;
 }
 
 } // namespace zeb::engine

@@ -20,7 +20,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     if (other == nil)
         return engine::view(storage_of_vector(link), static_cast<ZEB_T_Element const *>(nullptr), 0);
-    engine::take_mode(link, other);
+    engine::take_settings(link, other);
     engine::view_range(storage_of_vector(link), [other TT_word_data], range);
 }
 
@@ -83,7 +83,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
     self = [super init];
     if (self != nil) {
         link_marker = engine::link_marker_of_links;
-        TT_FIELD_OF_FOREIGN;
+        engine::set_foreign_settings(self);
         engine::view(storage_of_vector(self), elements, n);
     }
     return self;
@@ -103,7 +103,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil) {
-        TT_FIELD_OF_FOREIGN;
+        engine::set_foreign_settings(self);
         engine::start_as_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n, n,
                               engine::Fix_Report{self, _cmd});
     }
@@ -114,7 +114,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil && other != nil) {
-        engine::take_mode(self, other);
+        engine::take_settings(self, other);
         engine::start_as_copy(storage_of_vector(self), engine::Source::of_another_array, other->data,
                               other->count, other->count, engine::Fix_Report{self, _cmd});
     }
@@ -134,7 +134,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 - (void)relink_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
 {
-    TT_FIELD_OF_FOREIGN;
+    engine::set_foreign_settings(self);
     engine::view(storage_of_vector(self), elements, n);
 }
 

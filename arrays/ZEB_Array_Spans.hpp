@@ -1,5 +1,5 @@
-/// `zeb::elements(array)`: the elements of any vector or array of the framework as a std::span, so that
-/// loops, ranges and standard algorithms run over them without a message per element. For C++20 users.
+/// `zeb::elements(array)` for every vector and array class: the elements as a std::span, so that loops,
+/// ranges and standard algorithms need no message per element. For users of C++20.
 #pragma once
 
 #include <Korvane_ZEB/ZEB_Byte_Array_Span.hpp>

@@ -1,5 +1,5 @@
 /*
- * What the engine's element kinds know of objects.
+ * How the engine's element kinds create, copy, compare and release objects.
  */
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_String.h>
@@ -10,7 +10,7 @@
 namespace zeb::engine
 {
 
-/// Objects of any class, under reference counting.
+/// Objects of any class, reference counted.
 struct Object_Policy {
     using Element = id;
 
@@ -18,19 +18,19 @@ struct Object_Policy {
     static void release(id object) { [object release]; }
 };
 
-/// A new, empty object, owned by the caller; nil if the platform cannot allocate it.
+/// Return a new, empty object, owned by the caller; nil if the platform cannot allocate it.
 ZEB_String *try_to_make_string() noexcept;
 ZEB_Wide_String *try_to_make_wide_string() noexcept;
 ZEB_Byte_Array *try_to_make_byte_array() noexcept;
 
-/// Gives an object that an array holds the room for the contents of another; false if allocation fails, or
-/// where there is no object.
+/// Grow an object that an array owns to hold the contents of another. Return false if allocation fails or the
+/// object is nil.
 bool make_room_in(ZEB_String *object, ZEB_String *source);
 bool make_room_in(ZEB_Wide_String *object, ZEB_Wide_String *source);
 bool make_room_in(ZEB_Byte_Array *object, ZEB_Byte_Array *source);
 
-/// Strings and byte arrays, which an array of them makes, fills and ends. They are equal, and ordered, by
-/// their elements, read as unsigned.
+/// Strings and byte arrays that an array owns: it creates, fills and releases them. They are equal, and
+/// ordered, by their elements, compared as unsigned numbers.
 struct Contents_Policy {
     static void copy(id object, id source) { [object set_contents_of_array:source]; }
     static bool equal(id left, id right) { return left == right || [left isEqual:right]; }

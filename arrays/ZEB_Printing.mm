@@ -16,7 +16,7 @@ namespace zeb::engine
 namespace
 {
 
-/// Prints what a writer of number text puts into a buffer.
+/// Prints a number with one of the number writers.
 template <class Writer, class Number>
 void print_number(ZEB_Stream *stream, Writer write, Number number)
 {
@@ -34,7 +34,7 @@ void print_element(ZEB_Stream *stream, uint8_t element)
 
 void print_element(ZEB_Stream *stream, char element)
 {
-    // The same numbers on machines where plain characters are unsigned.
+    // Signed on every machine, also where plain char is unsigned.
     print_element(stream, int32_t{static_cast<signed char>(element)});
 }
 
@@ -65,7 +65,7 @@ void print_element(ZEB_Stream *stream, double element)
 
 void print_element(ZEB_Stream *stream, void *element)
 {
-    // Not by the writer of unsigned longs, which one stream sends elsewhere.
+    // Not with the unsigned-long writer, which the error stream sends to standard output.
     char text[ZEB_NUMBER_TEXT_SIZE];
     const int length = snprintf(text, sizeof text, "%" PRIuPTR, reinterpret_cast<uintptr_t>(element));
     [stream write_bytes:text length:static_cast<uint32_t>(length)];

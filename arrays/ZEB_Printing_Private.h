@@ -1,6 +1,6 @@
 /*
- * How elements are printed: numbers in decimal, without needless digits; strings as their text, 32-bit
- * ones as UTF-8; other objects as they write themselves.
+ * Printing elements: numbers in decimal without trailing zeros, strings as text (32-bit ones as UTF-8), other
+ * objects with `write_object:`.
  */
 #import <Korvane_ZEB/ZEB_Stream.h>
 

@@ -14,7 +14,7 @@
 namespace
 {
 
-/// Puts bytes onto a stream as characters of ISO Latin 1, in UTF-8.
+/// Writes ISO Latin 1 text as UTF-8.
 void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
 {
     for (const char character : text) {
@@ -29,8 +29,8 @@ void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
 
 } // namespace
 
-/// Gathers what is written onto it in its scratch string. Strings are written as their text, and not as
-/// lists of characters, wherever they stand.
+/// Collects its output in its scratch string. Strings are written as text, not as lists of characters, also
+/// as elements.
 @interface ZEB_Description_Stream : ZEB_Stream
 
 - (NSString *)text;
@@ -79,7 +79,7 @@ void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
     const uint32_t count = [scratch_string count];
     const uint32_t produced = static_cast<uint32_t>(length);
     [scratch_string ensure_room_for:produced];
-    // Capacity is past the count after growth, so the terminator has its place.
+    // Growth leaves the capacity above the count, so the terminating null fits.
     if ([scratch_string capacity] - count <= produced)
         return;
     vsnprintf([scratch_string char_data] + count, size_t{produced} + 1, format, arguments);

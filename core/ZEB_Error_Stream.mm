@@ -27,8 +27,8 @@ constexpr ZEB_Char_Span no_text = {"", 0};
 
 ZEB_Char_Span name_span(const char *name) { return {name, static_cast<uint32_t>(strlen(name))}; }
 
-/// A name, or nothing where there is none. The runtime's own texts are what the platform's name services
-/// return; they are static, so a diagnostic makes no object, also when it reports that an allocation failed.
+/// Returns a name, empty for null. Reads the runtime's static texts, so a diagnostic creates no object even
+/// when it reports a failed allocation.
 ZEB_Char_Span name_of(SEL selector) { return selector != NULL ? name_span(sel_getName(selector)) : no_text; }
 
 ZEB_Char_Span class_name_of(id object)
@@ -42,8 +42,8 @@ NSAutoreleasePool *new_pool()
         engine::result_or_null([]() -> void * { return [[NSAutoreleasePool alloc] init]; }));
 }
 
-/// Puts the pieces of a diagnostic onto a stream, under a pool of its own. A diagnostic that is raised
-/// meanwhile, by what a subclass does with the text, goes straight to standard error.
+/// Writes the pieces of a diagnostic to a stream, under an autorelease pool of its own. A diagnostic raised
+/// meanwhile, by a subclass that handles the text, is written directly to standard error.
 void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
 {
     static bool is_putting = false;
@@ -175,7 +175,7 @@ void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
     [self write_string_with_format:scratch_string format:format];
 }
 
-// A character is put as it is; only the writer with a format of its own prints through one.
+// Bypasses `char_format`: only the writer with a format argument prints through one.
 - (void)write_char:(int)value
 {
     const char character = static_cast<char>(value);
@@ -184,7 +184,7 @@ void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
 
 - (void)write_unsigned_long_with_format:(uint64_t)value format:(const char *)format
 {
-    // This writer is the base class's alone, and so stays on standard output.
+    // The unsigned-long writers stay on standard output.
     [[ZEB_Stream shared_stream] write_unsigned_long_with_format:value format:format];
 }
 

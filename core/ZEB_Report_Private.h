@@ -1,5 +1,5 @@
 /*
- * The way of a refusal from the engine to the diagnostic channel.
+ * Passes engine notes to the shared error stream.
  */
 #import <Foundation/Foundation.h>
 
@@ -8,8 +8,8 @@
 namespace zeb::engine
 {
 
-/// Takes an engine's note and reports it, for the operation `selector` of `receiver`, through the shared
-/// error stream's `need_to_fix_algorithm`.
+/// Reports an engine note for the operation `selector` of `receiver`, through the shared error stream's
+/// `need_to_fix_algorithm`.
 struct Fix_Report {
     id receiver;
     SEL selector;
@@ -17,7 +17,7 @@ struct Fix_Report {
     void operator()(ZEB_Char_Span note) const;
 };
 
-/// The same through `need_to_implement`, and through `need_to_overload`.
+/// Report a note through `need_to_implement` or `need_to_overload`.
 void report_need_to_implement(id receiver, SEL selector, ZEB_Char_Span note);
 void report_need_to_overload(id receiver, SEL selector, ZEB_Char_Span note);
 

@@ -24,7 +24,7 @@
 
 - (id)ZEB_init
 {
-    // Whatever `init` answers, the receiver is the answer.
+    // Returns the receiver even if `init` returns another object.
     (void)[self init];
     return self;
 }

@@ -7,15 +7,15 @@
 @class ZEB_String;
 
 /**
- * Writes values, objects and lists as text. This class writes to the process's standard output and reads
- * from standard input; subclasses send the same operations elsewhere.
+ * Writes values, objects and lists as text to standard output, and reads numbers and characters from standard
+ * input. Subclasses redirect the same operations.
  *
  * Numbers go through printf formats that the stream holds, one for each type. Formats are not copied: the
- * caller keeps their text alive. A format is the caller's code and is not checked; a null one stands for
- * the type's first format, as listed below. Numbers are written and read as in the "C" locale, whatever
- * locale the application has set.
+ * caller keeps their text alive. A format is trusted like any printf argument and not checked; a null one
+ * selects the type's first format, as listed below. Numbers are written and read as in the "C" locale,
+ * whatever locale the application has set.
  *
- * Results of printf, scanf and fwrite are ignored here. Nothing is locked.
+ * Results of printf, scanf and fwrite are ignored here. There is no locking.
  */
 ZEB_EXPORT
 @interface ZEB_Stream : ZEB_Object {
@@ -36,41 +36,41 @@ ZEB_EXPORT
     ZEB_String *scratch_string;
 }
 
-/** The one standard-output stream of the process, made on the first call and never released. */
+/** Returns the shared standard-output stream of the process, created on the first call and never released. */
 + (ZEB_Stream *)shared_stream;
 
-/** The proprietary notice. */
+/** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** A stream with the first formats and delimiters. */
+/** Initialises a stream with the first formats and delimiters. */
 - (id)init;
 
-/** Sets `failure_count` to 0; subclasses that keep what was written forget that too. */
+/** Sets `failure_count` to 0; subclasses that keep their output also discard it. */
 - (void)reset;
 
-/** As `reset`. */
+/** Same as `reset`. */
 - (void)reset_failure_count;
 
-/** How many writes fell short; this class counts none. */
+/** The number of incomplete writes; this class counts none. */
 - (uint32_t)failure_count;
 - (void)set_failure_count:(uint32_t)value;
 
 /** Writes exactly `length` bytes. */
 - (void)write_bytes:(const char *)char_c_array length:(uint32_t)length;
 
-/** Writes the string's characters; none for nil. */
+/** Writes the string's characters; nothing for nil. */
 - (void)write_string:(ZEB_String *)string;
 
-/** Lets the object write itself, by `send_to_stream:`. */
+/** Sends `send_to_stream:` to the object. */
 - (void)write_object:(id)object;
 
-/** As `write_object:`; the format is ignored. */
+/** Same as `write_object:`; the format is ignored. */
 - (void)write_object_with_format:(id)object format:(const char *)format;
 
-/** As `write_object:`. */
+/** Same as `write_object:`. */
 - (void)write_value:(id)object;
 
-/** Lets the object write itself by `send_text_to_stream:`, or by `send_contents_to_stream:`. */
+/** Send `send_text_to_stream:` or `send_contents_to_stream:` to the object. */
 - (void)write_object_text:(id)object;
 - (void)write_object_contents:(id)object;
 
@@ -88,7 +88,7 @@ ZEB_EXPORT
 
 @end
 
-/** What a stream makes of numbers, and of lists. */
+/** The formats of numbers and the delimiters of lists. */
 @interface ZEB_Stream (Formats)
 
 /** The format of each type: a pointer that the stream does not own. */
@@ -111,8 +111,8 @@ ZEB_EXPORT
 - (const char *)date_format;
 - (void)set_date_format:(const char *)format;
 
-/** What stands around and between the elements of a delimited list. The characters are not copied, and
-    are written by their length; a length of 0 writes nothing. */
+/** The texts around and between the elements of a delimited list. The characters are not copied, and are
+    written by their length; a length of 0 writes nothing. */
 - (ZEB_Char_Span)list_open_delimiter;
 - (void)set_list_open_delimiter:(ZEB_Char_Span)delimiter;
 - (ZEB_Char_Span)list_close_delimiter;
@@ -122,13 +122,13 @@ ZEB_EXPORT
 
 @end
 
-/** Numbers, characters and formatted strings, out and in. */
+/** Numbers, characters and formatted strings, written and read. */
 @interface ZEB_Stream (Values)
 
-/** Prints the string through a format with one `%s`; characters past a null in it are not seen. */
+/** Prints the string through a format with one `%s`; characters after a null are not printed. */
 - (void)write_string_with_format:(ZEB_String *)string format:(const char *)format;
 
-/** Writes a value with the stream's format, or with the given one. */
+/** Write a value with the stream's format, or with the given one. */
 - (void)write_double:(double)value;
 - (void)write_double_with_format:(double)value format:(const char *)format;
 - (void)write_int:(int32_t)value;
@@ -146,8 +146,9 @@ ZEB_EXPORT
 - (void)write_unsigned_long:(uint64_t)value;
 - (void)write_unsigned_long_with_format:(uint64_t)value format:(const char *)format;
 
-/** Reads a value with the stream's format, or with the given one; 0 where none can be read. The format
-    stores one value. One for a double may leave the `l` out. A character is a signed byte. */
+/** Read a value with the stream's format, or with the given one; the result is 0 if none can be read. The
+    format must store exactly one value; for a double its `l` may be left out. A character is read as a signed
+    byte. */
 - (double)read_double;
 - (double)read_double_with_format:(const char *)format;
 - (int32_t)read_int;

@@ -17,7 +17,8 @@ void put_unimplemented(const char *line)
     fputc('\n', stdout);
 }
 
-/// Sends an object one of the hooks by which it writes itself; what does not know the hook writes nothing.
+/// Sends an object one of the messages by which it writes itself; an object that does not respond writes
+/// nothing.
 void send_hook(id object, SEL hook, ZEB_Stream *stream)
 {
     if ([object respondsToSelector:hook])

@@ -1,6 +1,6 @@
 /*
- * How a stream reaches what it writes into: the two primitives below bear every writer, so a subclass
- * that redirects these redirects all.
+ * The input and output primitives of streams. Every writer ends in `put_bytes:length:` or
+ * `put_format:arguments:`, so a subclass that overrides both redirects all output.
  */
 #import <Korvane_ZEB/ZEB_Stream.h>
 
@@ -9,10 +9,10 @@
 
 @interface ZEB_Stream (Sink)
 
-/** Where this stream's bytes and formatted values go: standard output. */
+/** The file that this stream's bytes and formatted values are written to: standard output. */
 - (FILE *)output_file;
 
-/** Where this stream's readers read: standard input. */
+/** The file that this stream's readers read: standard input. */
 - (FILE *)input_file;
 
 /** Writes exactly `length` bytes. */
@@ -21,7 +21,7 @@
 /** Prints the arguments through a printf format. */
 - (void)put_format:(const char *)format arguments:(va_list)arguments;
 
-/** Scans through a scanf format; answers how many fields were stored. */
+/** Scans through a scanf format and returns the number of fields stored. */
 - (int)take_format:(const char *)format arguments:(va_list)arguments;
 
 @end

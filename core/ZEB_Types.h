@@ -25,13 +25,13 @@
 #define ZEB_EXPORT
 #endif
 
-/* A counted run of 8-bit characters that belongs to someone else; it needs no terminating null. */
+/* A counted run of 8-bit characters, not owned; no terminating null is needed. */
 typedef struct ZEB_Char_Span {
     const char *char_c_array;
     uint32_t length;
 } ZEB_Char_Span;
 
-/* A range of zero-based indexes; both ends belong to it. */
+/* An inclusive range of zero-based indexes. */
 typedef struct ZEB_Index_Range {
     uint32_t start;
     uint32_t end;
@@ -44,16 +44,16 @@ typedef struct ZEB_Gregorian_Date {
     int32_t day;   /* of the month, from 1 */
 } ZEB_Gregorian_Date;
 
-/* A time of day, or a time since 1970-01-01 00:00, as the operation that uses it says. */
+/* A time of day, or a time since 1970-01-01 00:00, as documented by the operation that uses it. */
 typedef struct ZEB_Time_Value {
     uint64_t second;
     uint64_t nanosecond;
 } ZEB_Time_Value;
 
-/* What every search answers when it finds nothing. */
+/* The result of every search that finds nothing. */
 #define ZEB_NOT_FOUND UINT32_MAX
 
-/* The answer of a comparison; any other value is an unknown comparison. */
+/* The result of a comparison; any other value is an unknown comparison. */
 typedef uint32_t ZEB_Comparison;
 enum {
     ZEB_COMPARED_EQUAL = 1,
@@ -61,7 +61,7 @@ enum {
     ZEB_COMPARED_GREATER = 3 /* the first orders after the second */
 };
 
-/* The text encoding of a conversion to or from a platform string. */
+/* The text encoding of a conversion to or from an NSString. */
 typedef uint32_t ZEB_Encoding_Type;
 enum {
     ZEB_ENCODING_ASCII = 0,
@@ -71,7 +71,7 @@ enum {
     ZEB_ENCODING_UTF8_PATH = 4
 };
 
-/* What a file-system entry is. */
+/* The type of a file-system entry. */
 typedef uint32_t ZEB_File_Kind;
 enum {
     ZEB_FILE_KIND_OTHER = 0,
@@ -80,7 +80,7 @@ enum {
     ZEB_FILE_KIND_DIRECTORY = 3
 };
 
-/* The units of calendar arithmetic; codes 7 to 10 name no unit. */
+/* The units of calendar arithmetic; codes 7 to 10 are unassigned. */
 typedef int32_t ZEB_Time_Unit;
 enum {
     ZEB_UNIT_NANOSECOND = 1,

@@ -8,12 +8,12 @@ ZEB_EXTERN_C_BEGIN
 /** The size of the header in bytes; records follow it directly. */
 enum { ZEB_BINARY_HEADER_SIZE = 64 };
 
-/** Writes the header into the first 64 bytes of a buffer, in this machine's byte order. A shorter buffer
-    is made 64 bytes long first; one that refuses, being a link, stays as it was. */
+/** Writes the header, in this machine's byte order, into the first 64 bytes of a buffer. A shorter buffer is
+    first set to a length of 64 bytes; one that refuses, being a link, is unchanged. */
 ZEB_EXPORT void ZEB_write_binary_header(ZEB_String *buffer);
 
-/** Sets `needs_swap` to 1 when the buffer begins with the header of a machine of the other byte order, and
-    else to 0: for this machine's header, any other text, and fewer than 64 bytes. */
+/** Sets `needs_swap` to 1 if the buffer begins with the header of a machine of the other byte order, else to
+    0: for this machine's header, any other text, and fewer than 64 bytes. */
 ZEB_EXPORT void ZEB_read_binary_header(ZEB_Char_Vector *buffer, uint8_t *needs_swap);
 
 ZEB_EXTERN_C_END

@@ -1,5 +1,5 @@
 /*
- * Whole buffers in the zlib format.
+ * Compression of whole buffers in the zlib format.
  */
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_String.h>
@@ -7,16 +7,18 @@
 ZEB_EXTERN_C_BEGIN
 
 /**
- * Each function reads the source from `offset` (or from its start), appends what zlib makes of it to the
- * destination, whose contents stay, and answers a status: 0 for success, a negative zlib status, or -1.
- * A source that is empty or nil, or an offset at or past its end, answers 0 and appends nothing. What was
- * appended before a failure stays. The source is not changed; it may be the destination, and is then copied
- * first. A nil destination answers -1. A destination that is a link reports "Cannot append array through
- * link, no append made.", and -1 is the answer; one that cannot grow reports so, and -4 is the answer.
+ * Each function reads the source from `offset` (or from its start) and appends the compressed or decompressed
+ * bytes to the destination. Returns 0 for success, a negative zlib status, or -1. What was appended before a
+ * failure stays.
  *
- * zlib's own failures are also told on standard error, uncounted. A truncated stream answers what zlib
- * says when it is handed the input again; where that does not end, after 65,536 passes, 256 MiB of input
- * handed in again, or 64 MiB of output beyond what the first pass gave, -3.
+ * A source that is empty or nil, or an offset at or past its end, returns 0 and appends nothing. The source
+ * is not changed; if it is also the destination, it is copied first. A nil destination returns -1. A
+ * destination that is a link reports "Cannot append array through link, no append made." and returns -1; one
+ * that cannot grow reports that and returns -4.
+ *
+ * zlib's own failures are also printed to standard error, without being counted. If the input ends before the
+ * stream does, it is passed to zlib again, up to 65,536 passes, 256 MiB of repeated input, or 64 MiB of
+ * output beyond that of the first pass; then the result is -3.
  */
 ZEB_EXPORT int32_t ZC_compress_string_to_string(ZEB_String *source, ZEB_String *destination);
 ZEB_EXPORT int32_t ZC_compress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte_Array *destination);
@@ -27,8 +29,8 @@ ZEB_EXPORT int32_t ZC_decompress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte
 ZEB_EXPORT int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *source, ZEB_String *destination,
                                                  uint32_t offset);
 
-/** Writes "zlib error: " to standard error, and after it a line for a status from -6 to -1; -5 and any
-    other status add nothing, no line break either. */
+/** Writes "zlib error: " to standard error, followed by a line for a status from -6 to -1; -5 and any other
+    status add nothing, not even a line break. */
 ZEB_EXPORT void print_zlib_error(int32_t status);
 
 ZEB_EXTERN_C_END

@@ -1,5 +1,5 @@
 /*
- * Which record each kind of array has.
+ * The binary record of each element kind.
  */
 #import "arrays/ZEB_Byte_Storage_Private.h"
 #import "arrays/ZEB_Char_Storage_Private.h"
@@ -12,7 +12,7 @@
 namespace zeb::engine
 {
 
-/// The storage of an object that an array of objects holds.
+/// Returns the storage of an object that an array made.
 struct Storage_Of_Held {
     auto operator()(ZEB_String *string) const { return storage_of_array(string); }
     auto operator()(ZEB_Wide_String *string) const { return storage_of_array(string); }

@@ -4,14 +4,15 @@
 #import <Korvane_ZEB/ZEB_File_Interceptor.h>
 
 /**
- * A path, and a snapshot of what was found there.
+ * A path, and a snapshot of the status of the entry at that path.
  *
- * Paths are POSIX paths. A null that ends the counted path, as `backstore` leaves it, is not part of its
- * visible text; a path with any other null is refused with the operation's own failure message.
+ * Paths are POSIX paths. A null that ends the counted path, as `backstore` leaves it, is not part of the
+ * visible path; a path with any other null is refused with the operation's own failure message.
  *
- * Successes are told on the shared standard-output stream when `log_actions` is set, failures on the
- * shared error stream when `report_errors` is: one line with a fixed text and the path, whatever
- * `verbose` says, and uncounted. Either way `last_error` keeps the cause. Nothing throws. Nothing is locked.
+ * If `log_actions` is set, successes are reported on the shared standard-output stream; if `report_errors` is
+ * set, failures on the shared error stream. A report is one line of fixed text and the path; it does not
+ * depend on `verbose` and is not counted. In all cases `last_error` stores the cause. Nothing throws. There
+ * is no locking.
  */
 ZEB_EXPORT
 @interface ZEB_File : ZEB_Object <NSCopying> {
@@ -48,42 +49,42 @@ ZEB_EXPORT
     int32_t last_error;
 }
 
-/** The proprietary notice. */
+/** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** Makes an entry without a path, owned by this process's user and group, readable and writable by its
-    owner, with `contents_compressed` and `log_actions` off and every other setting on. */
+/** Initialises an entry without a path, owned by this process's user and group, readable and writable by its
+    owner, with `contents_compressed` and `log_actions` off and all other settings on. */
 - (id)init;
 
-/** A copy of the path, the snapshot, the settings, the interceptor and the last error. */
+/** Returns a copy of the path, the snapshot, the settings, the interceptor and the last error. */
 - (id)copyWithZone:(NSZone *)zone;
 
-/** The entry's path, which stays the entry's. */
+/** Returns the path, which the entry owns. */
 - (ZEB_String *)path;
 
-/** Replaces the path and ends it with a null that is not counted. The snapshot stays. Where there is no
-    memory for it the path becomes empty, which every operation refuses, and `last_error` is ENOMEM. */
+/** Replaces the path and appends a null that is not counted. The snapshot does not change. If allocation
+    fails the path becomes empty, which every operation refuses, and `last_error` is ENOMEM. */
 - (void)set_path:(ZEB_String *)string;
 
-/** Asks the platform what the path leads to, symbolic links followed, and takes the answer into the
-    fields. Where nothing is there, `exists` and `size` become 0 and the rest stays. The same happens where
-    the platform cannot tell (no right to look, a failing device), but then `last_error` has the reason: look
-    at it before writing there. With `load_details` the effective access is worked out too; it keeps what it
-    was where this process is neither the owner nor in the group, and others have no right either. Answers 1,
-    or what an interceptor answers. */
+/** Reads the status of the entry at the path, following symbolic links, into the snapshot. If nothing exists
+    there, `exists` and `size` become 0 and the rest does not change. The same happens if the status cannot be
+    read (no permission, a failing device), but then `last_error` has the cause: check it before writing
+    there. With `load_details` the effective access is computed as well; it does not change if this process is
+    neither the owner nor in the group and others have no access either. Returns 1, or the interceptor's
+    result. */
 - (uint32_t)refresh_status;
 
 @end
 
-/** The snapshot that the last `refresh_status` took, and what created entries are given. */
+/** The snapshot taken by the last `refresh_status`, and the attributes of created entries. */
 @interface ZEB_File (Status)
 
-/** 1 when something was there. */
+/** Returns 1 if an entry existed. */
 - (uint8_t)exists;
 
 - (ZEB_File_Kind)kind;
 
-/** In bytes. */
+/** Returns the size in bytes. */
 - (uint64_t)size;
 
 /** Times since 1970-01-01 00:00. */
@@ -91,7 +92,7 @@ ZEB_EXPORT
 - (ZEB_Time_Value)modification_time;
 - (ZEB_Time_Value)status_change_time;
 
-/** The owner and the group; setting them changes nothing on disk. */
+/** The owner and the group. Setting them changes nothing on disk. */
 - (uint32_t)uid;
 - (void)set_uid:(uint32_t)value;
 - (uint32_t)gid;
@@ -102,7 +103,7 @@ ZEB_EXPORT
 - (uint8_t)can_write;
 - (uint8_t)can_execute;
 
-/** The permission bits; setting them changes nothing on disk. */
+/** The permission bits. Setting them changes nothing on disk. */
 - (uint8_t)owner_read;
 - (void)set_owner_read:(uint8_t)value;
 - (uint8_t)owner_write;
@@ -124,25 +125,25 @@ ZEB_EXPORT
 
 @end
 
-/** How its last operation went. */
+/** The result of the last operation. */
 @interface ZEB_File (Errors)
 
-/** Why the last operation on the platform failed, or lost bytes: the platform's code, as in <errno.h>; 0
-    after a success. Beside the platform's own causes: EINVAL for a path with a null inside, ENOMEM where an
-    array could not grow, ENODATA for a file without contents or shorter than the snapshot's size, EILSEQ for
-    contents that cannot be decompressed, EIO for bytes that were not written, ECANCELED where the interceptor
-    refused. */
+/** The platform's error code, as in <errno.h>, of the last operation that failed or lost bytes; 0 after a
+    success. In addition to the platform's own causes: EINVAL for a path with a null inside, ENOMEM for an
+    array that could not grow, ENODATA for a file without contents or shorter than the snapshot's size, EILSEQ
+    for contents that cannot be decompressed, EIO for bytes that were not written, ECANCELED for a refusal by
+    the interceptor. */
 - (int32_t)last_error;
 
-/** For an interceptor that acts in the entry's place; each action begins with 0. */
+/** Sets the error, for an interceptor that acts in place of the entry. Each action starts with 0. */
 - (void)set_last_error:(int32_t)error;
 
 @end
 
-/** What the entry does and tells. */
+/** Settings of operations and reports. */
 @interface ZEB_File (Settings)
 
-/** Three settings that are kept and copied for applications; no operation here consults them. */
+/** Three settings that are stored and copied for applications; no operation here uses them. */
 - (uint8_t)first_general_setting;
 - (void)set_first_general_setting:(uint8_t)value;
 - (uint8_t)second_general_setting;
@@ -158,15 +159,15 @@ ZEB_EXPORT
 - (uint8_t)contents_compressed;
 - (void)set_contents_compressed:(uint8_t)value;
 
-/** Whether successes are told on the standard-output stream. */
+/** Whether successes are reported on the standard-output stream. */
 - (uint8_t)log_actions;
 - (void)set_log_actions:(uint8_t)value;
 
-/** Whether failures are told on the error stream. */
+/** Whether failures are reported on the error stream. */
 - (uint8_t)report_errors;
 - (void)set_report_errors:(uint8_t)value;
 
-/** Who is asked before each action; not retained, nil at first. */
+/** The object that decides on each action; not retained, nil at first. */
 - (id<ZEB_File_Interceptor>)interceptor;
 - (void)set_interceptor:(id<ZEB_File_Interceptor>)object;
 

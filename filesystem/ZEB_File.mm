@@ -84,7 +84,7 @@ void set_rights(engine::Access_Rights rights, uint8_t &read, uint8_t &write, uin
     made->log_actions = log_actions;
     made->report_errors = report_errors;
     made->interceptor = interceptor;
-    // A path that could not be taken is the copy's own error.
+    // A path that could not be copied is the copy's own error.
     if (made->last_error == 0)
         made->last_error = last_error;
     return made;
@@ -98,7 +98,7 @@ void set_rights(engine::Access_Rights rights, uint8_t &read, uint8_t &write, uin
 - (void)set_path:(ZEB_String *)string
 {
     [path set_contents_of_array:string];
-    // A path that did not change would lead elsewhere than its caller believes.
+    // An unchanged path would refer to another file than the caller asked for.
     const BOOL is_taken = [path count] == [string count];
     last_error = is_taken ? 0 : ENOMEM;
     if (!is_taken)

@@ -19,19 +19,19 @@ namespace messages = engine::messages;
 namespace
 {
 
-/// What a path has behind it when its file is set aside, and its size with the null.
+/// The suffix of a backup's path, and its size with the null.
 constexpr char suffix[] = "~";
 constexpr uint32_t suffix_size = sizeof suffix;
 
-/// Tells the failure, and is false.
+/// Reports the failure and returns false.
 bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
 {
     engine::tell_failure(file, message, error);
     return false;
 }
 
-/// Reads the file into `target`, whose length becomes `size`; what did not come reads as zero. False, after
-/// the failure was told, where nothing can be read.
+/// Reads the file into `target`, whose length becomes `size`; missing bytes are zero. Reports and returns
+/// false if nothing can be read.
 bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
 {
     const engine::Platform_Path path([file path]);
@@ -43,7 +43,7 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
     const uint32_t length = size < UINT32_MAX ? static_cast<uint32_t>(size) : UINT32_MAX;
     [target set_length:length];
     if ([target count] != length) {
-        // The array has said so.
+        // The array has reported it.
         [file set_last_error:ENOMEM];
         return false;
     }
@@ -58,7 +58,8 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
     return true;
 }
 
-/// Reads the compressed file and leaves what it holds in `destination`; false after a failure was told.
+/// Reads the compressed file and replaces `destination` with its decompressed contents. Returns false after
+/// reporting a failure.
 bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
 {
     ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
@@ -75,7 +76,7 @@ bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
     return was_read && status == 0;
 }
 
-/// Makes the bytes the contents of the open file; false after the failure was told.
+/// Makes the bytes the contents of the open file. Returns false after reporting a failure.
 bool write_out(ZEB_File *file, engine::Open_File &output, const void *bytes, uint32_t length)
 {
     size_t count = 0;
@@ -90,7 +91,7 @@ bool write_out(ZEB_File *file, engine::Open_File &output, const void *bytes, uin
 
 bool write_compressed(ZEB_File *file, engine::Open_File &output, const void *bytes, uint32_t length)
 {
-    // The link only reads; its maker takes what could also be written.
+    // The link only reads, but its initialiser takes a mutable pointer.
     ZEB_Byte_Array *const source =
         [[ZEB_Byte_Array alloc] init_as_link_to_bytes:static_cast<uint8_t *>(const_cast<void *>(bytes))
                                                 count:length];
@@ -99,7 +100,7 @@ bool write_compressed(ZEB_File *file, engine::Open_File &output, const void *byt
     if (status != 0)
         engine::tell_failure(file, messages::error_compressing,
                              status == engine::zlib_out_of_memory ? ENOMEM : EIO);
-    // An entry that reports no errors stores what there is, and keeps the error alone.
+    // If errors are not reported, the bytes compressed so far are written and only the error is stored.
     const bool is_written =
         (status == 0 || ![file report_errors]) && write_out(file, output, [stored byte_data], [stored count]);
     [source release];
@@ -107,7 +108,7 @@ bool write_compressed(ZEB_File *file, engine::Open_File &output, const void *byt
     return is_written;
 }
 
-/// Renames an entry, over what stands at the other path. Answers 0, or what the platform says.
+/// Renames an entry, replacing one at the other path. Returns 0 or the platform's error.
 int renaming_error(const engine::Platform_Path &from, const engine::Platform_Path &to)
 {
     const int error = rename(from.c_string(), to.c_string()) == 0 ? 0 : errno;
@@ -165,14 +166,14 @@ int renaming_error(const engine::Platform_Path &from, const engine::Platform_Pat
         [=] { return [file put_contents:bytes length:length]; });
 }
 
-/// Whether the path can be extended without another block, after one was made where needed.
+/// Whether the suffix fits into the path's block, grown if necessary.
 - (BOOL)has_room_for_suffix
 {
     [path ensure_room_for:suffix_size];
     return engine::storage_of_array(path).capacity > [path count] + suffix_size;
 }
 
-/// The visible path gains "~", and a null behind it is counted from now on.
+/// Appends "~" and a counted null to the visible path.
 - (void)extend_path_by_suffix
 {
     [path set_count:engine::visible_path(path).length];
@@ -183,7 +184,7 @@ int renaming_error(const engine::Platform_Path &from, const engine::Platform_Pat
 {
     const engine::Platform_Path from(path);
     const engine::Platform_Path to(path, suffix);
-    // A path that could not follow the file would lead nowhere.
+    // Without room for the suffix the path would not refer to the renamed file.
     const int error = [self has_room_for_suffix] ? renaming_error(from, to) : ENOMEM;
     if (error != 0)
         return failed(self, messages::error_backstoring, error);

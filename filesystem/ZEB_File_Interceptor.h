@@ -1,11 +1,11 @@
 /*
- * Who may act in the place of a file entry.
+ * The protocol of objects that act in place of a file entry.
  */
 #import <Korvane_ZEB/ZEB_Object.h>
 
 @class ZEB_Byte_Array, ZEB_File, ZEB_String;
 
-/** The actions of a file entry that an interceptor is asked about. */
+/** The actions on which an interceptor decides. */
 typedef uint32_t ZEB_File_Action;
 enum {
     ZEB_FILE_REFRESH_STATUS = 0,
@@ -20,23 +20,23 @@ enum {
     ZEB_FILE_BACKSTORE
 };
 
-/** What an interceptor decides; any other value lets the entry act, as if there were no interceptor. */
+/** The decisions of an interceptor. With any other value the entry acts as if it had no interceptor. */
 enum {
-    ZEB_INTERCEPT_REFUSE = 0,     /* the action does nothing and answers 0 */
-    ZEB_INTERCEPT_ACT = 2,        /* the interceptor acts, and its answer is the action's */
+    ZEB_INTERCEPT_REFUSE = 0,     /* the action does nothing and returns 0 */
+    ZEB_INTERCEPT_ACT = 2,        /* the interceptor acts, and its result is the action's */
     ZEB_INTERCEPT_ACT_AND_RUN = 3 /* the interceptor acts, then the entry (not on refresh and read) */
 };
 
 /**
- * Asked before each action of an entry that has it as its interceptor. It has one operation for each
- * action, which gets the entry and the action's arguments, and answers what the action would; it may
- * leave the cause of a failure in the entry's `last_error`. Each operation is optional: the entry acts itself
- * where the interceptor does not decide, and where it lacks the operation that it decided to act by.
+ * Asked before each action of an entry whose interceptor it is. It has one operation for each action, which
+ * takes the entry and the action's arguments and returns the action's result; it may set the entry's
+ * `last_error` to the cause of a failure. Each operation is optional: the entry acts itself if the
+ * interceptor does not implement the decision, or the operation that it decided on.
  */
 @protocol ZEB_File_Interceptor
 @optional
 
-/** The decision on an action. */
+/** Returns the decision on an action. */
 - (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file;
 
 - (uint32_t)intercept_refresh_status:(ZEB_File *)file;

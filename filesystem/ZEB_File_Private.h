@@ -1,5 +1,5 @@
 /*
- * What the operations of file entries share.
+ * Shared parts of the operations of file entries.
  */
 #import <Korvane_ZEB/ZEB_File.h>
 
@@ -11,21 +11,21 @@
 namespace zeb::engine
 {
 
-/// The visible text of a path.
+/// Returns the visible text of a path.
 ZEB_Char_Span visible_path(ZEB_String *path);
 
-/// A path as the platform takes it.
+/// A null-terminated path for platform calls.
 class Platform_Path
 {
 public:
-    /// `suffix` goes behind the visible text.
+    /// Appends `suffix` to the visible text.
     explicit Platform_Path(ZEB_String *path, const char *suffix = "");
 
-    /// Never null; the empty path, which the platform refuses, stands for one with a null inside, and for
-    /// one that there is no memory for.
+    /// Returns the path, never null. It is empty, which the platform refuses, for a path with a null inside
+    /// and if allocation failed.
     const char *c_string() const { return text.c_string(); }
 
-    /// Why the platform refused this path: its own error, or what stands behind an empty path.
+    /// Returns the cause of a platform error: the reason for an empty path, or the error itself.
     int cause_of(int error) const { return error != 0 && fault != 0 ? fault : error; }
 
 private:
@@ -33,16 +33,16 @@ private:
     int fault;
 };
 
-/// Whether the entry acts itself after the interceptor did.
+/// Whether the entry acts after the interceptor did.
 enum class After_Acting { runs, stops };
 
-/// What the entry's interceptor decides on an action, for which it has `operation`. The entry acts where
-/// there is no interceptor, and where it answers either question not at all.
+/// Returns the interceptor's decision on an action, whose message is `operation`. The entry acts if there is
+/// no interceptor, or if the interceptor does not implement the decision or the operation.
 uint32_t decision_on(ZEB_File *file, ZEB_File_Action action, SEL operation);
 
-/// Asks the interceptor, if there is one, about an action. `act` lets it act by `operation`, `run` is the
-/// entry's own way; both answer the action's result, and begin without an error. Where the interceptor alone
-/// acted, `settle` gets its answer.
+/// Runs an action by the interceptor's decision, if there is an interceptor. `act` runs the interceptor's
+/// operation, `run` the entry's own implementation; both return the action's result and start with
+/// `last_error` 0. If only the interceptor acted, `settle` receives its result.
 template <class Act, class Run, class Settle>
 uint32_t intercepted(ZEB_File *file, ZEB_File_Action action, SEL operation, Act act, Run run,
                      After_Acting after, Settle settle)
@@ -69,14 +69,14 @@ uint32_t intercepted(ZEB_File *file, ZEB_File_Action action, SEL operation, Act 
     return intercepted(file, action, operation, act, run, after, [](uint32_t) {});
 }
 
-/// Tells a success, where the entry logs them: a line of `message` and the path.
+/// Reports a success if the entry logs actions: a line of `message` and the path.
 void tell_success(ZEB_File *file, ZEB_Char_Span message);
 
-/// Keeps the cause of a failure and tells it, where the entry reports them: a line of `message` and the path.
+/// Stores the error and, if the entry reports errors, reports a line of `message` and the path.
 void tell_failure(ZEB_File *file, ZEB_Char_Span message, int error);
 
-/// Keeps `error`, and tells, where the entry reports failures, that `actual` bytes went where `expected` were
-/// to.
+/// Stores the error and, if the entry reports errors, reports that `actual` bytes were transferred instead of
+/// `expected`.
 void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
                       uint64_t expected, ZEB_Char_Span occasion, int error);
 

@@ -73,7 +73,7 @@ void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_C
     [file set_last_error:error];
     if (![file report_errors])
         return;
-    // The error stream leaves its unsigned-long writer to standard output: numbers go as text.
+    // As text, because the error stream's unsigned-long writer writes to standard output.
     char numbers[2][24];
     ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
     const int actual_length = snprintf(numbers[0], sizeof numbers[0], "%llu", (unsigned long long)actual);

@@ -1,5 +1,5 @@
 /*
- * The file system's part of the framework's lazy start-up.
+ * Lazy start-up of the file system.
  */
 #include <stdint.h>
 
@@ -8,14 +8,14 @@
 namespace zeb::engine
 {
 
-/// Reads the process's real user and group ids, and makes the table of key texts, on first need. Later
-/// changes of the process's ids are not followed.
+/// Reads the process's real user and group ids and creates the table of keys, on the first call. Later
+/// changes of the ids have no effect.
 void start_up_filesystem();
 
 uint32_t process_user();
 uint32_t process_group();
 
-/// One string: the key under which an application may keep an entry's state.
+/// Returns an array of one string: the key under which an application may store an entry's state.
 ZEB_String_Array *filesystem_keys();
 
 } // namespace zeb::engine

@@ -1,5 +1,5 @@
 /*
- * The user defaults' part of the framework's lazy start-up.
+ * Lazy start-up of the user defaults.
  */
 #import <Foundation/Foundation.h>
 
@@ -7,18 +7,18 @@
 
 ZEB_EXTERN_C_BEGIN
 
-/** Make the texts below on first need; every later call does nothing. */
+/** Create the domain name and the key text on the first call; later calls do nothing. */
 ZEB_EXPORT void ZC_start_up_defaults_domain(void);
 ZEB_EXPORT void ZC_start_up_debug_logging(void);
 
-/** "Korvane": the domain of the user defaults that is the framework's own. Nil before its start-up. */
+/** Returns "Korvane", the framework's own domain of the user defaults. Nil before its start-up. */
 ZEB_EXPORT NSString *ZC_defaults_domain(void);
 
 ZEB_EXTERN_C_END
 
 @interface NSUserDefaults (ZEB_Debug_Logging)
 
-/** 1 when "does_debug_logging" is on in these defaults, else 0, as when the key is absent. */
+/** Returns 1 if "does_debug_logging" is on in these defaults, else 0, also for a missing key. */
 - (uint8_t)debug_logging_enabled;
 
 @end

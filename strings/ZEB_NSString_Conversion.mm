@@ -38,7 +38,7 @@ namespace
 
 uint32_t length_of(NSData *bytes) { return static_cast<uint32_t>([bytes length]); }
 
-/// The low halves of the units, for a platform string that frees them; null where memory is short.
+/// Returns the low halves of the units, for an NSString that frees them; null if allocation fails.
 unichar *new_low_halves(std::span<const uint32_t> units)
 {
     unichar *const halves = static_cast<unichar *>(malloc(units.size() * sizeof(unichar)));
@@ -47,7 +47,7 @@ unichar *new_low_halves(std::span<const uint32_t> units)
     return halves;
 }
 
-/// Autoreleased; nil for units without memory for their copy. The units are not empty.
+/// Returns an autoreleased NSString of the units, which must not be empty; nil if allocation fails.
 template <class Made>
 Made *platform_string_of(std::span<const uint32_t> units)
 {
@@ -57,7 +57,7 @@ Made *platform_string_of(std::span<const uint32_t> units)
     return [[[Made alloc] initWithCharactersNoCopy:halves length:units.size() freeWhenDone:YES] autorelease];
 }
 
-/// A text too long for a string counts as one for which memory is short.
+/// A text too long for a string is reported as a failed allocation.
 void set_units(ZEB_Wide_String *string, NSString *given, engine::Fix_Report report)
 {
     NSString *const text = engine::string_or_nil(given);

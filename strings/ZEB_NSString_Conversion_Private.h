@@ -1,5 +1,5 @@
 /*
- * Steps that the conversions to and from the platform's strings share.
+ * Helpers shared by the conversions to and from NSString.
  */
 #import <Korvane_ZEB/ZEB_Types.h>
 
@@ -8,10 +8,10 @@
 namespace zeb::engine
 {
 
-/// No encoding of the platform has this value.
+/// Not the value of any NSString encoding.
 constexpr NSStringEncoding no_encoding = static_cast<NSStringEncoding>(0);
 
-/// The platform's encoding of a type; none for a type that is not defined.
+/// Returns the NSString encoding of a type; no_encoding for an undefined type.
 NSStringEncoding platform_encoding(ZEB_Encoding_Type type);
 
 /// Whether text of the type is UTF-8.
@@ -20,8 +20,8 @@ inline bool is_utf8(ZEB_Encoding_Type type)
     return type == ZEB_ENCODING_UTF8 || type == ZEB_ENCODING_UTF8_PATH;
 }
 
-/// A new platform string of `Made`, NSString or NSMutableString, over a copy of bytes; owned by the caller.
-/// Nil where they cannot be decoded.
+/// Returns a new NSString or NSMutableString (`Made`) with a copy of the bytes, owned by the caller; nil if
+/// they cannot be decoded.
 template <class Made>
 Made *new_platform_string(const char *bytes, uint32_t length, ZEB_Encoding_Type type)
 {
@@ -31,10 +31,10 @@ Made *new_platform_string(const char *bytes, uint32_t length, ZEB_Encoding_Type 
     return [[Made alloc] initWithBytes:(length != 0 ? bytes : "") length:length encoding:encoding];
 }
 
-/// The platform string itself; nil for an object of another class.
+/// Returns the NSString itself; nil for an object of another class.
 NSString *string_or_nil(id text);
 
-/// The bytes of a platform string; nil where there are none, or more than a string can hold.
+/// Returns the encoded bytes of an NSString; nil if there are none, or more than a string can hold.
 NSData *platform_bytes(NSString *text, ZEB_Encoding_Type type);
 
 } // namespace zeb::engine

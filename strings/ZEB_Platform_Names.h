@@ -1,19 +1,20 @@
 /*
- * Names of classes and selectors, as strings of the framework and back.
+ * Names of classes and selectors as framework strings.
  */
 #import <Korvane_ZEB/ZEB_String.h>
 
 ZEB_EXTERN_C_BEGIN
 
-/** Sets `target` to the name; without a name the target becomes empty. A link becomes an owner. */
+/** Set `target` to the name of a class or selector, or to an empty text for a null one. A link becomes an
+    owner. */
 ZEB_EXPORT void ZC_assign_class_name(ZEB_String *target, Class named);
 ZEB_EXPORT void ZC_assign_selector_name(ZEB_String *target, SEL selector);
 
-/** A new autoreleased string with the name; nil without a name. */
+/** Return a new autoreleased string with the name; nil for a null class or selector. */
 ZEB_EXPORT ZEB_String *ZC_string_from_class_name(Class named);
 ZEB_EXPORT ZEB_String *ZC_string_from_selector_name(SEL selector);
 
-/** The class, or the selector, of an ASCII name; nil or null where there is none. */
+/** Return the class or selector with an ASCII name; nil or null if there is none. */
 ZEB_EXPORT Class ZC_class_from_string(ZEB_Char_Vector *name);
 ZEB_EXPORT SEL ZC_selector_from_string(ZEB_Char_Vector *name);
 

@@ -24,7 +24,7 @@ ZEB_String *string_of(NSString *name)
     return string;
 }
 
-/// A platform string over the vector's own characters, which live longer; nil for nothing to name by.
+/// Returns an NSString over the vector's own characters, which must outlive it; nil for an empty name.
 NSString *borrowed_name(ZEB_Char_Vector *name)
 {
     if ([name count] == 0)

@@ -4,20 +4,21 @@
 #import <Korvane_ZEB/ZEB_String.h>
 
 /**
- * Each operation sets a string to a path in UTF-8 and puts a null behind it, which the count does not
- * include. A link becomes an owner; where there is no path, it refuses the null as it always does.
+ * Each operation sets a string to a path in UTF-8, followed by a null that the count does not include. A link
+ * becomes an owner. Without a path, a link reports the refusal of `append_null_terminator`.
  */
 @interface ZEB_String (Standard_Directories)
 
-/** The home directory of the user who runs the process. */
+/** Sets the string to the home directory of the user who runs the process. */
 + (void)set_to_home_directory:(ZEB_String *)string;
 
-/** That user's library and documents directories. Where the platform has none, the string keeps its
-    text. */
+/** Set the string to that user's library or documents directory. If the platform has none, the string keeps
+    its text. */
 + (void)set_to_library_directory:(ZEB_String *)string;
 + (void)set_to_documents_directory:(ZEB_String *)string;
 
-/** The home directory of a user by name, in UTF-8; empty for a user that is not known. */
+/** Sets the string to the home directory of the named user (in UTF-8); to an empty text for an unknown
+    user. */
 + (void)set_to_home_directory_of_user:(ZEB_String *)string user_name:(ZEB_String *)user_name;
 
 @end

@@ -13,8 +13,8 @@
 namespace
 {
 
-/// Encodes well-formed text without the platform; answers false, and has done nothing that counts, for
-/// any other.
+/// Encodes well-formed text without NSString. Returns false for ill-formed text or a leading byte-order mark;
+/// the target's contents are then unspecified and the caller must convert through NSString.
 bool encode_directly(ZEB_String *target, ZEB_Wide_Char_Vector *wide)
 {
     return engine::set_to_utf8_of_utf16(

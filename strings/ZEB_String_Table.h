@@ -1,12 +1,12 @@
 /*
- * Arrays of strings made from fixed tables of text.
+ * String arrays made from tables of fixed text.
  */
 #import <Korvane_ZEB/ZEB_String_Array.h>
 
 ZEB_EXTERN_C_BEGIN
 
-/** A new array of `n` strings, owned by the caller; string i has the text of span i. With `n` 0 no span is
-    read. */
+/** Returns a new array of `n` strings, owned by the caller; string i has the text of span i. No span is read
+    if `n` is 0. */
 ZEB_EXPORT ZEB_String_Array *ZC_string_array_from_spans(const ZEB_Char_Span *spans, uint32_t n);
 
 ZEB_EXTERN_C_END

@@ -1,5 +1,5 @@
 /*
- * How the engine sees the text of a string object.
+ * The engine's access to the text of strings.
  */
 #import "arrays/ZEB_Char_Storage_Private.h"
 #import "arrays/ZEB_Wide_Char_Storage_Private.h"
@@ -9,7 +9,7 @@
 namespace zeb::engine
 {
 
-/// The characters of a vector; none of nil.
+/// Returns the characters of a vector; none for nil.
 inline std::span<const char> text_of(ZEB_Char_Vector *vector)
 {
     return vector != nil ? std::span<const char>(vector->data, vector->count) : std::span<const char>();
@@ -21,7 +21,7 @@ inline std::span<const uint32_t> text_of(ZEB_Wide_Char_Vector *vector)
                          : std::span<const uint32_t>();
 }
 
-/// The platform's code of an order.
+/// Returns the NSComparisonResult of a comparison.
 inline NSComparisonResult platform_order(ZEB_Comparison order)
 {
     if (order == ZEB_COMPARED_EQUAL)
@@ -29,7 +29,7 @@ inline NSComparisonResult platform_order(ZEB_Comparison order)
     return order == ZEB_COMPARED_LESS ? NSOrderedAscending : NSOrderedDescending;
 }
 
-/// The vector, or nil for an object of a class that is none.
+/// Returns the object as a vector; nil if it is of another class.
 template <class Vector>
 Vector *vector_or_nil(id object)
 {

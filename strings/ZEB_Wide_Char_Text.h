@@ -1,49 +1,48 @@
 /*
- * Text operations of 32-bit strings that do not make the text longer.
+ * Searches, comparisons and code points of 32-bit strings.
  */
 #import <Korvane_ZEB/ZEB_Wide_Char_Vector.h>
 
 @class ZEB_String;
 
 /**
- * Searches and comparisons. Indexes are zero-based, and 4294967295 when nothing is found. Comparisons
- * answer 1 when both are equal, 2 when the receiver orders first, 3 when it orders after; units compare as
- * unsigned numbers. A nil argument counts as an empty text, and is equal to nothing.
+ * Searches and comparisons. Indexes are zero-based; 4294967295 means not found. Comparisons return 1 if both
+ * are equal, 2 if the receiver orders first, 3 if it orders after; units are compared as unsigned numbers. A
+ * nil argument compares as an empty text; the equality test returns 0 for it.
  */
 @interface ZEB_Wide_Char_Vector (Text)
 
-/** Where a unit stands first. */
+/** Returns the index of the first occurrence of a unit. */
 - (uint32_t)index_of_char:(uint32_t)unit;
 
-/** Where a run of units occurs first. An occurrence that ends with the last unit is not found, so a text
-    is never found in itself; neither is an empty run. */
+/** Returns the index at which a run of units first occurs. An occurrence that ends with the last unit is not
+    found, so a text is never found in itself; neither is an empty run. */
 - (uint32_t)index_of_substring:(const uint32_t *)units length:(uint32_t)length;
 
-/** 1 when both hold the same units, else 0. */
+/** Returns 1 if both hold the same units, else 0. */
 - (uint8_t)is_equal:(ZEB_Wide_Char_Vector *)other;
 
-/** 1 when the receiver orders first, else 0. */
+/** Returns 1 if the receiver orders first, else 0. */
 - (uint8_t)is_less:(ZEB_Wide_Char_Vector *)other;
 
-/** The order of both. Foundation's sorts send this selector for -1, 0 and 1: use
-    `platform_compare:` there. */
+/** Compares units as unsigned numbers. Foundation's sort methods expect -1, 0 and 1 from this selector: give
+    them `platform_compare:`. */
 - (ZEB_Comparison)compare:(ZEB_Wide_Char_Vector *)other;
 
-/** The same order as the platform has it, for sort descriptors and `sortedArrayUsingSelector:`. An object
-    of another class counts as an empty text. */
+/** The same order as an NSComparisonResult, for sort descriptors and `sortedArrayUsingSelector:`. An object
+    of another class compares as an empty text. */
 - (NSComparisonResult)platform_compare:(ZEB_Wide_Char_Vector *)other;
 
 @end
 
-/** Whole code points, one in each element, beside the UTF-16 units that come from the platform. */
+/** Whole code points, one per element, as an alternative to UTF-16 units. */
 @interface ZEB_Wide_Char_Vector (Code_Points)
 
-/** Makes `target` the UTF-8 of the receiver's code points, and answers 1; a link becomes an owner. Where
-    an element is a surrogate, or past 0x10FFFF, answers 0 and leaves the target. */
+/** Sets `target` to the UTF-8 of the receiver's code points and returns 1; a link becomes an owner. Returns
+    0, with the target unchanged, if an element is a surrogate or above 0x10FFFF, or the target is nil. */
 - (uint8_t)write_code_points_as_utf8:(ZEB_String *)target;
 
-/** Joins each surrogate pair to one code point, in place, through a link too. A surrogate without its
-    partner stays. */
+/** Joins each surrogate pair to one code point in place, also through a link. Unpaired surrogates stay. */
 - (void)join_surrogate_pairs;
 
 @end

@@ -1,5 +1,5 @@
 /*
- * 8-bit text into a 32-bit string.
+ * Converts 8-bit text to 32-bit strings.
  */
 #import <Korvane_ZEB/ZEB_Object.h>
 
@@ -7,11 +7,11 @@
 @class ZEB_Wide_String;
 
 /**
- * Fills one target string with the UTF-16 units of decoded text, one in each element. The target is a
- * plain reference: the caller keeps it alive. Without a target nothing is done.
+ * Sets one target string to the UTF-16 units of decoded text, one per element. The target is not retained:
+ * the caller keeps it alive. Without a target nothing happens.
  *
- * Text that cannot be decoded leaves the target empty. A target that is a link reports "Cannot update
- * length through link, no adjustment made.", save for text of length 0, with which its count becomes 0.
+ * Text that cannot be decoded leaves the target empty. A target that is a link reports "Cannot update length
+ * through link, no adjustment made.", except that text of length 0 sets its count to 0.
  */
 ZEB_EXPORT
 @interface ZEB_Wide_String_Converter : ZEB_Object {
@@ -19,21 +19,21 @@ ZEB_EXPORT
     ZEB_Wide_String *target;
 }
 
-/** The proprietary notice. */
+/** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** The string to fill: nil at first, neither retained nor released. */
+/** The target string: nil at first, neither retained nor released. */
 - (ZEB_Wide_String *)target;
 - (void)set_target:(ZEB_Wide_String *)string;
 
-/** Fills the target with text in UTF-8, under two names. */
+/** Set the target to UTF-8 text, under two names. */
 - (void)set_from_string:(ZEB_Char_Vector *)chars;
 - (void)copy_string:(ZEB_Char_Vector *)chars;
 
-/** Fills the target with text in the encoding of a type. */
+/** Sets the target to text in the encoding of a type. */
 - (void)set_from_string_with_encoding_type:(ZEB_Char_Vector *)chars type:(ZEB_Encoding_Type)type;
 
-/** The same with `length` bytes. */
+/** The same for `length` bytes. */
 - (void)set_from_bytes:(const char *)bytes length:(uint32_t)length type:(ZEB_Encoding_Type)type;
 
 @end

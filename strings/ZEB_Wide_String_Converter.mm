@@ -12,8 +12,8 @@
 namespace
 {
 
-/// Decodes well-formed text without the platform; answers false, and has done nothing that counts, for
-/// any other.
+/// Decodes well-formed text without NSString. Returns false for ill-formed text or a leading byte-order mark;
+/// the target's contents are then unspecified and the caller must convert through NSString.
 bool decode_directly(ZEB_Wide_String *target, std::span<const char> utf8)
 {
     return engine::set_to_utf16_of_utf8(

@@ -1,5 +1,5 @@
 /*
- * What text needs on top of an array of 32-bit characters.
+ * 32-bit strings set from and extended by C text and UTF-8.
  */
 #import <Korvane_ZEB/ZEB_Wide_String.h>
 
@@ -7,29 +7,30 @@
 
 @interface ZEB_Wide_String (Text)
 
-/** Becomes exactly `length` 8-bit characters, each a unit of its own: bytes from 0x80 on are sign-extended
-    to 0xFFFFFF80 and more. Nothing is decoded. A link reports "Cannot copy c string through link, no copy
+/** Replaces the contents with `length` 8-bit characters, one unit each. Nothing is decoded: bytes from 0x80
+    on are sign-extended, to 0xFFFFFF80 and above. A link reports "Cannot copy c string through link, no copy
     made." */
 - (void)copy_c_string:(const char *)bytes length:(uint32_t)length;
 
-/** Puts `length` 8-bit characters at the end, in the same way. A link reports "Cannot append c string
-    through link, no append made.", also for length 0. */
+/** Appends `length` 8-bit characters in the same way. A link reports "Cannot append c string through link, no
+    append made.", also for length 0. */
 - (void)append_c_string:(const char *)bytes length:(uint32_t)length;
 
-/** The same two under their other names. */
+/** The same two operations under other names. */
 - (void)copy_chars:(const char *)bytes length:(uint32_t)length;
 - (void)append_chars:(const char *)bytes length:(uint32_t)length;
 
 @end
 
-/** Whole code points, one in each element, beside the UTF-16 units that come from the platform. */
+/** Whole code points, one per element, as an alternative to UTF-16 units. */
 @interface ZEB_Wide_String (Code_Points)
 
-/** Becomes the code points of UTF-8 text, and answers 1. Answers 0, and changes nothing, for ill-formed
-    text and on a link, which reports "Cannot update length through link, no adjustment made." */
+/** Replaces the contents with the code points of UTF-8 text and returns 1. Returns 0, with nothing changed,
+    for ill-formed text and on a link, which reports "Cannot update length through link, no adjustment
+    made." */
 - (uint8_t)set_code_points_from_utf8:(ZEB_Char_Vector *)text;
 
-/** Splits each code point past 0xFFFF to a surrogate pair, growing as needed. A link reports "Cannot
+/** Splits each code point above 0xFFFF into a surrogate pair, growing as needed. A link reports "Cannot
     update capacity through link, no adjustment made." */
 - (void)split_to_surrogate_pairs;
 

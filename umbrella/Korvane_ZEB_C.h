@@ -1,5 +1,5 @@
 /*
- * What of the framework is plain C: the value types, the calendar and number functions, the version.
+ * The plain C headers of the framework: value types, calendar and number functions, and the version.
  */
 #ifndef KORVANE_ZEB_C_H
 #define KORVANE_ZEB_C_H

@@ -1,5 +1,5 @@
 /*
- * The unit catalog's part of the framework's lazy start-up.
+ * Lazy start-up of the unit catalog.
  */
 #ifndef ZEB_UNIT_START_UP_H
 #define ZEB_UNIT_START_UP_H
@@ -8,13 +8,15 @@
 
 ZEB_EXTERN_C_BEGIN
 
-/** How many flags the catalog has: one for the list of dimension names, one for each group of units. */
+/** The number of flags in the catalog: one for the list of dimension names and one for each group of
+    units. */
 enum { ZEB_UNIT_FLAG_COUNT = 13 };
 
-/** Sets every flag to 1 on first need; a later call does nothing. */
+/** Sets every flag to 1 on the first call; later calls do nothing. */
 ZEB_EXPORT void ZC_start_up_unit_catalog(void);
 
-/** The flags, one byte each, the dimension names' first: 0 leaves a list of later catalogs empty. */
+/** Returns the flags, one byte each, that of the dimension names first. A flag of 0 leaves its list empty in
+    catalogs created later. */
 ZEB_EXPORT uint8_t *ZC_unit_catalog_flags(void);
 
 ZEB_EXTERN_C_END

@@ -1,4 +1,4 @@
-/// The C allocator, behind three names of its own, so that a test can put a failing one in its place.
+/// The C allocator under names of its own, so that tests can substitute one that fails.
 #pragma once
 
 #include <cstddef>
@@ -6,14 +6,14 @@
 namespace zeb::engine
 {
 
-/// `malloc` when `block` is none, else `realloc`. `size` is not 0. Null when there is no memory; the old
-/// block then stays.
+/// Calls `malloc` if `block` is null, else `realloc`. `size` must not be 0. Returns null, with the old block
+/// unchanged, if allocation fails.
 void *reallocate(void *block, std::size_t size) noexcept;
 
 /// `free`.
 void release(void *block) noexcept;
 
-/// Whether the allocator has 64 KiB left. Objects are only made while it has: an object runtime whose own
+/// Whether the allocator has 64 KiB left. Objects are created only then, because an object runtime whose own
 /// allocations fail ends the process.
 inline bool has_reserve() noexcept
 {

@@ -1,3 +1,4 @@
+/// The order and equality of element types.
 #pragma once
 
 #include <Korvane_ZEB/ZEB_Types.h>
@@ -7,7 +8,7 @@
 namespace zeb::engine
 {
 
-/// The element type's own `==`: a not-a-number equals nothing, -0.0 equals 0.0.
+/// The element type's own `==`: NaN equals nothing, -0.0 equals 0.0.
 struct Own_Equality {
     template <class Element>
     constexpr bool operator()(const Element &left, const Element &right) const noexcept
@@ -16,8 +17,8 @@ struct Own_Equality {
     }
 };
 
-/// The element type's own strict order; pointers are ordered by address. Characters are signed on every
-/// processor, also where the compiler's plain `char` is not.
+/// The element type's own strict order; pointers are ordered by address. Characters are compared as signed on
+/// every machine.
 struct Own_Less {
     template <class Element>
     constexpr bool operator()(const Element &left, const Element &right) const noexcept
@@ -31,13 +32,13 @@ struct Own_Less {
     }
 };
 
-/// The three-way answer made of a strict order. What is neither above nor below counts as equal, so
-/// with the own order a not-a-number is equal to everything.
+/// A three-way comparison made of a strict order. Elements that are neither less nor greater count as equal,
+/// so with the own order NaN equals everything.
 template <class Less = Own_Less>
 struct Three_Way {
     [[no_unique_address]] Less less{};
 
-    // Answers how the key compares with the element, one of the three known answers.
+    // Returns how the key compares with the element.
     template <class Element>
     constexpr ZEB_Comparison operator()(const Element *key, const Element *element) const noexcept
     {

@@ -8,7 +8,7 @@
 namespace zeb::engine
 {
 
-/// Whether a run has bytes in common with the `size` bytes at `block`.
+/// Whether a run shares bytes with the `size` bytes at `block`.
 template <class Element>
 bool overlaps(std::span<const Element> run, const void *block, std::size_t size) noexcept
 {

@@ -1,4 +1,4 @@
-/// A block of elements for the length of one operation.
+/// A temporary block of elements.
 #pragma once
 
 #include "arrays/engine/allocator.hpp"
@@ -9,7 +9,7 @@
 namespace zeb::engine
 {
 
-/// Owns room for `count` undefined elements. `get` answers null when there is no memory.
+/// Owns room for `count` undefined elements. `get` returns null if allocation fails or `count` is 0.
 template <class Element>
 class Scratch
 {

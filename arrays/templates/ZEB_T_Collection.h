@@ -1,13 +1,12 @@
 /*
- * Collections of TT_PHRASE: the abstract element interface.
+ * Collections of TT_PHRASE: the abstract interface to elements.
  */
 #import <Korvane_ZEB/ZEB_Collection.h>
 
 TT_FORWARD_CLASSES
 
 /**
- * The abstract level of the family: what can be asked of any collection of TT_PHRASE. Its vector
- * provides the elements.
+ * The abstract base class of the family. Its vector class provides the elements.
  */
 ZEB_EXPORT
 @interface ZEB_T_Collection : ZEB_Collection {
@@ -15,15 +14,15 @@ ZEB_EXPORT
     TT_COLLECTION_FIELDS
 }
 
-/** The proprietary notice. */
+/** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** The element at a zero-based index. Abstract: reports that it needs subclassing, and answers 0 or
-    nothing. */
+/** Returns the element at a zero-based index. Abstract: reports that it needs subclassing, and returns 0 or
+    nil. */
 - (ZEB_T_Element)ZEB_T_element_at_index:(uint32_t)index;
 
-/** The first element; `count` elements follow one another. Abstract: reports that it needs subclassing,
-    and answers null. */
+/** Returns a pointer to the first element; the others follow it. Abstract: reports that it needs subclassing,
+    and returns null. */
 - (ZEB_T_Element *)TT_word_data;
 
 @end

@@ -1,8 +1,8 @@
 /*
- * Going through arrays of TT_PHRASE with `for in`.
+ * Fast enumeration of TT_PHRASE, with `for in`.
  */
 #import <Korvane_ZEB/ZEB_T_Vector.h>
 
-/** A vector whose elements are objects; it must not grow or shrink while it is gone through. */
+/** Enumerates the elements; the vector must not grow or shrink meanwhile. */
 @interface ZEB_T_Vector (Enumeration) <NSFastEnumeration>
 @end

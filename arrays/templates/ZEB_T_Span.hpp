@@ -8,8 +8,8 @@
 namespace zeb
 {
 
-/// The live elements of a vector, array or link, to be read and written in place; none for nil. Whatever
-/// changes the vector's block or count ends the span.
+/// Returns the elements of a vector, array or link, readable and writable in place; an empty span for nil.
+/// Any change of the vector's block or count invalidates the span.
 inline std::span<ZEB_T_Element> elements(ZEB_T_Vector *vector)
 {
     return {[vector TT_word_data], [vector count]};

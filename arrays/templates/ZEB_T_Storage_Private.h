@@ -1,5 +1,5 @@
 /*
- * How the engine sees vectors and arrays of TT_PHRASE.
+ * The engine's access to vectors and arrays of TT_PHRASE.
  */
 #import <Korvane_ZEB/ZEB_T_Array.h>
 
@@ -13,10 +13,10 @@
 namespace zeb::engine
 {
 
-/// How the family keeps its elements.
+/// The element kind of the family.
 using ZEB_T_Kind = TT_KIND;
 
-/// The class-wide growth seed of the family.
+/// The growth seed of all arrays of the family.
 extern __attribute__((visibility("hidden"))) uint32_t ZEB_T_growth_seed;
 
 inline Vector_Storage<ZEB_T_Kind> storage_of_vector(ZEB_T_Vector *vector)

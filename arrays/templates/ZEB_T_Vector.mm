@@ -15,7 +15,7 @@ namespace
 
 uint32_t default_length = 16;
 
-/// Views a range of another vector, under its ownership mode; nothing of nil.
+/// Makes a link view a range of another vector, with that vector's ownership mode; of nil, nothing.
 void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     if (other == nil)

@@ -1,11 +1,10 @@
+/// Character tests of ASCII text, independent of the locale.
 #pragma once
 
 #include <cstdint>
 
 namespace zeb::engine
 {
-
-/// Character tests that know no locale.
 
 constexpr bool is_ascii_space(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
@@ -16,7 +15,7 @@ constexpr char ascii_lower(char c) noexcept
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// How many white-space characters stand at the start of the counted array.
+/// Returns the number of white-space characters at the start of a counted array.
 constexpr std::uint32_t leading_spaces(const char *chars, std::uint32_t length) noexcept
 {
     std::uint32_t index = 0;

@@ -1,3 +1,4 @@
+/// The "C" locale, and a scope that selects it.
 #pragma once
 
 #include <locale.h>
@@ -8,11 +9,11 @@
 namespace zeb::engine
 {
 
-/// The "C" locale as an object, made once.
+/// Returns the "C" locale, created on the first call.
 locale_t c_locale() noexcept;
 
-/// For the C library's functions that take no locale: while it lives, this thread is in the "C" locale,
-/// whatever locale the process has; other threads do not notice.
+/// Sets this thread to the "C" locale for its lifetime, for C library functions that take no locale argument.
+/// Other threads keep theirs.
 class C_Locale_Scope
 {
 public:

@@ -8,11 +8,11 @@
 namespace zeb::engine
 {
 
-/// Owns the copy; the empty text where there is no memory for it.
+/// Owns the copy; c_string() is empty if allocation fails.
 class C_Text
 {
 public:
-    /// `suffix` is null-terminated and goes behind the characters.
+    /// Appends `suffix`, which is null-terminated, to the characters.
     C_Text(const char *characters, std::size_t length, const char *suffix = "") noexcept
         : text(static_cast<char *>(std::malloc(length + std::strlen(suffix) + 1)))
     {

@@ -1,4 +1,4 @@
-/// Character spans with static storage: how the engine names fixed texts.
+/// Character spans over string literals, for the engine's fixed texts.
 #pragma once
 
 #include <Korvane_ZEB/ZEB_Types.h>
@@ -10,7 +10,7 @@ namespace zeb::engine
 
 using Char_Span = ZEB_Char_Span;
 
-/// The span over a string literal, its terminating null left out.
+/// Returns the span over a string literal, without its terminating null.
 template <std::size_t size>
 constexpr Char_Span span_of(const char (&literal)[size]) noexcept
 {

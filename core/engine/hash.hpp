@@ -1,4 +1,4 @@
-/// A hash of runs of bytes, for hash tables in memory: it differs between machines.
+/// A hash of bytes in memory, for hash tables. Its values depend on the machine's byte order.
 #pragma once
 
 #include <cstddef>
@@ -8,14 +8,14 @@
 namespace zeb::engine
 {
 
-/// Stirs a word into a hash.
+/// Mixes a word into a hash.
 inline std::uint64_t stir(std::uint64_t hash, std::uint64_t word) noexcept
 {
     hash = (hash ^ word) * 0x9E3779B97F4A7C15u;
     return hash ^ (hash >> 29);
 }
 
-/// Equal runs have equal hashes.
+/// Returns the hash of a run of bytes.
 inline std::uint64_t hash_bytes(const void *bytes, std::size_t size) noexcept
 {
     const char *at = static_cast<const char *>(bytes);

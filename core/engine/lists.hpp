@@ -1,4 +1,4 @@
-/// The shape of lists in text.
+/// Writing lists as text.
 #pragma once
 
 #include "core/engine/char_span.hpp"
@@ -8,14 +8,14 @@
 namespace zeb::engine
 {
 
-/// What stands around and between the elements of a list.
+/// The texts around and between the elements of a list.
 struct List_Delimiters {
     Char_Span open;
     Char_Span close;
     Char_Span separator;
 };
 
-/// Writes a list: `put` takes the delimiters, `put_element` the index of each element.
+/// Writes a list: calls `put` with each delimiter and `put_element` with each index.
 template <class Put, class Put_Element>
 void write_delimited_list(std::uint32_t count, const List_Delimiters &delimiters, Put put,
                           Put_Element put_element)
@@ -29,7 +29,7 @@ void write_delimited_list(std::uint32_t count, const List_Delimiters &delimiters
     put(delimiters.close);
 }
 
-/// Writes the elements alone.
+/// Writes the elements without delimiters.
 template <class Put_Element>
 void write_list(std::uint32_t count, Put_Element put_element)
 {

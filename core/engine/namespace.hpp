@@ -1,4 +1,5 @@
-/// The engine stands in `zeb::engine`; `zeb` itself is what C++ users of the framework see.
+/// The engine's namespace, `zeb::engine`, and its short name. `zeb` itself holds what C++ users of the
+/// framework see.
 #pragma once
 
 namespace zeb::engine

@@ -1,4 +1,4 @@
-/// The one text of the proprietary notice.
+/// The text of the proprietary notice.
 #pragma once
 
 namespace zeb::engine

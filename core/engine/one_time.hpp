@@ -1,4 +1,4 @@
-/// The pattern of a lazy one-time start-up.
+/// Lazy one-time start-up.
 #pragma once
 
 #include <cstdint>
@@ -6,8 +6,8 @@
 namespace zeb::engine
 {
 
-/// Runs `prepare` unless `done` is set. The flag is set before the work, so that work which comes back
-/// here does not run twice. No lock: start-up is finished on one thread before concurrent use.
+/// Runs `prepare` unless `done` is set. The flag is set first, so that a nested call does not run it again.
+/// There is no lock: start-up must finish on one thread before concurrent use.
 template <class Work>
 inline void run_once(std::uint8_t &done, Work prepare)
 {

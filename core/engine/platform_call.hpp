@@ -1,11 +1,11 @@
-/// Calls into the platform, which may throw where the framework never does.
+/// Calls into the platform that may throw.
 #pragma once
 
 namespace zeb::engine
 {
 
-/// The result of `make`, or null where it throws. In a source of plain C++, since Objective-C++ cannot catch
-/// on every runtime.
+/// Returns the result of `make`, or null if it throws. Implemented in plain C++, because Objective-C++ cannot
+/// catch exceptions on every runtime.
 void *result_or_null(void *(*make)()) noexcept;
 
 } // namespace zeb::engine

@@ -8,10 +8,10 @@ namespace zeb::engine
 namespace
 {
 
-/// One conversion of a format, from its `%` on.
+/// One conversion of a format, starting at its `%`.
 struct Conversion {
-    const char *letter; ///< the conversion's letter, or the first of its length modifier
-    const char *end;    ///< behind the conversion
+    const char *letter; ///< first letter of the length modifier, or of the conversion
+    const char *end;    ///< one past the conversion
     bool stores;
 };
 
@@ -22,7 +22,8 @@ const char *skip_digits(const char *at) noexcept
     return at;
 }
 
-/// Behind a scan set whose `[` is at `bracket`; a `]` that comes first is one of its characters.
+/// Returns the position after a scan set whose `[` is at `bracket`; a `]` that comes first belongs to the
+/// set.
 const char *skip_scan_set(const char *bracket) noexcept
 {
     const char *at = bracket + 1;
@@ -53,7 +54,7 @@ bool is_floating(char letter) noexcept
     return letter != '\0' && std::strchr("aAeEfFgG", letter) != nullptr;
 }
 
-/// Writes the widened format, which is at most half as long again.
+/// Writes the widened format, which is at most 1.5 times as long.
 void widen(const char *format, char *widened) noexcept
 {
     while (*format != '\0') {

@@ -1,4 +1,4 @@
-/// Formats of scanf that take a double.
+/// scanf formats that store doubles.
 #pragma once
 
 #include <cstddef>
@@ -7,14 +7,14 @@
 namespace zeb::engine
 {
 
-/// A scanf format, each of whose floating-point conversions that store and lack a length modifier got the
-/// `l` of a double. Suppressed conversions, scan sets and all other text stay as they are.
+/// A copy of a scanf format in which each storing floating-point conversion without a length modifier has the
+/// `l` of a double. Suppressed conversions, scan sets and all other text are unchanged.
 class Double_Scan_Format
 {
 public:
     explicit Double_Scan_Format(const char *format) noexcept;
 
-    /// The format, as long as this object lives; the empty text if allocation fails.
+    /// Returns the format, valid as long as this object; empty if allocation fails.
     const char *c_string() const noexcept { return text; }
 
 private:

@@ -19,7 +19,7 @@ inline constexpr Char_Span first_open_delimiter = span_of("{");
 inline constexpr Char_Span first_close_delimiter = span_of("}");
 inline constexpr Char_Span first_separator = span_of(", ");
 
-/// A null format stands for the first one of its type.
+/// Returns `format`, or `first` for a null one.
 inline const char *or_first(const char *format, const char *first) noexcept
 {
     return format != nullptr ? format : first;

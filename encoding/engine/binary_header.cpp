@@ -13,7 +13,7 @@ constexpr char header_text[] = "ZEB_EXTERNAL_BINARY_FORMAT_V1000";
 constexpr std::size_t header_text_size = sizeof header_text - 1;
 constexpr std::uint32_t byte_order_marker = 0x50AB40CD;
 
-/// The words from the marker on; only the marker is ever read back.
+/// The words from the marker on; only the marker is ever read.
 constexpr std::uint32_t header_words[] = {byte_order_marker, 0, 2, 4, 2, 1, 1};
 constexpr char header_tail[] = "1111";
 

@@ -9,10 +9,10 @@
 namespace zeb::engine
 {
 
-/// The 8-bit string that records are appended to.
+/// The 8-bit string to which records are appended.
 using Record_Buffer = Array_Storage<Plain_Elements<char>>;
 
-/// The bytes that a record is read from.
+/// The bytes from which a record is read.
 struct Record_Source {
     const char *bytes;
     std::uint32_t length;
@@ -21,8 +21,8 @@ struct Record_Source {
 
 inline constexpr std::uint32_t record_count_size = sizeof(std::uint32_t);
 
-/// Appends a count and then `size` bytes of elements; false, after a report, if the buffer is a link or
-/// cannot grow. The elements may be the buffer's own.
+/// Appends a count and `size` bytes of elements, which may be the buffer's own. Reports and returns false if
+/// the buffer is a link or allocation fails.
 template <class Report>
 bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elements, std::uint64_t size,
                    Report report) noexcept
@@ -55,8 +55,8 @@ void encode_plain(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer 
     append_record(buffer, vector.count, vector.data, std::uint64_t{vector.count} * sizeof(Element), report);
 }
 
-/// Appends the count of an array of objects and then each object's own record. `storage_of` gives the
-/// storage of one.
+/// Appends the count of an array of objects and the record of each object. `storage_of` returns an object's
+/// storage.
 template <class Policy, class Storage_Of, class Report>
 void encode_held(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer, Storage_Of storage_of,
                  Report report) noexcept
@@ -67,7 +67,7 @@ void encode_held(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buff
         encode_plain(Vector_Storage(storage_of(object)), buffer, report);
 }
 
-/// References cannot be encoded: no record is written for them, and an empty record for none.
+/// Appends an empty record for an array without references. Others cannot be encoded and append nothing.
 template <class Policy, class Report>
 void encode_references(Vector_Storage<Counted_References<Policy>> vector, Record_Buffer buffer,
                        Report report) noexcept
@@ -76,7 +76,7 @@ void encode_references(Vector_Storage<Counted_References<Policy>> vector, Record
         append_record(buffer, 0, nullptr, 0, report);
 }
 
-/// How many bytes the record of plain elements at the source takes; 0 where the source ends before it.
+/// Returns the size in bytes of a record of plain elements; 0 if the source ends before the record does.
 inline std::uint32_t record_size(Record_Source source, std::size_t element_size) noexcept
 {
     if (source.length < record_count_size)
@@ -91,7 +91,7 @@ inline Record_Source behind(Record_Source source, std::uint32_t size) noexcept
     return {source.bytes + size, source.length - size, source.needs_swap};
 }
 
-/// The same for the record of an array of objects whose elements have `element_size` bytes.
+/// The same for a record of objects whose elements have `element_size` bytes.
 inline std::uint32_t nested_record_size(Record_Source source, std::size_t element_size) noexcept
 {
     if (source.length < record_count_size)
@@ -106,7 +106,7 @@ inline std::uint32_t nested_record_size(Record_Source source, std::size_t elemen
     return size;
 }
 
-/// Copies the elements of a record, which need no alignment, in this machine's byte order.
+/// Copies the elements of a record, which need no alignment, into this machine's byte order.
 template <class Element>
 void copy_elements(Element *elements, const char *bytes, std::uint32_t count, bool needs_swap) noexcept
 {
@@ -118,7 +118,7 @@ void copy_elements(Element *elements, const char *bytes, std::uint32_t count, bo
         std::memmove(elements, bytes, count * sizeof(Element));
 }
 
-/// Whether a record of `size` bytes (0 when it is not all there) may be decoded into the array.
+/// Whether a record of `size` bytes (0 if incomplete) may be decoded into the array. Reports if not.
 template <class Kind, class Report>
 bool may_decode(Array_Storage<Kind> array, std::uint32_t size, Report report) noexcept
 {
@@ -129,14 +129,14 @@ bool may_decode(Array_Storage<Kind> array, std::uint32_t size, Report report) no
     return !array.is_link() && size != 0;
 }
 
-/// What is said when an array cannot take a record's elements.
+/// Returns the note for an array that cannot grow.
 template <class Kind>
 Char_Span failure_of_room(Array_Storage<Kind> array) noexcept
 {
     return array.data == nullptr ? notes::allocate_failed : notes::reallocate_failed;
 }
 
-/// Gives a growable array the room for the elements of a record; false, after a report, where it cannot be.
+/// Grows an array for the elements of a record. Reports and returns false if allocation fails.
 template <class Kind, class Report>
 bool make_record_room(Array_Storage<Kind> array, std::uint32_t count, Report report) noexcept
 {
@@ -145,9 +145,8 @@ bool make_record_room(Array_Storage<Kind> array, std::uint32_t count, Report rep
            (count <= array.count || open_up_to(array, count, report, failure));
 }
 
-/// Replaces an array's elements by those of the record at the source. Answers how many bytes the record
-/// takes; 0, after a report and with the array as it was, for a link, for a source that ends before the
-/// record does, and where memory is short.
+/// Replaces an array's contents with the elements of a record, and returns the size of the record in bytes.
+/// For a link, for an incomplete record, or if allocation fails, reports, changes nothing and returns 0.
 template <class Element, class Report>
 std::uint32_t decode_plain(Array_Storage<Plain_Elements<Element>> array, Record_Source source,
                            Report report) noexcept
@@ -163,7 +162,7 @@ std::uint32_t decode_plain(Array_Storage<Plain_Elements<Element>> array, Record_
     return size;
 }
 
-/// Gives each of the objects the room for its own record; false, after a report, where it cannot be.
+/// Grows each object for its own record. Reports and returns false if allocation fails.
 template <class Policy, class Storage_Of, class Report>
 bool make_nested_room(Array_Storage<Held_Objects<Policy>> array, Record_Source source, Storage_Of storage_of,
                       Report report) noexcept
@@ -182,7 +181,7 @@ bool make_nested_room(Array_Storage<Held_Objects<Policy>> array, Record_Source s
     return true;
 }
 
-/// The same for an array of objects, each of which takes its own record. The source may be one of them.
+/// The same for an array of objects, each of which has its own record. The source may lie in one of them.
 template <class Policy, class Storage_Of, class Report>
 std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Source source,
                           Storage_Of storage_of, Report report) noexcept
@@ -211,8 +210,8 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
     return consumed;
 }
 
-/// An array of references can only be emptied by a record; for any other, `complain` is called and the
-/// array stays. Answers the size of the count.
+/// A record can only empty an array of references: for any other record `complain` is called and the array is
+/// unchanged. Returns the size of the count.
 template <class Policy, class Report, class Complain>
 std::uint32_t decode_references(Array_Storage<Counted_References<Policy>> array, Record_Source source,
                                 Report report, Complain complain) noexcept

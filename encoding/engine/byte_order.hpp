@@ -19,7 +19,7 @@ constexpr std::uint32_t swap_bytes(std::uint32_t value) noexcept { return __buil
 
 constexpr std::uint64_t swap_bytes(std::uint64_t value) noexcept { return __builtin_bswap64(value); }
 
-/// Any 4- or 8-byte value with its bytes reversed.
+/// Returns a 4- or 8-byte value with its bytes reversed.
 template <class Value>
 Value swap_value(Value value) noexcept
 {
@@ -43,7 +43,7 @@ void copy_swapped(Value *values, const char *bytes, std::size_t n) noexcept
     }
 }
 
-/// The unsigned 32-bit value at `bytes`, its bytes reversed when `needs_swap` says so.
+/// Returns the unsigned 32-bit value at `bytes`, with its bytes reversed if `needs_swap` is set.
 inline std::uint32_t read_count(const char *bytes, bool needs_swap) noexcept
 {
     std::uint32_t count;

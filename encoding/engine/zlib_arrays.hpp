@@ -1,4 +1,4 @@
-/// Compressing and decompressing into a growable byte container.
+/// Compression and decompression into growable arrays.
 #pragma once
 
 #include "arrays/engine/storage/insertion.hpp"
@@ -8,13 +8,13 @@
 namespace zeb::engine
 {
 
-/// The bytes of a container of 8-bit elements.
+/// The bytes of an array of 8-bit elements.
 struct Byte_Run {
     const char *bytes;
     std::uint32_t length;
 };
 
-/// Appends zlib's pieces to an array, and remembers what to report.
+/// Appends zlib's output to an array.
 template <class Element, class Report>
 struct Array_Sink {
     using Kind = Plain_Elements<Element>;
@@ -34,8 +34,8 @@ struct Array_Sink {
     }
 };
 
-/// Runs `work` (compress or decompress) from `source`, which is not empty, into the end of `array`. A link
-/// refuses as an append does, before anything is done, and -1 is answered. A source within the array's own
+/// Runs `work` (compress or decompress) on `source`, which must not be empty, and appends the output to
+/// `array`. A link reports as an append does and returns -1 before any work. A source within the array's own
 /// block is copied first.
 template <class Element, class Report, class Work>
 std::int32_t run_zlib(Byte_Run source, Array_Storage<Plain_Elements<Element>> array, Report report,

@@ -8,8 +8,8 @@ namespace zeb::engine
 namespace
 {
 
-// A truncated stream can make zlib go on for ever when it is fed again, with or without output. These bounds
-// lie far beyond what any stream needs that does end.
+// A truncated stream that is passed again can make zlib run for ever, with or without output. These bounds
+// lie far beyond what any stream that ends needs.
 constexpr std::uint32_t greatest_pass_count = 65536;
 constexpr std::uint64_t greatest_refed_input = std::uint64_t{256} << 20;
 constexpr std::uint64_t greatest_refed_output = std::uint64_t{64} << 20;
@@ -22,12 +22,12 @@ void complain(const char *line) noexcept { std::fputs(line, stderr); }
 
 void give_input(z_stream &stream, const char *bytes, std::uint32_t length) noexcept
 {
-    // zlib reads its input only; its interface predates const.
+    // zlib only reads its input; its interface predates const.
     stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(bytes));
     stream.avail_in = length;
 }
 
-/// Offers zlib a chunk, lets it run, and appends what it made. Answers zlib's status.
+/// Gives zlib an output chunk, runs it, appends its output, and returns zlib's status.
 template <class Run>
 int run_chunk(z_stream &stream, Zlib_Output output, Run run) noexcept
 {
@@ -50,12 +50,12 @@ int deflate_to_end(z_stream &stream, Zlib_Output output) noexcept
     return status;
 }
 
-/// One pass of inflate over the input. Answers zlib's verdict, or `no_verdict` when the input is used up
-/// before the stream has ended.
+/// Runs inflate over the input once. Returns the final status, or `no_verdict` if the input ends before the
+/// stream does.
 std::int32_t inflate_pass(z_stream &stream, Zlib_Output output, std::uint64_t output_limit) noexcept
 {
     do {
-        // A failed pass keeps what came before its failing chunk, not the chunk itself.
+        // A failed call discards its own chunk; earlier output stays.
         const int status = run_chunk(stream, output, [](z_stream &s) {
             const int answer = inflate(&s, Z_NO_FLUSH);
             if (answer == Z_DATA_ERROR || answer == Z_MEM_ERROR || answer == Z_NEED_DICT)

@@ -10,12 +10,12 @@ namespace zeb::engine
 namespace
 {
 
-// One call moves less than 2 GiB on some platforms.
+// Some platforms transfer less than 2 GiB per call.
 constexpr std::size_t greatest_piece = std::size_t{1} << 30;
 
 constexpr mode_t mode_of_new_files = 0666;
 
-/// Asks again while a signal interrupts; answers what is less than 0 with the platform's error in errno.
+/// Repeats a call while a signal interrupts it. Returns its result; a negative one leaves the error in errno.
 template <class Call>
 auto uninterrupted(Call call) noexcept
 {
@@ -25,7 +25,8 @@ auto uninterrupted(Call call) noexcept
     return answer;
 }
 
-/// Moves `size` bytes by pieces; `move` answers how many bytes went, 0 at the end, less than 0 for an error.
+/// Transfers `size` bytes in pieces. `move` returns the number of bytes moved, 0 at the end, or a negative
+/// value for an error.
 template <class Move>
 int move_all(std::size_t size, std::size_t &count, Move move) noexcept
 {
@@ -76,7 +77,7 @@ int Open_File::write_all_and_close(const void *bytes, std::size_t size, std::siz
 
 int Open_File::cut() noexcept
 {
-    // What is no regular file has nothing to cut, and says so.
+    // ftruncate refuses anything but a regular file with EINVAL; then there is nothing to truncate.
     if (uninterrupted([&] { return ::ftruncate(descriptor, 0); }) == 0 || errno == EINVAL)
         return 0;
     return errno;
@@ -93,7 +94,7 @@ int Open_File::close() noexcept
 {
     if (descriptor < 0)
         return 0;
-    // An interrupted close has closed all the same.
+    // An interrupted close has closed the descriptor.
     const bool is_closed = ::close(descriptor) == 0 || errno == EINTR;
     descriptor = -1;
     return is_closed ? 0 : errno;

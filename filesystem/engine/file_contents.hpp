@@ -1,4 +1,4 @@
-/// Whole files, in and out.
+/// Reading and writing whole files.
 #pragma once
 
 #include <cstddef>
@@ -7,29 +7,29 @@
 namespace zeb::engine
 {
 
-/// An open file descriptor, closed when it ends. Nothing here waits for a partner: what would is an error.
-/// Operations answer 0, or the platform's error.
+/// An open file descriptor, closed by the destructor. Nothing here blocks: an operation that would is an
+/// error. Operations return 0 or the platform's error.
 class Open_File
 {
 public:
     /// Opens for reading.
     static Open_File for_reading(const char *path) noexcept;
 
-    /// Opens for writing; the file is made where it is missing, and keeps what it has.
+    /// Opens for writing. Creates a missing file and does not truncate an existing one.
     static Open_File for_writing(const char *path) noexcept;
 
     ~Open_File();
     Open_File(const Open_File &) = delete;
     Open_File &operator=(const Open_File &) = delete;
 
-    /// Why the file could not be opened; 0 where it was.
+    /// Returns why the file could not be opened; 0 if it was.
     int opening_error() const noexcept { return error; }
 
-    /// Reads up to `size` bytes, to the end of the file at most, and sets `count` to how many came.
+    /// Reads up to `size` bytes, at most to the end of the file, and sets `count` to the number read.
     int read(void *bytes, std::size_t size, std::size_t &count) noexcept;
 
-    /// Cuts what the file had, writes `size` bytes, sets `count` to how many went, and closes the file. The
-    /// first error counts; one that the closing tells is that of an earlier write.
+    /// Truncates the file, writes `size` bytes, sets `count` to the number written, and closes the file.
+    /// Returns the first error; one that closing returns belongs to an earlier write.
     int write_all_and_close(const void *bytes, std::size_t size, std::size_t &count) noexcept;
 
 private:

@@ -1,4 +1,4 @@
-/// The messages of file operations, each text once; the path follows.
+/// The messages of file operations; the path follows.
 #pragma once
 
 #include "core/engine/char_span.hpp"

@@ -22,7 +22,7 @@ ZEB_File_Kind kind_of(mode_t mode) noexcept
     }
 }
 
-/// The rights in the three bits of a mode from `shift` on.
+/// Returns the rights in the three bits of a mode from `shift` on.
 Access_Rights rights_of(mode_t mode, int shift) noexcept
 {
     const unsigned bits = static_cast<unsigned>(mode) >> shift;

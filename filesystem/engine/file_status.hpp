@@ -1,4 +1,4 @@
-/// What the platform says of a file-system entry.
+/// The status of a file-system entry.
 #pragma once
 
 #include <Korvane_ZEB/ZEB_Types.h>
@@ -28,13 +28,12 @@ struct File_Status {
     std::uint32_t gid;
 };
 
-/// Reads the status of what a null-terminated path leads to, symbolic links followed. Answers 0, or the
-/// platform's error, and then leaves `status` alone.
+/// Reads the status of the entry at a null-terminated path, following symbolic links. Returns 0, or the
+/// platform's error with `status` unchanged.
 int read_status(const char *path, File_Status &status) noexcept;
 
-/// The rights that a process has to an entry: those of the owner where the process is its owner, and
-/// beside them those of the group, where it is in that, and of others. `before` is what is kept of a
-/// process that is neither.
+/// Returns the rights of a process to an entry: the owner's if it is the owner, joined with the group's if it
+/// is in the group, and with those of others. A process that is not the owner starts from `before`.
 Access_Rights effective_rights(const File_Status &status, bool is_owner, bool is_in_group,
                                Access_Rights before) noexcept;
 

@@ -1,4 +1,4 @@
-/// Counted 8-bit characters into a growable string of 8-bit or of 32-bit characters.
+/// Storing counted 8-bit characters in growable strings of 8-bit or 32-bit characters.
 #pragma once
 
 #include "arrays/engine/storage/own_source.hpp"
@@ -12,8 +12,8 @@
 namespace zeb::engine
 {
 
-/// Grows for `needed` characters; the first block is allocated, a later one reallocated, and the note
-/// tells which it was.
+/// Grows for `needed` characters. A failure is reported as one of allocation for the first block, and of
+/// reallocation for a later one.
 template <class Kind, class Report>
 bool grow_text(Array_Storage<Kind> string, std::uint64_t needed, Report report) noexcept
 {
@@ -21,7 +21,7 @@ bool grow_text(Array_Storage<Kind> string, std::uint64_t needed, Report report) 
                 string.data == nullptr ? notes::allocate_failed : notes::reallocate_failed);
 }
 
-/// Puts characters into 8-bit elements as they are, and sign-extends them into 32-bit ones.
+/// Copies characters to 8-bit elements, or sign-extends them to 32-bit ones.
 inline void put_characters(std::span<const char> characters, char *elements) noexcept
 {
     if (!characters.empty())
@@ -34,8 +34,8 @@ inline void put_characters(std::span<const char> characters, std::uint32_t *elem
                           elements);
 }
 
-/// Makes the text end with the given bytes, which may lie in the string's own block, from the index `at`
-/// on, which is at most the count.
+/// Replaces the text from index `at` (at most the count) to the end with the given bytes, which may lie in
+/// the string's own block.
 template <class Element, class Report>
 void end_with_characters(Text_Storage<Element> string, std::uint32_t at, const char *bytes,
                          std::uint32_t length, Report report) noexcept
@@ -49,7 +49,7 @@ void end_with_characters(Text_Storage<Element> string, std::uint32_t at, const c
     string.count = at + length;
 }
 
-/// Makes the text exactly the given bytes.
+/// Replaces the contents with the given bytes.
 template <class Element, class Report>
 void copy_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_t length,
                    Report report) noexcept
@@ -59,7 +59,7 @@ void copy_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_
     end_with_characters(string, 0, bytes, length, report);
 }
 
-/// Puts the given bytes at the end.
+/// Appends the given bytes.
 template <class Element, class Report>
 void append_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_t length,
                      Report report) noexcept
@@ -69,7 +69,7 @@ void append_c_string(Text_Storage<Element> string, const char *bytes, std::uint3
     end_with_characters(string, string.count, bytes, length, report);
 }
 
-/// Puts a null behind the last character and leaves the count.
+/// Stores a null after the last character; the count does not change.
 template <class Report>
 void append_null_terminator(Char_Storage string, Report report) noexcept
 {

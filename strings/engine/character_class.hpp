@@ -1,4 +1,4 @@
-/// Classes of 8-bit characters, and their case, as the C library knows them in the current locale.
+/// Character classes and case of 8-bit characters, by the C library's current locale.
 #pragma once
 
 #include <cctype>
@@ -9,8 +9,8 @@
 namespace zeb::engine
 {
 
-/// The library is asked with the character as a signed value. Byte 255 is then the end-of-file code,
-/// which is in no class; the others below 0 stand for the same bytes as 256 more.
+/// Returns the C library's code of a character, taken as signed: byte 255 is EOF, which is in no class; other
+/// negative values are the same bytes plus 256.
 inline int class_code(char character) noexcept
 {
     const int code = static_cast<signed char>(character);
@@ -19,8 +19,8 @@ inline int class_code(char character) noexcept
 
 inline bool is_space(char character) noexcept { return std::isspace(class_code(character)) != 0; }
 
-/// Turns capitals into their small letters, by the locale that is current when it is made: for the length
-/// of one operation.
+/// Converts upper case to lower case, by the locale that is current when the object is made. Meant for one
+/// operation.
 class Case_Folding
 {
 public:
@@ -30,7 +30,7 @@ public:
         return is_upper(code) ? static_cast<char>(to_lower(code)) : character;
     }
 
-    /// True when the 26 letters fold among themselves as they do in ASCII.
+    /// Whether the 26 letters fold among themselves as in ASCII.
     bool folds_ascii_letters_plainly() const noexcept
     {
         return are_upper('A') && become_a_to_z('A') && become_a_to_z('a');
@@ -38,14 +38,14 @@ public:
 
 private:
 #if defined(__GLIBC__)
-    // The tables behind the library's functions: a comparison asks them for every character.
+    // Reads the tables behind the library's functions, because comparisons need them for every character.
     bool is_upper(int code) const noexcept { return (classes[code] & _ISupper) != 0; }
     int to_lower(int code) const noexcept { return small_letters[code]; }
     bool are_upper(int first) const noexcept
     {
         std::uint64_t common = ~std::uint64_t{0};
         for (int i = 0; i < 26; i += 4) {
-            std::uint64_t four; // the last begins two sooner
+            std::uint64_t four; // the last group overlaps by two
             std::memcpy(&four, classes + first + (i < 24 ? i : 22), sizeof four);
             common &= four;
         }
@@ -65,7 +65,8 @@ private:
 #else
     bool is_upper(int code) const noexcept { return std::isupper(code) != 0; }
     int to_lower(int code) const noexcept { return std::tolower(code); }
-    /// Whether the 26 characters from `first` on are capitals, and whether their small letters are a to z.
+    /// Whether the 26 characters from `first` on are upper case, and whether their lower-case letters are a
+    /// to z.
     bool are_upper(int first) const noexcept
     {
         for (int i = 0; i < 26; ++i)

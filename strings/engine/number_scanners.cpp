@@ -16,7 +16,7 @@ constexpr Char_Span inf = span_of("inf");
 constexpr Char_Span infinity = span_of("infinity");
 constexpr Char_Span nan = span_of("nan");
 
-/// One entry for each byte: whether it is one of the given characters.
+/// One flag per byte value: whether it belongs to the set.
 using Character_Set = std::array<bool, 256>;
 
 constexpr Character_Set set_of(Char_Span characters)
@@ -32,10 +32,10 @@ constexpr Character_Set small_number_characters = set_of(span_of("+-.0123456789e
 
 bool is_in(const Character_Set &set, char character) { return set[static_cast<unsigned char>(character)]; }
 
-/// A capital becomes its small letter; no other character becomes a letter.
+/// Maps capitals to lower case; maps nothing else to a letter.
 char small(char character) { return static_cast<char>(character | 0x20); }
 
-/// Whether the text has the word, in capitals or not, from the index on.
+/// Whether the text has the word, in any case, at the index.
 bool has_word(Text text, std::size_t at, Char_Span word)
 {
     if (text.size() - at < word.length)
@@ -46,7 +46,7 @@ bool has_word(Text text, std::size_t at, Char_Span word)
     return true;
 }
 
-/// Whether the word ends with the text's last character.
+/// Whether the text ends with the word.
 bool ends_with(Text text, Char_Span word)
 {
     return text.size() >= word.length && has_word(text, text.size() - word.length, word);
@@ -59,7 +59,7 @@ std::size_t first_index_in(const Character_Set &set, bool wanted, Text text, std
     return from;
 }
 
-/// ZEB_NOT_FOUND, which is the index before the first, when there is none.
+/// Returns ZEB_NOT_FOUND, which is -1 as an index, if there is none.
 std::uint32_t last_index_in(const Character_Set &set, bool wanted, Text text)
 {
     std::size_t end = text.size();

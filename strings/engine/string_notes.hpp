@@ -1,4 +1,4 @@
-/// The notes that strings report beside those of all arrays.
+/// The notes that only strings report.
 #pragma once
 
 #include "core/engine/char_span.hpp"

@@ -13,12 +13,12 @@ namespace
 
 using Text = std::span<const char>;
 
-/// From this many bytes on the vectors are worth the look at the locale that they need.
+/// From this many bytes on, vectors are worth testing the locale for.
 constexpr std::size_t shortest_for_vectors = 32;
 
 const std::uint8_t *bytes_of(Text text) { return reinterpret_cast<const std::uint8_t *>(text.data()); }
 
-/// Index of the first bytes that differ when folded; the count of the common part when there are none.
+/// Returns the index of the first bytes that differ when folded, or the length of the common part.
 std::size_t first_folded_difference(Text left, Text right, const Case_Folding &fold)
 {
     const std::size_t count = std::min(left.size(), right.size());
@@ -27,7 +27,7 @@ std::size_t first_folded_difference(Text left, Text right, const Case_Folding &f
         if (by_vectors)
             index += kernels::first_difference_ignoring_ascii_case(bytes_of(left) + index,
                                                                    bytes_of(right) + index, count - index);
-        // Bytes that the vectors tell apart may still fold alike in this locale.
+        // Bytes that differ by ASCII case folding may still fold alike in this locale.
         if (index == count || fold(left[index]) != fold(right[index]))
             return index;
     }
@@ -39,7 +39,7 @@ std::size_t first_folded_difference(Text left, Text right, const Case_Folding &f
 std::size_t first_difference(const std::uint32_t *left, const std::uint32_t *right,
                              std::size_t count) noexcept
 {
-    // Memory compares fastest, but does not tell where; so it compares a block at a time.
+    // memcmp is fastest but does not return the position, so it compares a block at a time.
     constexpr std::size_t block = 4096;
     for (std::size_t index = 0; index < count; index += block) {
         const std::size_t length = std::min(block, count - index);

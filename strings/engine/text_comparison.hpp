@@ -1,4 +1,4 @@
-/// The orders of text. A text that is the beginning of another orders before it.
+/// Comparisons of text. A proper prefix of a text orders before it.
 #pragma once
 
 #include <Korvane_ZEB/ZEB_Types.h>
@@ -11,13 +11,13 @@
 namespace zeb::engine
 {
 
-/// The answer for texts that first differ at some place.
+/// Returns the order of texts that differ.
 inline ZEB_Comparison order_of_difference(bool left_is_first) noexcept
 {
     return left_is_first ? ZEB_COMPARED_LESS : ZEB_COMPARED_GREATER;
 }
 
-/// The answer for texts that are equal as far as the shorter one goes.
+/// Returns the order of texts that are equal up to the end of the shorter one.
 inline ZEB_Comparison order_of_lengths(std::size_t left, std::size_t right) noexcept
 {
     return left == right ? ZEB_Comparison{ZEB_COMPARED_EQUAL} : order_of_difference(left < right);
@@ -33,8 +33,7 @@ inline ZEB_Comparison compare(std::span<const char> left, std::span<const char> 
     return order_of_lengths(left.size(), right.size());
 }
 
-/// Index of the first units that differ; count when there are none. For long texts, and for those that do
-/// differ.
+/// Returns the index of the first units that differ, or count. For long texts, and for texts known to differ.
 std::size_t first_difference(const std::uint32_t *left, const std::uint32_t *right,
                              std::size_t count) noexcept;
 
@@ -53,18 +52,17 @@ inline ZEB_Comparison compare(std::span<const std::uint32_t> left,
     return order_of_difference(left[index] < right[index]);
 }
 
-/// True when the left text orders first.
+/// Whether the left text orders first.
 template <class Character>
 bool is_less(std::span<const Character> left, std::span<const Character> right) noexcept
 {
     return compare(left, right) == ZEB_COMPARED_LESS;
 }
 
-/// Compares bytes as signed numbers, after capitals were turned into small letters by the current locale
-/// of the C library.
+/// Compares bytes as signed numbers, after folding case by the C library's current locale.
 ZEB_Comparison compare_ignoring_case(std::span<const char> left, std::span<const char> right) noexcept;
 
-/// True when both have as many bytes, and these are the same but for case.
+/// Whether both have the same length and the same bytes except for case.
 bool is_equal_ignoring_case(std::span<const char> left, std::span<const char> right) noexcept;
 
 } // namespace zeb::engine

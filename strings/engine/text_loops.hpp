@@ -1,5 +1,5 @@
-/// The kernels of text as plain loops: where there are no vectors, and for what is left behind the last one.
-/// Each starts at the index `from`, up to which the work is done.
+/// The text kernels as plain loops, for machines without vectors and for the remainder after the last vector.
+/// Each continues at index `from`; what precedes it is done.
 #pragma once
 
 #include "strings/engine/text_kernels.hpp"
@@ -37,7 +37,7 @@ inline void widen_signed(const std::int8_t *bytes, std::size_t count, std::uint3
         units[from] = static_cast<std::uint32_t>(std::int32_t{bytes[from]});
 }
 
-/// Works from the end, so that no unit is overwritten before it is read.
+/// From the end, so that no unit is overwritten before it is read.
 inline void widen_in_place(std::uint32_t *units, std::size_t count, std::size_t from = 0) noexcept
 {
     for (std::size_t end = count; end > from; --end) {

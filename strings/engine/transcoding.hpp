@@ -1,4 +1,4 @@
-/// Growable strings made from text in another form of Unicode, without a detour over the platform.
+/// Conversions of growable strings between forms of Unicode, without NSString.
 #pragma once
 
 #include "arrays/engine/allocator.hpp"
@@ -10,9 +10,8 @@
 namespace zeb::engine
 {
 
-/// Room for a string's new contents, before it is known that they can be written: the string's own block
-/// where it has the room, else a new one that takes its place when the contents are kept. A link gets a
-/// block of its own.
+/// Storage for a string's new contents until they are known to be valid: the string's own block if it is
+/// large enough, else a new one that replaces it on `keep`. A link always gets a new block.
 template <class Character>
 class Contents_Draft
 {
@@ -36,7 +35,7 @@ public:
         return block.data != nullptr ? static_cast<Character *>(block.data) : string.data;
     }
 
-    /// Makes what was written the string's contents.
+    /// Makes the elements written the string's contents.
     void keep() noexcept
     {
         string.count = static_cast<std::uint32_t>(count);
@@ -58,9 +57,9 @@ private:
     bool failure = false;
 };
 
-/// Makes the string the `length` elements that `write` puts to the place it is given. Answers false where
-/// `write` does; the elements past the count are then undefined, and so are those below it, if the block
-/// had the room. A failed allocation is reported, changes nothing, and answers true.
+/// Sets the string to the `length` elements that `write` stores at the address passed to it. Returns false if
+/// `write` does; the string's elements are then undefined if its own block was used. If allocation fails,
+/// reports it, changes nothing and returns true.
 template <class Character, class Write, class Report>
 bool write_contents(Text_Storage<Character> string, std::uint64_t length, Write write, Report report) noexcept
 {
@@ -75,8 +74,8 @@ bool write_contents(Text_Storage<Character> string, std::uint64_t length, Write 
     return true;
 }
 
-/// Makes the string what `decode` writes of UTF-8, `length` elements. Answers false, without a look at the
-/// string, where memory for a copy of text in the string's own block is short.
+/// Sets the string to the `length` elements that `decode` writes. Returns false, with the string unchanged,
+/// also if text in the string's own block cannot be copied.
 template <class Decode, class Report>
 bool write_decoded(Wide_Char_Storage string, std::span<const char> utf8, std::uint64_t length, Decode decode,
                    Report report) noexcept
@@ -86,9 +85,9 @@ bool write_decoded(Wide_Char_Storage string, std::span<const char> utf8, std::ui
     return source.is_valid() && write_contents(string, length, write, report);
 }
 
-/// Makes the string the UTF-16 units of well-formed UTF-8, under the conditions of a new length: a link
-/// refuses. Answers false for ill-formed text and for a byte-order mark in front; `write_contents` says
-/// what the string then holds.
+/// Sets the string to the UTF-16 units of well-formed UTF-8. A link refuses as it does a new length. Returns
+/// false for ill-formed text and for a leading byte-order mark; the string is then as `write_contents` leaves
+/// it.
 template <class Report>
 bool set_to_utf16_of_utf8(Wide_Char_Storage string, std::span<const char> utf8, Report report) noexcept
 {
@@ -101,8 +100,8 @@ bool set_to_utf16_of_utf8(Wide_Char_Storage string, std::span<const char> utf8, 
     return write_decoded(string, utf8, utf16_length_of_utf8(utf8), utf16_from_utf8, report);
 }
 
-/// Makes the string the UTF-8 of UTF-16 units, of which only the low 16 bits count; a link becomes an
-/// owner. Answers false for a surrogate without its partner and for a byte-order mark in front.
+/// Sets the string to the UTF-8 of UTF-16 units, of which only the low 16 bits count; a link becomes an
+/// owner. Returns false for an unpaired surrogate and for a leading byte-order mark.
 template <class Report>
 bool set_to_utf8_of_utf16(Char_Storage string, std::span<const std::uint32_t> units, Report report) noexcept
 {
@@ -112,8 +111,8 @@ bool set_to_utf8_of_utf16(Char_Storage string, std::span<const std::uint32_t> un
     return write_contents(string, utf8_length_of_utf16(units), write, report);
 }
 
-/// Makes the string the code points of UTF-8. Answers false, and leaves the string, when the text is
-/// ill-formed, and on a link, which refuses.
+/// Sets the string to the code points of UTF-8. Returns false, with the string unchanged, for ill-formed
+/// text, and on a link, which refuses.
 template <class Report>
 bool set_to_code_points_of_utf8(Wide_Char_Storage string, std::span<const char> utf8, Report report) noexcept
 {
@@ -125,8 +124,8 @@ bool set_to_code_points_of_utf8(Wide_Char_Storage string, std::span<const char> 
            write_decoded(string, utf8, code_point_count_of_utf8(utf8), code_points_from_utf8, report);
 }
 
-/// Makes the string the UTF-8 of code points; a link becomes an owner. Answers false, and leaves the
-/// string, where an element is none.
+/// Sets the string to the UTF-8 of code points; a link becomes an owner. Returns false, with the string
+/// unchanged, if an element is not a code point.
 template <class Report>
 bool set_to_utf8_of_code_points(Char_Storage string, std::span<const std::uint32_t> code_points,
                                 Report report) noexcept
@@ -137,7 +136,7 @@ bool set_to_utf8_of_code_points(Char_Storage string, std::span<const std::uint32
     return write_contents(string, utf8_length_of_code_points(code_points), write, report);
 }
 
-/// Splits each code point past 0xFFFF to a surrogate pair. A link refuses.
+/// Splits each code point above 0xFFFF into a surrogate pair. A link refuses.
 template <class Report>
 void split_to_surrogate_pairs(Wide_Char_Storage string, Report report) noexcept
 {

@@ -32,7 +32,7 @@ void put_pair(std::uint32_t code_point, std::uint32_t *units)
     units[1] = 0xDC00 + (code_point & 0x3FF);
 }
 
-/// A character read from UTF-8 and the bytes that it takes; none of an ill-formed one.
+/// A code point decoded from UTF-8 and its length in bytes; 0 bytes if ill-formed.
 struct Decoded {
     std::uint32_t code_point;
     unsigned length;
@@ -42,7 +42,7 @@ constexpr Decoded undecodable{0, 0};
 
 constexpr bool is_continuation(std::uint8_t byte) { return (byte & 0xC0) == 0x80; }
 
-/// Decodes the character at `at`, one past ASCII, of which `left` bytes are there.
+/// Decodes the non-ASCII character at `at`, where `left` bytes remain.
 inline Decoded decode(const std::uint8_t *at, std::size_t left)
 {
     const std::uint32_t lead = at[0];
@@ -74,8 +74,8 @@ bool is_ascii_word(const std::uint8_t *at)
     return (bytes & 0x8080808080808080) == 0;
 }
 
-/// Widens ASCII a word at a time, and by vectors where it goes on for long; answers how many bytes, which
-/// may be fewer than there are.
+/// Widens ASCII a word at a time, and long runs with vectors. Returns the number of bytes widened, which may
+/// be fewer than the run has.
 std::size_t widen_ascii(const std::uint8_t *at, std::size_t left, std::uint32_t *units)
 {
     std::size_t done = 0;
@@ -88,7 +88,7 @@ std::size_t widen_ascii(const std::uint8_t *at, std::size_t left, std::uint32_t 
     return done;
 }
 
-/// Stores a decoded character as one element; answers where the next goes.
+/// Stores a code point as one element, and returns the address after it.
 struct Put_Code_Point {
     std::uint32_t *operator()(std::uint32_t code_point, std::uint32_t *units) const
     {
@@ -97,7 +97,7 @@ struct Put_Code_Point {
     }
 };
 
-/// Stores it as one or two UTF-16 units.
+/// Stores a code point as one or two UTF-16 units.
 struct Put_Utf16 {
     std::uint32_t *operator()(std::uint32_t code_point, std::uint32_t *units) const
     {
@@ -127,7 +127,7 @@ bool decode_all(std::span<const char> utf8, std::uint32_t *units, Put put)
                 *units++ = *at;
             continue;
         }
-        // Texts stay within one alphabet for a while: runs of two bytes have a loop of their own.
+        // Text tends to stay within one alphabet, so runs of two-byte characters have a loop of their own.
         for (; end - at >= 2 && at[0] >= 0xC2 && at[0] < 0xE0 && is_continuation(at[1]); at += 2)
             *units++ = static_cast<std::uint32_t>((at[0] & 0x1F) << 6 | (at[1] & 0x3F));
         if (at == end || *at < 0x80)
@@ -141,7 +141,7 @@ bool decode_all(std::span<const char> utf8, std::uint32_t *units, Put put)
     return true;
 }
 
-/// Writes a character that UTF-8 can hold; answers where the next goes.
+/// Writes a code point that UTF-8 can encode, and returns the address after it.
 inline std::uint8_t *put_utf8(std::uint32_t code_point, std::uint8_t *bytes)
 {
     const auto continuation = [code_point](unsigned shift) {
@@ -166,7 +166,7 @@ inline std::uint8_t *put_utf8(std::uint32_t code_point, std::uint8_t *bytes)
     return bytes;
 }
 
-/// A character taken from 32-bit elements and how many these are; none of an ill-formed one.
+/// A code point read from 32-bit elements and the number of elements; 0 if ill-formed.
 using Taken = Decoded;
 
 struct Take_Code_Point {

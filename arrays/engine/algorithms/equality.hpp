@@ -1,4 +1,4 @@
-/// The two equalities of runs of elements. Two empty runs are equal.
+/// Bytewise equality and equality by value of runs of elements. Two empty runs are equal.
 #pragma once
 
 #include "arrays/engine/kernels/element_lanes.hpp"
@@ -11,7 +11,7 @@
 namespace zeb::engine
 {
 
-/// True when both hold the same bytes: 0.0 and -0.0 differ, a not-a-number equals itself.
+/// Whether both hold the same bytes: 0.0 and -0.0 differ, NaN equals itself.
 template <class Element>
 bool same_memory(std::span<const Element> left, std::span<const std::type_identity_t<Element>> right) noexcept
 {
@@ -19,8 +19,8 @@ bool same_memory(std::span<const Element> left, std::span<const std::type_identi
            (left.empty() || std::memcmp(left.data(), right.data(), left.size_bytes()) == 0);
 }
 
-/// True when both hold equal elements in the same order. With the own equality 0.0 equals -0.0, and a
-/// not-a-number equals nothing.
+/// Whether both hold equal elements in the same order. With the own equality 0.0 equals -0.0, and NaN equals
+/// nothing.
 template <class Element, class Equality = Own_Equality>
 bool same_values(std::span<const Element> left, std::span<const std::type_identity_t<Element>> right,
                  Equality equal = {}) noexcept

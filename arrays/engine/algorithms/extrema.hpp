@@ -1,6 +1,5 @@
-/// Smallest and largest element. The search starts from element 0 and moves on a strict difference only:
-/// of equal elements (-0.0 and 0.0) the first is answered, and a not-a-number is answered only when it
-/// stands at index 0.
+/// Smallest and largest element. The search starts from element 0 and moves on a strict difference only: of
+/// equal elements (-0.0 and 0.0) the first is returned, and NaN only if it is at index 0.
 #pragma once
 
 #include "arrays/engine/kernels/element_lanes.hpp"
@@ -20,7 +19,8 @@ struct Extrema {
 namespace extrema_detail
 {
 
-/// The first element that no later one precedes; `precedes` is asked (later element, best so far).
+/// Returns the first element that no later one precedes. `precedes` takes a later element and the best so
+/// far.
 template <class Element, class Precedes>
 Element foremost(std::span<const Element> elements, Precedes precedes) noexcept
 {
@@ -33,7 +33,7 @@ Element foremost(std::span<const Element> elements, Precedes precedes) noexcept
 
 } // namespace extrema_detail
 
-/// The smallest element; a zero (nothing, for pointers) when there is no element.
+/// Returns the smallest element; zero (null for pointers) for an empty span.
 template <class Element, class Less = Own_Less>
 Element minimum(std::span<const Element> elements, Less less = {}) noexcept
 {
@@ -47,7 +47,7 @@ Element minimum(std::span<const Element> elements, Less less = {}) noexcept
     }
 }
 
-/// The largest element; a zero (nothing, for pointers) when there is no element.
+/// Returns the largest element; zero (null for pointers) for an empty span.
 template <class Element, class Less = Own_Less>
 Element maximum(std::span<const Element> elements, Less less = {}) noexcept
 {
@@ -62,7 +62,7 @@ Element maximum(std::span<const Element> elements, Less less = {}) noexcept
     }
 }
 
-/// Both in one pass; zeros when there is no element.
+/// Returns both after one pass; zeros for an empty span.
 template <class Element, class Less = Own_Less>
 Extrema<Element> minimum_and_maximum(std::span<const Element> elements, Less less = {}) noexcept
 {

@@ -22,8 +22,8 @@ void fill(std::span<Element> elements, const std::type_identity_t<Element> &valu
     }
 }
 
-/// Stores the value into the elements of the range, both ends included. A range that starts after its
-/// end fills nothing; what lies beyond the last element is left out.
+/// Stores the value into an inclusive range, which is cut at the last element; one that starts after its end
+/// is empty.
 template <class Element>
 void fill_range(std::span<Element> elements, ZEB_Index_Range range,
                 const std::type_identity_t<Element> &value) noexcept

@@ -1,4 +1,4 @@
-/// Finding every occurrence of a run of elements, and replacing it by another run.
+/// Finding every occurrence of a run of elements, and replacing it with another run.
 #pragma once
 
 #include "arrays/engine/algorithms/search.hpp"
@@ -9,9 +9,9 @@
 namespace zeb::engine
 {
 
-/// Calls `visit(index)` for the start of each occurrence of the pattern, from the front, without overlap;
-/// one that ends with the last element counts. The visitor may write the elements of that occurrence and
-/// those before it. Answers the number of occurrences; an empty pattern has none.
+/// Calls `visit(index)` for the start of each occurrence of the pattern, from the front, without overlap,
+/// including one that ends with the last element, and returns their number. The visitor may write the
+/// elements of that occurrence and those before it. An empty pattern has no occurrences.
 template <class Element, class Visit, class Equality = Own_Equality>
 std::uint32_t for_each_occurrence(std::span<const Element> elements,
                                   std::span<const std::type_identity_t<Element>> pattern, Visit visit,
@@ -27,14 +27,14 @@ std::uint32_t for_each_occurrence(std::span<const Element> elements,
     return found;
 }
 
-/// How many occurrences were replaced, and the count of elements that this leaves.
+/// The number of occurrences replaced, and the resulting element count.
 struct Replaced_Occurrences {
     std::uint32_t replacements;
     std::uint32_t count;
 };
 
-/// Replaces each occurrence in place by a replacement that is not longer than the pattern, and closes the
-/// gaps. Pattern and replacement lie outside the elements.
+/// Replaces each occurrence in place with a replacement that is not longer than the pattern, and closes the
+/// gaps. Pattern and replacement must not overlap the elements.
 template <class Element, class Equality = Own_Equality>
 Replaced_Occurrences replace_occurrences_in_place(std::span<Element> elements,
                                                   std::span<const std::type_identity_t<Element>> pattern,
@@ -60,9 +60,9 @@ Replaced_Occurrences replace_occurrences_in_place(std::span<Element> elements,
     return {found, static_cast<std::uint32_t>(written)};
 }
 
-/// Copies the source to the destination with each occurrence replaced. The destination has exactly the
-/// room of the result, source + occurrences × (replacement − pattern), and overlaps nothing else.
-/// Answers the number of replacements.
+/// Copies the source to the destination with each occurrence replaced, and returns the number of
+/// replacements. The destination has exactly the size of the result, source + occurrences × (replacement −
+/// pattern), and overlaps none of the runs.
 template <class Element, class Equality = Own_Equality>
 std::uint32_t copy_with_occurrences_replaced(std::span<const Element> source,
                                              std::span<const std::type_identity_t<Element>> pattern,

@@ -1,6 +1,6 @@
-/// Binary searches in ascending elements. `compare` is asked (pointer to the key, pointer to an element)
-/// and answers 1, 2 or 3 for a key equal to, less than or greater than the element; anything else is an
-/// unknown answer. Which elements it is asked about, and in which order, is fixed.
+/// Binary searches in ascending elements. `compare` takes a pointer to the key and a pointer to an element,
+/// and returns 1, 2 or 3 for a key equal to, less than or greater than the element; any other result is
+/// unknown. Which elements are compared, and in which order, is fixed.
 #pragma once
 
 #include "arrays/engine/kernels/element_lanes.hpp"
@@ -12,48 +12,48 @@
 namespace zeb::engine
 {
 
-/// Where a binary search ended.
+/// The end of a binary search.
 struct Ordered_Probe {
-    std::uint32_t index;   ///< the element asked about last
-    ZEB_Comparison answer; ///< what was answered there; ordered_probe_none when there was nothing to ask
+    std::uint32_t index;   ///< the element compared last
+    ZEB_Comparison answer; ///< its comparison; ordered_probe_none if there was no element
 };
 
 inline constexpr ZEB_Comparison ordered_probe_none = UINT32_MAX;
 
-/// What ordered find and ordered find nearest answer.
+/// The result of an ordered search.
 struct Ordered_Find {
     std::uint32_t index; ///< of the element, or ZEB_NOT_FOUND
-    bool warns;          // an unknown answer has to be reported
+    bool warns;          // an unknown comparison has to be reported
 };
 
-/// What the search half of an ordered insertion answers.
+/// The result of the search half of an ordered insertion.
 enum class Ordered_Insert_Outcome : std::uint8_t {
-    Found,   ///< an equal element stands at the index, or an unknown answer ended the search there
+    Found,   ///< an equal element is at the index, or an unknown comparison ended the search there
     Inserts, ///< the element belongs at the index, 0 to count
 };
 
 struct Ordered_Insert {
     std::uint32_t index;
     Ordered_Insert_Outcome outcome;
-    bool warns; ///< an unknown answer has to be reported; the index is then the operation's answer
+    bool warns; ///< an unknown comparison has to be reported; the index is then the operation's result
 };
 
 namespace ordered_detail
 {
 
-/// Above this many elements the next probes are likely out of the cache and worth asking for early.
+/// Above this many elements the next probes are likely outside the cache and worth prefetching.
 inline constexpr std::uint32_t prefetch_count = 65536;
 
-/// Up to this many bytes the cache next to the processor holds the elements.
+/// Up to this many bytes the elements are assumed to fit in the cache.
 inline constexpr std::size_t cached_bytes = std::size_t{1} << 20;
 
-/// The element asked about after both bounds are known.
+/// Returns the index compared between two known bounds.
 constexpr std::uint32_t middle(std::uint32_t low, std::uint32_t high) noexcept
 {
     return low + (high - low + 1) / 2;
 }
 
-/// Asks for both elements that may be probed after this one.
+/// Prefetches both elements that may be compared after this one.
 template <class Element>
 void prefetch_next(const Element *elements, std::uint32_t low, std::uint32_t high,
                    std::uint32_t probe) noexcept
@@ -64,7 +64,7 @@ void prefetch_next(const Element *elements, std::uint32_t low, std::uint32_t hig
         __builtin_prefetch(elements + middle(probe + 1, high));
 }
 
-/// Inlined, so that how it ended is not asked again.
+/// Always inlined: the caller's test of `answer` then folds into the loop exits.
 template <bool Prefetches, class Element, class Compare>
 [[gnu::always_inline]] inline Ordered_Probe probe(const Element *elements, std::uint32_t count,
                                                   const Element &key, Compare &compare) noexcept
@@ -90,8 +90,8 @@ template <bool Prefetches, class Element, class Compare>
     }
 }
 
-/// The same by the element's own order, for elements that the cache holds: the next range is chosen
-/// without a branch, which would be guessed wrong half the time. `length` elements from `low` are left.
+/// The same by the element's own order, for elements in the cache: the next half is chosen without a branch,
+/// which would be mispredicted half the time. `length` elements from `low` remain.
 template <class Element>
 Ordered_Probe probe_without_branches(const Element *elements, std::uint32_t count,
                                      const Element &key) noexcept
@@ -111,13 +111,13 @@ Ordered_Probe probe_without_branches(const Element *elements, std::uint32_t coun
         low += (half + 1) & (0u - above);
         length = half - ((half - rest) & (0u - above));
     }
-    // With nothing left, the last answer led past the upper bound.
+    // With nothing left, the last comparison led past the upper bound.
     if (length == 0)
         return {low - 1, ZEB_COMPARED_GREATER};
     return {low, Three_Way<>()(&key, elements + low)};
 }
 
-/// True when the single question that one element allows got none of the three answers.
+/// Whether a comparison returned none of the three results.
 constexpr bool is_unknown(ZEB_Comparison answer) noexcept
 {
     return answer < ZEB_COMPARED_EQUAL || answer > ZEB_COMPARED_GREATER;
@@ -125,8 +125,8 @@ constexpr bool is_unknown(ZEB_Comparison answer) noexcept
 
 } // namespace ordered_detail
 
-/// Runs the search all ordered operations share. It ends at the first answer that is neither 2 nor 3, or
-/// where the answer leads past a bound.
+/// The search shared by all ordered operations. It ends at the first comparison that is neither less nor
+/// greater, or where the comparison leads past a bound.
 template <class Element, class Compare>
 Ordered_Probe ordered_probe(std::span<const Element> elements, const std::type_identity_t<Element> &key,
                             Compare compare) noexcept
@@ -142,8 +142,8 @@ Ordered_Probe ordered_probe(std::span<const Element> elements, const std::type_i
     return ordered_detail::probe<false>(elements.data(), count, key, compare);
 }
 
-/// Index of an element equal to the key. An unknown answer also answers the element it was given about,
-/// except in a span of one element, where it finds nothing and warns if the answer was 0.
+/// Returns the index of an element equal to the key. An unknown comparison returns the index of the element
+/// compared; in a span of one element it is a miss, and warns if the result was 0.
 template <class Element, class Compare = Three_Way<>>
 Ordered_Find ordered_find(std::span<const Element> elements, const std::type_identity_t<Element> &key,
                           Compare compare = {}) noexcept
@@ -154,12 +154,12 @@ Ordered_Find ordered_find(std::span<const Element> elements, const std::type_ide
     if (elements.size() == 1)
         return {end.answer == ZEB_COMPARED_EQUAL ? 0 : ZEB_NOT_FOUND, end.answer == 0};
     const bool missed = end.answer == ZEB_COMPARED_LESS || end.answer == ZEB_COMPARED_GREATER;
-    // ZEB_NOT_FOUND has every bit set; a choice between the two would be guessed.
+    // ZEB_NOT_FOUND has every bit set; a conditional expression may become a branch.
     return {end.index | (0u - std::uint32_t{missed}), false};
 }
 
-/// The same, but a miss answers the index of the bound where the search stopped. Not found only when
-/// empty; one element answers 0 and warns of any unknown answer.
+/// The same, but a miss returns the index of the bound at which the search stopped; ZEB_NOT_FOUND only for an
+/// empty span. One element returns 0 and warns of any unknown comparison.
 template <class Element, class Compare = Three_Way<>>
 Ordered_Find ordered_find_nearest(std::span<const Element> elements, const std::type_identity_t<Element> &key,
                                   Compare compare = {}) noexcept
@@ -170,7 +170,8 @@ Ordered_Find ordered_find_nearest(std::span<const Element> elements, const std::
     return {end.index, elements.size() == 1 && ordered_detail::is_unknown(end.answer)};
 }
 
-/// Where an element belongs, or where its equal stands. One element warns of any unknown answer.
+/// Returns where an element belongs, or the index of an equal one. One element warns of any unknown
+/// comparison.
 template <class Element, class Compare = Three_Way<>>
 Ordered_Insert ordered_insert_position(std::span<const Element> elements,
                                        const std::type_identity_t<Element> &element,

@@ -11,8 +11,8 @@
 namespace zeb::engine
 {
 
-/// Which way a permutation is read: element i becomes what element `permutation[i]` was, or that becomes what
-/// element i was.
+/// The direction of a permutation: element i becomes the former element `permutation[i]` (forward), or
+/// element `permutation[i]` the former element i (inverse).
 enum class Permutation_Way : std::uint8_t { forward, inverse };
 
 /// Whether every entry of the permutation is an index below `count`.
@@ -24,9 +24,9 @@ inline bool names_elements(std::span<const std::uint32_t> permutation, std::size
     return permutation.empty() || largest < count;
 }
 
-/// Rearranges the elements by a permutation that is no longer than they are and names elements alone. Entries
-/// may repeat: read forward an element is then taken twice, read inversely the last one stays. Returns false,
-/// nothing changed, if allocation fails.
+/// Rearranges the elements by a permutation that is no longer than they are and whose entries are valid
+/// indexes. Entries may repeat: forward, an element is then copied twice; inverse, the last one stays.
+/// Returns false, with nothing changed, if allocation fails.
 template <class Element>
 bool rearrange(std::span<Element> elements, std::span<const std::uint32_t> permutation,
                Permutation_Way way) noexcept
@@ -36,7 +36,7 @@ bool rearrange(std::span<Element> elements, std::span<const std::uint32_t> permu
     if (used != 0 && copy.get() == nullptr)
         return false;
     std::copy_n(elements.data(), used, copy.get());
-    // An entry past the rearranged elements names one that keeps its value, so it can be read in place.
+    // An entry above the rearranged elements refers to one that keeps its value, so it is read in place.
     for (std::size_t i = 0; i < used; ++i)
         if (const std::uint32_t entry = permutation[i]; way == Permutation_Way::inverse)
             elements[entry] = copy.get()[i];
@@ -45,9 +45,8 @@ bool rearrange(std::span<Element> elements, std::span<const std::uint32_t> permu
     return true;
 }
 
-/// Rewrites the elements, read as `rows` rows of `columns`, column by column. Only where both are at
-/// least 2 and their product is the count; nothing changes otherwise. Answers false, nothing changed,
-/// when there is no memory for a copy.
+/// Transposes the elements, a matrix of `rows` and `columns` in row-major order, if both are at least 2 and
+/// their product is the count. Returns false, with nothing changed, if allocation fails.
 template <class Element>
 bool transpose(std::span<Element> elements, std::uint32_t rows, std::uint32_t columns) noexcept
 {
@@ -57,7 +56,7 @@ bool transpose(std::span<Element> elements, std::uint32_t rows, std::uint32_t co
     if (copy.get() == nullptr)
         return false;
     std::copy(elements.begin(), elements.end(), copy.get());
-    // In tiles, so that the lines read and written stay in the cache.
+    // In tiles, so that the cache lines read and written stay in the cache.
     constexpr std::uint32_t tile = 16;
     Element *const data = elements.data();
     for (std::uint64_t column = 0; column < columns; column += tile)

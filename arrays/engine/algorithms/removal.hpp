@@ -1,5 +1,4 @@
-/// Taking elements out of a run of plain values. The answers are the new counts; elements at and beyond
-/// a new count stay as they were.
+/// Removing plain elements. The result is the new count; elements at and above it keep their values.
 #pragma once
 
 #include "arrays/engine/kernels/element_lanes.hpp"
@@ -11,7 +10,7 @@
 namespace zeb::engine
 {
 
-/// Removes every element equal to the value and keeps the order of the rest.
+/// Removes every element equal to the value; the others keep their order.
 template <class Element, class Equality = Own_Equality>
 std::uint32_t remove_equal(std::span<Element> elements, const std::type_identity_t<Element> &value,
                            Equality equal = {}) noexcept

@@ -19,8 +19,8 @@ void swap_elements(std::span<Element> elements, std::uint32_t first, std::uint32
         std::swap(elements[first], elements[second]);
 }
 
-/// Moves an element so that it ends at index `to`; those between shift by one towards its old place. An
-/// index outside the span changes nothing.
+/// Moves an element to index `to`; those between shift by one towards its old index. An index outside the
+/// span changes nothing.
 template <class Element>
 void move_element(std::span<Element> elements, std::uint32_t from, std::uint32_t to) noexcept
 {

@@ -1,4 +1,4 @@
-/// Storing one value over every equal of another.
+/// Replacing every element equal to a value.
 #pragma once
 
 #include "arrays/engine/kernels/element_lanes.hpp"
@@ -11,7 +11,7 @@
 namespace zeb::engine
 {
 
-/// Replaces every element equal to `value` and answers how many. An element that differs is not written.
+/// Replaces every element equal to `value` and returns their number. Other elements are not written.
 template <class Element, class Equality = Own_Equality>
 std::uint32_t replace_equal(std::span<Element> elements, const std::type_identity_t<Element> &value,
                             const std::type_identity_t<Element> &replacement, Equality equal = {}) noexcept

@@ -1,5 +1,5 @@
-/// Linear searches. Every functor is asked (element, value); with the element's own equality the search
-/// runs in vectors.
+/// Linear searches. Every functor takes (element, value). The element's own equality uses vector
+/// instructions.
 #pragma once
 
 #include "arrays/engine/kernels/element_lanes.hpp"
@@ -14,14 +14,14 @@ namespace zeb::engine
 
 namespace search_detail
 {
-/// A kernel's answer "count" becomes "not found".
+/// Converts a kernel's "count" to ZEB_NOT_FOUND.
 inline std::uint32_t index_or_not_found(std::size_t index, std::size_t count) noexcept
 {
     return index == count ? ZEB_NOT_FOUND : static_cast<std::uint32_t>(index);
 }
 } // namespace search_detail
 
-/// Zero-based index of the first element equal to the value, or ZEB_NOT_FOUND.
+/// Returns the index of the first element equal to the value, or ZEB_NOT_FOUND.
 template <class Element, class Equality = Own_Equality>
 std::uint32_t first_index_of(std::span<const Element> elements, const std::type_identity_t<Element> &value,
                              Equality equal = {}) noexcept
@@ -38,7 +38,7 @@ std::uint32_t first_index_of(std::span<const Element> elements, const std::type_
     }
 }
 
-/// Zero-based index of the last element equal to the value, or ZEB_NOT_FOUND.
+/// Returns the index of the last element equal to the value, or ZEB_NOT_FOUND.
 template <class Element, class Equality = Own_Equality>
 std::uint32_t last_index_of(std::span<const Element> elements, const std::type_identity_t<Element> &value,
                             Equality equal = {}) noexcept
@@ -55,8 +55,8 @@ std::uint32_t last_index_of(std::span<const Element> elements, const std::type_i
     }
 }
 
-/// Start of the first occurrence of the pattern at or after the index `from`, one that ends with the last
-/// element included; ZEB_NOT_FOUND when there is none. An empty pattern never occurs.
+/// Returns the start of the first occurrence of the pattern at or after index `from`, including one that ends
+/// with the last element, or ZEB_NOT_FOUND. An empty pattern has no occurrences.
 template <class Element, class Equality = Own_Equality>
 std::uint32_t find_occurrence(std::span<const Element> elements,
                               std::span<const std::type_identity_t<Element>> pattern, std::uint32_t from = 0,
@@ -77,8 +77,8 @@ std::uint32_t find_occurrence(std::span<const Element> elements,
     return start == count ? ZEB_NOT_FOUND : from + static_cast<std::uint32_t>(start);
 }
 
-/// Start of the first occurrence of the pattern, or ZEB_NOT_FOUND. The last possible start, count - length,
-/// is never tried: an occurrence that ends with the last element is not found.
+/// Returns the start of the first occurrence of the pattern, or ZEB_NOT_FOUND. The last possible start, count
+/// - length, is never tried: an occurrence that ends with the last element is not found.
 template <class Element, class Equality = Own_Equality>
 std::uint32_t first_index_of_subsequence(std::span<const Element> elements,
                                          std::span<const std::type_identity_t<Element>> pattern,

@@ -1,5 +1,5 @@
-/// Sorting, ascending. The results are those of one Shell sort, element for element: a count that does
-/// not fit in a signed 32-bit number, or is below 2, changes nothing.
+/// Sorting in ascending order. Every method gives the result of one Shell sort, element for element. A count
+/// below 2 or above INT32_MAX changes nothing.
 #pragma once
 
 #include "arrays/engine/kernels/element_lanes.hpp"
@@ -43,7 +43,7 @@ void shell_sort(std::span<Element> elements, std::uint32_t *indexes, Precedes pr
             });
 }
 
-/// A strict order, asked with pointers.
+/// A strict order, called with pointers.
 template <class Less>
 struct By_Order {
     Less less;
@@ -54,7 +54,7 @@ struct By_Order {
     }
 };
 
-/// A comparison function, asked with pointers: only the answer 2 exchanges.
+/// A comparison function, called with pointers: only ZEB_COMPARED_LESS exchanges.
 template <class Compare>
 struct By_Comparison {
     Compare compare;
@@ -65,7 +65,7 @@ struct By_Comparison {
     }
 };
 
-/// Whether the indexes lie among the elements, where no exchange could be made in both.
+/// Whether the indexes overlap the elements, so that no exchange could be made in both.
 template <class Element>
 bool lie_among(std::span<std::uint32_t> indexes, std::span<Element> elements) noexcept
 {
@@ -74,7 +74,7 @@ bool lie_among(std::span<std::uint32_t> indexes, std::span<Element> elements) no
 
 } // namespace sort_detail
 
-/// Sorts by a strict order, the element's own unless another is given.
+/// Sorts by a strict order, by default the element's own.
 template <class Element, class Less = Own_Less>
 void sort(std::span<Element> elements, Less less = {}) noexcept
 {
@@ -86,18 +86,18 @@ void sort(std::span<Element> elements, Less less = {}) noexcept
     }
 }
 
-/// Sorts by a comparison that is asked (pointer to the later element, pointer to the earlier element)
-/// and exchanges them when it answers 2. The questions and their order are those of the Shell sort, and
-/// the pointers are into the span.
+/// Sorts by a comparison that takes a pointer to the later and one to the earlier element, both into the
+/// span, and exchanges them if it returns ZEB_COMPARED_LESS. The pairs and their order are those of the Shell
+/// sort.
 template <class Element, class Compare>
 void sort_by(std::span<Element> elements, Compare compare) noexcept
 {
     sort_detail::shell_sort(elements, sort_detail::By_Comparison<Compare>{compare});
 }
 
-/// Sorts, every exchange applied to `indexes` too: if they were 0, 1, 2, ... before, index i becomes the
-/// position that element i had. Returns false, nothing changed, if there are fewer indexes than elements.
-/// Indexes that lie among the elements are sorted with them and not exchanged.
+/// Sorts, and makes every exchange in `indexes` as well: if they were 0, 1, 2, ..., index i becomes the
+/// former position of element i. Returns false, with nothing changed, if there are fewer indexes than
+/// elements. Indexes that overlap the elements are sorted as elements and not exchanged separately.
 template <class Element, class Less = Own_Less>
 bool sort_with_permutation(std::span<Element> elements, std::span<std::uint32_t> indexes,
                            Less less = {}) noexcept
@@ -115,7 +115,7 @@ bool sort_with_permutation(std::span<Element> elements, std::span<std::uint32_t>
     return true;
 }
 
-/// The same by a caller's comparison, asked as in `sort_by`.
+/// The same by a caller's comparison, called as in `sort_by`.
 template <class Element, class Compare>
 bool sort_with_permutation_by(std::span<Element> elements, std::span<std::uint32_t> indexes,
                               Compare compare) noexcept

@@ -1,4 +1,4 @@
-/// The notes that arrays report, each text once and the same in every family.
+/// The notes that arrays report, the same in every family.
 #pragma once
 
 #include "core/engine/char_span.hpp"

@@ -1,4 +1,4 @@
-/// How the engine sees the fields of a vector or array object: by reference, made on the spot.
+/// The engine's view of a vector's or array's fields: references to them, built for each operation.
 #pragma once
 
 #include <Korvane_ZEB/ZEB_Types.h>
@@ -11,13 +11,13 @@
 namespace zeb::engine
 {
 
-/// The marker that the link makers set, and from which on arrays refuse to change their block.
+/// The marker of links. From this value on arrays refuse to change their block.
 inline constexpr std::uint32_t link_marker_of_links = 10000;
 
-/// The capacity of a link: nothing that it is asked to hold makes it grow.
+/// The capacity of a link: never exceeded, so a link never grows.
 inline constexpr std::uint32_t capacity_of_links = UINT32_MAX;
 
-/// The fields of a vector, and the kind of its elements.
+/// The fields of a vector, and its element kind.
 template <class Kind>
 struct Vector_Storage {
     using Element = typename Kind::Element;
@@ -41,7 +41,7 @@ struct Array_Storage : Vector_Storage<Kind> {
 
     bool is_link() const noexcept { return this->link_marker >= link_marker_of_links; }
 
-    /// The size of the block in bytes, of a link that of what it views.
+    /// The size in bytes of the block, or of what a link views.
     std::size_t block_size() const noexcept
     {
         return (is_link() ? this->count : capacity) * sizeof(typename Kind::Element);

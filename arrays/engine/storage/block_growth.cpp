@@ -33,7 +33,7 @@ std::uint64_t grown_capacity(std::uint32_t capacity, std::uint64_t needed, std::
     std::uint64_t grown = raised_to_seed(capacity, seed);
     while (grown <= needed)
         grown *= 2;
-    // The last doubling would pass 32 bits; what exceeds `needed` and fits does as well.
+    // The last doubling may exceed 32 bits; the greatest capacity then suffices.
     return needed < greatest_capacity ? std::min(grown, greatest_capacity) : grown;
 }
 
@@ -56,7 +56,7 @@ bool grow_block(Block &block, std::uint64_t needed, std::uint32_t seed, Block_La
 {
     if (block.capacity > needed)
         return true;
-    // The sum of two counts can pass 32 bits; the doubling below must still end.
+    // The sum of two counts can exceed 32 bits.
     if (needed >= greatest_capacity)
         return false;
     return resize_block(block, grown_capacity(block.capacity, needed, seed), layout);

@@ -1,24 +1,27 @@
-/// How an array keeps an element: plainly, as a counted reference, or as an object of its own.
+/// Element kinds: how an array stores its elements, as plain values, counted references or objects of its
+/// own.
 ///
-/// A kind knows seven moves, from which every array operation is made. `data` is the array's block, and the
-/// live elements are those below the count.
+/// An element kind provides these operations. `data` is the array's block; the live elements are those below
+/// the count.
 ///
-///     open       slots become live: undefined values, no object, or an empty object
-///     adopt      the slots are the array's own from now on, also where its storage was set from outside
-///     disown     the slots belong to whoever set the storage: none of them is opened or ended
-///     close      slots stop being live: what they hold is dropped
-///     prepare    live slots get the room for a source's contents; where that cannot be had, nothing changed
-///     assign     live slots take the elements of a source (which may lie in the same block, further up);
-///                after `prepare` this cannot fail
-///     open_gap   live elements move up; the slots in between are as freshly opened
-///     close_gap  live elements are dropped and those after them move down
-///     destroy    the array ends, or its block is cut: drops what the slots from an index on still hold
+///     open           makes slots live: undefined values, nil, or empty objects; false if creation fails
+///     adopt          makes the slots below the count the array's own, even if its storage was set from
+///                    outside
+///     disown         leaves the slots to whoever set the storage: none is filled or released
+///     close          ends live slots and drops their references; objects that the array made stay for
+///                    reuse
+///     prepare        makes room in live slots for a source's contents; false if allocation fails
+///     assign         stores a source's elements in live slots; the source may lie in the same block,
+///                    further up; cannot fail after `prepare`; references in the source are the caller's
+///     assign_shared  the same, for references that another array keeps
+///     open_gap       moves live elements up; the slots of the gap are as after `open`
+///     close_gap      drops live elements and moves those after them down
+///     destroy        drops what the slots from an index on still hold, before the block is freed or cut
+///     fresh          returns the same kind for a second block, whose state is a `Fresh`
+///     take           makes the state of that second block the array's
 ///
-/// `Equality` and `Less` are the element's own: objects that an array holds are told by their contents,
-/// references by identity and address.
-///
-/// `fresh` is the same kind for a second block, whose own state `Fresh` carries; `take` makes that block
-/// the array's.
+/// `Equality` and `Less` compare elements: objects that the array made by their contents, references by
+/// identity and address.
 #pragma once
 
 #include "arrays/engine/allocator.hpp"
@@ -32,7 +35,7 @@
 namespace zeb::engine
 {
 
-/// Numbers, characters and pointers: bytes that may be copied and forgotten.
+/// Numbers, characters and pointers: copied bytewise, with nothing to release.
 template <class Type>
 struct Plain_Elements {
     using Element = Type;
@@ -100,8 +103,8 @@ struct Counted_References {
     Counted_References fresh(Fresh &) const noexcept { return *this; }
     void take(Fresh) const noexcept {}
 
-    /// The slots behind the count hold nothing in a block of the array's own, which is filled with zeros and
-    /// keeps no dropped reference. Storage that was set from outside is not written.
+    /// In the array's own block the slots above the count are nil: it starts zero-filled and keeps no dropped
+    /// reference. Storage set from outside is not written.
     bool open(Element *, std::uint32_t, std::uint32_t) const noexcept { return true; }
     void adopt(std::uint32_t) const noexcept {}
     void disown() const noexcept {}
@@ -128,7 +131,7 @@ struct Counted_References {
         replace_each(slots, source, n, mode == retains);
     }
 
-    /// The source's references stay with the array that holds them: modes 1 and 2 both retain.
+    /// The source's references stay with another array: modes 1 and 2 both retain.
     void assign_shared(Element *slots, Element const *source, std::uint32_t n) const noexcept
     {
         replace_each(slots, source, n, mode != borrows);
@@ -159,7 +162,7 @@ private:
         for (std::uint32_t i = 0; i < n; ++i) {
             const Element stored = source[i];
             const Element dropped = slots[i];
-            // First the new one, then the old: they may be the same object.
+            // Retain before release: both may be the same object.
             if (retain && stored != Element{})
                 Policy::retain(stored);
             slots[i] = stored;
@@ -168,9 +171,9 @@ private:
     }
 };
 
-/// Objects that the array makes itself, one for a slot, and keeps past the count for reuse. Storing an
-/// element copies its contents into the slot's object. `Policy` makes, copies, compares and ends them, and
-/// makes the room that a copy takes.
+/// Objects that the array creates itself, one per slot, and keeps above the count for reuse. Storing an
+/// element copies its contents into the slot's object. `Policy` creates, compares and releases objects, and
+/// copies contents after making room for them.
 template <class Policy>
 struct Held_Objects {
     using Element = typename Policy::Element;
@@ -184,7 +187,7 @@ struct Held_Objects {
     static constexpr bool holds_objects = true;
     static constexpr bool zero_filled = true;
 
-    /// What `held` says where the slots are not the array's own.
+    /// The value of `held` while the slots belong to the caller.
     static constexpr std::uint32_t disowned = UINT32_MAX;
 
     std::uint32_t &held; ///< slots below this number hold an object that the array made
@@ -197,7 +200,7 @@ struct Held_Objects {
 
     static std::uint64_t hash(Element object) noexcept { return Policy::hash(object); }
 
-    /// How many slots hold an object that the array made.
+    /// Returns the number of slots that hold an object made by the array.
     std::uint32_t made() const noexcept { return held == disowned ? 0 : held; }
 
     void adopt(std::uint32_t count) const noexcept
@@ -210,7 +213,7 @@ struct Held_Objects {
 
     bool open(Element *data, std::uint32_t, std::uint32_t to) const noexcept
     {
-        // So many objects take far less than the reserve.
+        // This many objects need far less than the reserve.
         constexpr std::uint32_t objects_between_looks = 64;
         for (const std::uint32_t first = held; held < to; ++held) {
             if ((held - first) % objects_between_looks == 0 && !has_reserve())

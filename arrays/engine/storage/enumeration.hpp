@@ -1,4 +1,4 @@
-/// Handing a whole block of objects to an enumeration.
+/// Fast enumeration of a block of objects.
 #pragma once
 
 #include <cstddef>
@@ -7,8 +7,8 @@
 namespace zeb::engine
 {
 
-/// Sets an enumeration's state to all elements at the first call, and to none at the second. A change of
-/// the block's place is seen as a mutation. Answers how many elements are handed over.
+/// Sets an enumeration's state to all elements on the first call and to none on the second, and returns their
+/// number. A moved block counts as a mutation.
 template <class State, class Element>
 std::size_t hand_over_once(State &state, Element *&data, std::uint32_t count) noexcept
 {

@@ -1,4 +1,4 @@
-/// When two vectors of one family are equal, and a hash that agrees with it.
+/// Equality of two vectors of one family, and a hash that agrees with it.
 #pragma once
 
 #include "arrays/engine/algorithms/equality.hpp"
@@ -9,7 +9,7 @@
 namespace zeb::engine
 {
 
-/// Plain elements and references are compared as memory, held objects by their contents.
+/// Compares plain elements and references bytewise, and objects that the array made by their contents.
 template <class Kind>
 bool equals_as_vector(std::span<const typename Kind::Element> left,
                       std::span<const typename Kind::Element> right) noexcept
@@ -20,7 +20,7 @@ bool equals_as_vector(std::span<const typename Kind::Element> left,
         return same_memory(left, right);
 }
 
-/// Equal vectors have equal hashes. That of held objects is made of their own.
+/// Returns a hash that is equal for equal vectors; for objects that the array made it is built from theirs.
 template <class Kind>
 std::uint64_t hash_as_vector(std::span<const typename Kind::Element> elements) noexcept
 {

@@ -1,4 +1,4 @@
-/// Storing one element into a range of a vector, for every kind of element.
+/// Storing one element into a range of a vector, for every element kind.
 #pragma once
 
 #include "arrays/engine/algorithms/fill.hpp"
@@ -8,9 +8,8 @@
 namespace zeb::engine
 {
 
-/// Stores `element` into the range, both ends included; a range that starts after its end fills nothing,
-/// and what of it lies past the last element is left out. Where an object cannot take the contents, that is
-/// reported, and nothing changes.
+/// Stores `element` into an inclusive range, which is cut at the last element; one that starts after its end
+/// is empty. If an object cannot make room for the contents, that is reported and nothing changes.
 template <class Kind, class Report>
 void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename Kind::Element element,
                      Report report) noexcept
@@ -28,7 +27,7 @@ void fill_range_with(Vector_Storage<Kind> vector, ZEB_Index_Range range, typenam
     }
 }
 
-/// Stores `element` everywhere, under the same conditions.
+/// Stores `element` at every index, under the same conditions.
 template <class Kind, class Report>
 void fill_with(Vector_Storage<Kind> vector, typename Kind::Element element, Report report) noexcept
 {

@@ -1,7 +1,7 @@
-/// Putting elements into a growable array: append, insert, replace, and taking whole contents.
+/// Storing elements in a growable array: append, insert, replace, and set the whole contents.
 ///
-/// Each operation refuses on a link with its note. A failed allocation is reported, and the array stays
-/// as it was. A source that lies in the array's own block is read as if it had been copied first.
+/// Each operation refuses a link with its note. A failed allocation is reported, and the array is unchanged.
+/// A source that lies in the array's own block is read as if copied first.
 #pragma once
 
 #include "arrays/engine/storage/lifetime.hpp"
@@ -15,7 +15,7 @@
 namespace zeb::engine
 {
 
-/// Elements to put in: where they are, how many, whose references they are.
+/// A run of elements to store, and who holds its references.
 template <class Kind>
 struct Elements_Of {
     typename Kind::Element const *first;
@@ -25,8 +25,8 @@ struct Elements_Of {
     std::span<typename Kind::Element const> span() const noexcept { return {first, count}; }
 };
 
-/// Whether a source lies in the array's block, among the live elements or behind them, where a link sees what
-/// a larger count once held.
+/// Whether a source lies in the array's block: among the live elements, or above them, where a link may still
+/// view elements of a larger count.
 template <class Kind>
 bool lies_in_block(Array_Storage<Kind> array, Elements_Of<Kind> source) noexcept
 {
@@ -39,7 +39,7 @@ template <class Kind, class Report>
 bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Kind> elements,
                       std::uint64_t needed, Report report) noexcept;
 
-/// Inserts a copy of a source that growth and the gap would move or overwrite.
+/// Inserts a copy of the source, because growth and the gap would move or overwrite the source itself.
 template <class Kind, class Report>
 [[gnu::noinline, gnu::cold]] bool insert_copy(Array_Storage<Kind> array, std::uint32_t at,
                                               Elements_Of<Kind> elements, std::uint64_t needed,
@@ -54,8 +54,8 @@ template <class Kind, class Report>
                             needed, report);
 }
 
-/// Inserts before index `at` (the count appends) into an owner, once its capacity exceeds `needed`, which
-/// is the new count less one at least.
+/// Inserts before index `at` (the count appends) into an owner, after growing its capacity above `needed`,
+/// which is at least the new count less one.
 template <class Kind, class Report>
 bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Kind> elements,
                       std::uint64_t needed, Report report) noexcept
@@ -77,8 +77,7 @@ bool insert_with_room(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<K
     return true;
 }
 
-/// The append of an element that does not find its slot ready. Kept out of line, so that the one that
-/// does is nothing but two tests and a store.
+/// Appends an element when no slot is ready. Out of line, so that the common case is two tests and a store.
 template <class Kind, class Report>
 [[gnu::noinline, gnu::cold]] void append_with_growth(Array_Storage<Kind> array,
                                                      typename Kind::Element element, Report report) noexcept
@@ -97,7 +96,7 @@ inline void append_element(Array_Storage<Kind> array, typename Kind::Element ele
     ++array.count;
 }
 
-/// Appending nothing returns at once, before the link test.
+/// Appending no elements returns without a link test or report.
 template <class Kind, class Report>
 void append_elements(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report report) noexcept
 {
@@ -129,7 +128,7 @@ void insert_elements(Array_Storage<Kind> array, Elements_Of<Kind> elements, std:
         insert_with_room(array, at, elements, std::uint64_t{array.count} + elements.count, report);
 }
 
-/// Puts `elements` in the place of the element at `at`; none removes it. An index past the last element
+/// Replaces the element at `at` with `elements`; without any it is removed. An index past the last element
 /// changes nothing.
 template <class Kind, class Report>
 void replace_element(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Kind> elements,
@@ -139,13 +138,13 @@ void replace_element(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Ki
         return report(notes::replace_element_through_link);
     if (at >= array.count)
         return;
-    // The new elements come first, behind the old one, which may be among them.
+    // Insert after the old element first: it may be among the new ones.
     const std::uint64_t needed = std::uint64_t{array.count} + elements.count - 1;
     if (elements.count == 0 || insert_with_room(array, at + 1, elements, needed, report))
         take_out(Vector_Storage<Kind>(array), at, 1);
 }
 
-/// Makes the array a copy of the elements. A link becomes an owner and forgets what it viewed.
+/// Replaces the contents with a copy of the elements. A link becomes an owner.
 template <class Kind, class Report>
 void set_contents(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report report) noexcept
 {
@@ -174,7 +173,7 @@ void set_contents(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report 
     array.count = elements.count;
 }
 
-/// Makes the array exactly this one element.
+/// Replaces the contents with one element.
 template <class Kind, class Report>
 void copy_element(Array_Storage<Kind> array, typename Kind::Element element, Report report) noexcept
 {

@@ -1,7 +1,7 @@
-/// Making, linking, copying and ending a vector's storage.
+/// Allocating, linking, copying and releasing a vector's storage.
 ///
-/// Every `report` takes a note. A failed allocation is reported, and leaves no block and no elements
-/// behind where the storage was new, or the storage as it was where it had been in use.
+/// Every `report` takes a note. A failed allocation is reported; new storage is then left empty, and storage
+/// already in use is unchanged.
 #pragma once
 
 #include "arrays/engine/allocator.hpp"
@@ -11,7 +11,7 @@
 namespace zeb::engine
 {
 
-/// Drops the elements and frees the block of an owner; a link forgets what it views.
+/// Releases an owner's elements and its block, and empties the storage. What a link views is unchanged.
 template <class Kind>
 void finish(Vector_Storage<Kind> storage) noexcept
 {
@@ -23,7 +23,8 @@ void finish(Vector_Storage<Kind> storage) noexcept
     storage.count = 0;
 }
 
-/// A block for `capacity` elements; none for 0. Null data with capacity 0 tells that memory is short.
+/// Returns a block for `capacity` elements; none for 0. If allocation fails the block has null data and
+/// capacity 0.
 template <class Kind, class Report>
 Block make_block(std::uint64_t capacity, Report report) noexcept
 {
@@ -33,8 +34,8 @@ Block make_block(std::uint64_t capacity, Report report) noexcept
     return block;
 }
 
-/// Gives new storage room for `capacity` elements, of which `count` are live and undefined, and answers
-/// the room that it has.
+/// Allocates new storage for `capacity` elements, of which `count` are live and undefined, and returns its
+/// capacity; 0 if allocation fails.
 template <class Kind, class Report>
 std::uint32_t start(Vector_Storage<Kind> storage, std::uint32_t count, std::uint64_t capacity,
                     Report report) noexcept
@@ -53,16 +54,16 @@ std::uint32_t start(Vector_Storage<Kind> storage, std::uint32_t count, std::uint
     return block.capacity;
 }
 
-/// Views `count` elements that belong to someone else. The marker is the caller's to set.
+/// Makes the storage view `count` elements that it does not own. The caller sets the marker.
 template <class Kind>
 void view(Vector_Storage<Kind> storage, typename Kind::Element const *data, std::uint32_t count) noexcept
 {
-    // A link may view read-only memory: it is written only when the caller asks for it.
+    // Read-only memory may be viewed: a link writes only when the caller stores through it.
     storage.data = const_cast<typename Kind::Element *>(data);
     storage.count = count;
 }
 
-/// Views the elements of `range`, both ends included, of the block at `data`. The range is not checked.
+/// Views an inclusive range of the block at `data`. The range is not checked.
 template <class Kind>
 void view_range(Vector_Storage<Kind> storage, typename Kind::Element const *data,
                 ZEB_Index_Range range) noexcept
@@ -70,7 +71,7 @@ void view_range(Vector_Storage<Kind> storage, typename Kind::Element const *data
     view(storage, data + range.start, range.end - range.start + 1);
 }
 
-/// Whose references the source of a copy are; only arrays of counted references tell them apart.
+/// Who holds the references that are copied. Only arrays of counted references distinguish them.
 enum class Source { of_the_caller, of_another_array };
 
 template <class Kind>
@@ -83,7 +84,8 @@ void assign_from(Source source, Kind kind, typename Kind::Element *slots,
         kind.assign(slots, elements, n);
 }
 
-/// Makes new storage a copy of `n` elements, in a block of `capacity`, and answers the room that it has.
+/// Makes new storage a copy of `n` elements, in a block of `capacity`, and returns its capacity; 0 if
+/// allocation fails.
 template <class Kind, class Report>
 std::uint32_t start_as_copy(Vector_Storage<Kind> storage, Source source,
                             typename Kind::Element const *elements, std::uint32_t n, std::uint64_t capacity,
@@ -99,10 +101,9 @@ std::uint32_t start_as_copy(Vector_Storage<Kind> storage, Source source,
     return room;
 }
 
-/// Puts a copy of `n` elements, in a block of `capacity` (at least `n`), in the place of what the storage
-/// holds; a link becomes an owner and forgets what it viewed. The elements may be the storage's own.
-/// Sets `room` to what the new block holds. Answers false when there is no memory; the storage then stays
-/// as it was.
+/// Replaces the storage with a copy of `n` elements, which may be its own, in a new block of `capacity` (at
+/// least `n`), and sets `room` to that block's capacity. A link becomes an owner. Returns false, with the
+/// storage unchanged, if allocation fails.
 template <class Kind, class Report>
 bool replace_with_copy(Vector_Storage<Kind> storage, Source source, typename Kind::Element const *elements,
                        std::uint32_t n, std::uint64_t capacity, std::uint32_t &room, Report report) noexcept

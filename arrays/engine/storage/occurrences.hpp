@@ -1,4 +1,4 @@
-/// Replacing the occurrences of a run of elements by another run, in an array of any kind.
+/// Replacing the occurrences of a run of elements with another run, in arrays of every element kind.
 #pragma once
 
 #include "arrays/engine/algorithms/occurrences.hpp"
@@ -16,14 +16,14 @@ namespace zeb::engine
 namespace occurrences_detail
 {
 
-/// A pattern, and what comes in the place of each of its occurrences. Neither is owned.
+/// A pattern, and the replacement of each of its occurrences. Neither is owned.
 template <class Element>
 struct Replacement_Of {
     std::span<const Element> pattern;
     std::span<const Element> replacement;
 };
 
-/// The case of a replacement that is not longer: the block stays.
+/// Replaces with a run that is not longer than the pattern: the block stays.
 template <class Element, class Report>
 std::uint32_t replace_within_block(Array_Storage<Plain_Elements<Element>> array, Replacement_Of<Element> runs,
                                    Report report) noexcept
@@ -41,11 +41,11 @@ std::uint32_t replace_within_block(Array_Storage<Plain_Elements<Element>> array,
     return replaced.replacements;
 }
 
-/// So many starts of occurrences are remembered from counting; those past them are looked for again.
+/// The number of occurrence starts remembered while counting; later ones are searched for again.
 inline constexpr std::size_t most_remembered = std::size_t{1} << 20;
 
 /// Copies the elements to `made`, which has exactly the room of the result, with each occurrence replaced.
-/// The first occurrences start at `known`; those behind them are looked for.
+/// The first occurrences start at `known`; later ones are searched for.
 template <class Element>
 void copy_replaced(std::span<const Element> elements, Replacement_Of<Element> runs,
                    std::span<const std::uint32_t> known, std::span<Element> made) noexcept
@@ -65,8 +65,8 @@ void copy_replaced(std::span<const Element> elements, Replacement_Of<Element> ru
                                             made.subspan(written));
 }
 
-/// The case of a longer replacement: the result is built into a block of its own, and the old block, in
-/// which the two runs may lie, is freed last.
+/// Replaces with a longer run: builds the result in a new block and frees the old one last, because both runs
+/// may lie in it.
 template <class Element, class Report>
 std::uint32_t replace_into_new_block(Array_Storage<Plain_Elements<Element>> array,
                                      Replacement_Of<Element> runs, Report report) noexcept
@@ -97,15 +97,15 @@ std::uint32_t replace_into_new_block(Array_Storage<Plain_Elements<Element>> arra
     return static_cast<std::uint32_t>(found);
 }
 
-/// Where the occurrences of a run start, the length of that run, and of what comes in its place.
+/// The starts of a run's occurrences, its length, and the length of its replacement.
 struct Occurrences {
     std::span<const std::uint32_t> starts;
     std::uint32_t pattern_length;
     std::uint32_t replacement_length;
 };
 
-/// Exchanges each occurrence for the next elements of `fresh`, which are not longer, and closes the gaps.
-/// The slots past the new count are left with what was dropped.
+/// Exchanges each occurrence for the next elements of `fresh`, which are not longer, and closes the gaps. The
+/// slots above the new count receive the elements removed.
 template <class Element>
 void exchange_from_front(Element *data, std::uint32_t count, Occurrences found, Element *fresh) noexcept
 {
@@ -124,7 +124,7 @@ void exchange_from_front(Element *data, std::uint32_t count, Occurrences found, 
     keep_until(count);
 }
 
-/// The same for longer replacements: the slots up to `new_count` are open.
+/// The same for longer replacements. The slots up to `new_count` are open.
 template <class Element>
 void exchange_from_back(Element *data, std::uint32_t count, std::uint32_t new_count, Occurrences found,
                         Element *fresh) noexcept
@@ -142,8 +142,8 @@ void exchange_from_back(Element *data, std::uint32_t count, std::uint32_t new_co
     }
 }
 
-/// Exchanges the occurrences for `fresh`, which holds what comes in their place; false, after a report, where
-/// the array cannot grow.
+/// Exchanges the occurrences for the replacements in `fresh`. Reports and returns false if the array cannot
+/// grow.
 template <class Kind, class Report>
 bool exchange(Array_Storage<Kind> array, std::uint32_t new_count, Occurrences found,
               typename Kind::Element *fresh, Report report) noexcept
@@ -161,8 +161,8 @@ bool exchange(Array_Storage<Kind> array, std::uint32_t new_count, Occurrences fo
     return true;
 }
 
-/// Objects that stay keep their identity; what is dropped ends with the copies that were made of the
-/// replacement. Both runs may be among the elements that change.
+/// Objects that stay keep their identity; those removed are released with the copies of the replacement. Both
+/// runs may be among the elements that change.
 template <class Kind, class Report>
 std::uint32_t replace_objects(Array_Storage<Kind> array, std::span<typename Kind::Element const> pattern,
                               std::span<typename Kind::Element const> replacement, Report report) noexcept
@@ -193,10 +193,10 @@ std::uint32_t replace_objects(Array_Storage<Kind> array, std::span<typename Kind
 
 } // namespace occurrences_detail
 
-/// Replaces every occurrence of `pattern`, from the front and without overlap, one that ends with the last
-/// element included, and returns how many there were. An empty pattern never occurs. Of plain elements a
-/// replacement that is not longer leaves the block and its capacity; a longer one moves the elements into a
-/// block of the smallest seed × 2^k past the new count. A link refuses and returns 0. A failed allocation is
+/// Replaces every occurrence of `pattern`, from the front and without overlap, including one that ends with
+/// the last element, and returns their number. An empty pattern has none. For plain elements, a replacement
+/// that is not longer keeps the block and its capacity; a longer one moves the elements to a block of the
+/// smallest seed × 2^k above the new count. A link is refused and 0 returned. A failed allocation is
 /// reported, 0 is returned and nothing changes. Both runs may be the array's own elements.
 template <class Kind, class Report>
 std::uint32_t replace_occurrences(Array_Storage<Kind> array, std::span<typename Kind::Element const> pattern,

@@ -1,4 +1,4 @@
-/// The ordered operations of vectors and arrays: a search, and what is told and inserted after it.
+/// Ordered search and insertion with the reports of vectors and arrays.
 #pragma once
 
 #include "arrays/engine/algorithms/ordered_search.hpp"
@@ -7,7 +7,7 @@
 namespace zeb::engine
 {
 
-/// Answers what was found, after the warning that it calls for.
+/// Reports the unknown-comparison warning if `found.warns`, and returns `found.index`.
 template <class Report>
 std::uint32_t told(Ordered_Find found, Report report) noexcept
 {
@@ -16,8 +16,8 @@ std::uint32_t told(Ordered_Find found, Report report) noexcept
     return found.index;
 }
 
-/// Answers the index of an element equal to `element`; without one, inserts it where it belongs if
-/// `inserts` says so, and answers its index, else ZEB_NOT_FOUND. The link test comes at the insertion.
+/// Returns the index of an element equal to `element`. Without one, inserts `element` in order if `inserts`
+/// is set and returns its index, else returns ZEB_NOT_FOUND. Only the insertion tests for a link.
 template <class Kind, class Compare, class Report>
 std::uint32_t ordered_insert(Array_Storage<Kind> array, typename Kind::Element element, Compare compare,
                              bool inserts, Report report) noexcept

@@ -1,4 +1,4 @@
-/// Sources of an operation that lie in the block it is about to change.
+/// Copies of sources that lie in the block an operation is about to change.
 #pragma once
 
 #include "arrays/engine/overlap.hpp"
@@ -9,7 +9,7 @@
 namespace zeb::engine
 {
 
-/// A copy of a run of elements, or several copies one after the other, kept as the array keeps its own.
+/// A copy of a run of elements, or several copies one after the other, stored as the array stores its own.
 template <class Kind>
 class Copied_Run
 {
@@ -39,7 +39,7 @@ public:
 
     std::span<Element const> elements() const noexcept { return {data, count}; }
 
-    /// The slots themselves; what is stored there is dropped with the copy.
+    /// Returns the slots. Elements stored there are released with the copy.
     Element *slots() noexcept { return data; }
 
 private:
@@ -51,15 +51,15 @@ private:
     bool valid = false;
 };
 
-/// A run that an operation reads as if it had been copied before the operation began. It is copied only where
-/// it has memory in common with the block that the operation changes.
+/// A run of elements, read as if copied before the operation began. It is copied only if it overlaps the
+/// block that the operation changes.
 template <class Kind>
 class Own_Source
 {
 public:
     using Element = typename Kind::Element;
 
-    /// `block` is that block, of `size` bytes.
+    /// The operation changes the `size` bytes at `block`.
     Own_Source(Kind kind, std::span<Element const> run, const void *block, std::size_t size) noexcept
         : overlapping(overlaps(run, block, size)), copy(kind, overlapping ? run : std::span<Element const>()),
           run(run)
@@ -79,7 +79,7 @@ private:
     std::span<Element const> run;
 };
 
-/// The same for plain elements of any array.
+/// The same for plain elements.
 template <class Element>
 using Own_Values = Own_Source<Plain_Elements<Element>>;
 

@@ -1,4 +1,4 @@
-/// Rearranging a vector by a list of indexes, for every kind of element.
+/// Rearranging a vector by a list of indexes, for every element kind.
 #pragma once
 
 #include "arrays/engine/algorithms/permutation.hpp"
@@ -11,8 +11,8 @@ namespace zeb::engine
 namespace permutation_detail
 {
 
-/// Entries may repeat, so that objects are stored anew rather than moved. False if allocation fails, nothing
-/// changed then.
+/// Entries may repeat, so objects are stored from a copy rather than moved. Returns false, with nothing
+/// changed, if allocation fails.
 template <class Kind>
 bool permute_objects(Vector_Storage<Kind> vector, std::span<const std::uint32_t> permutation,
                      Permutation_Way way) noexcept
@@ -37,8 +37,8 @@ bool permute_objects(Vector_Storage<Kind> vector, std::span<const std::uint32_t>
 
 } // namespace permutation_detail
 
-/// Rearranges as many elements as the shorter of both has. An entry outside the vector is reported, and so is
-/// a failed allocation; nothing changes then. The permutation may lie among the elements.
+/// Rearranges as many elements as the shorter of both has. An entry outside the vector or a failed allocation
+/// is reported, and nothing changes. The permutation may lie among the elements.
 template <class Kind, class Report>
 void permute(Vector_Storage<Kind> vector, std::span<const std::uint32_t> entries, Permutation_Way way,
              Report report) noexcept

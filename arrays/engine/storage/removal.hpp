@@ -1,5 +1,4 @@
-/// Taking elements out of a vector, for every kind of element. It works through a link, too, and then
-/// shifts the owner's elements.
+/// Removing elements from a vector, for every element kind. Through a link the owner's elements are shifted.
 #pragma once
 
 #include "arrays/engine/algorithms/removal.hpp"
@@ -12,7 +11,7 @@
 namespace zeb::engine
 {
 
-/// Takes out `n` elements at `at`; the caller has checked the range.
+/// Removes `n` elements at `at`; the caller has checked the range.
 template <class Kind>
 void take_out(Vector_Storage<Kind> vector, std::uint32_t at, std::uint32_t n) noexcept
 {
@@ -20,7 +19,7 @@ void take_out(Vector_Storage<Kind> vector, std::uint32_t at, std::uint32_t n) no
     vector.count -= n;
 }
 
-/// Takes out the element at `at`; an index past the last changes nothing.
+/// Removes the element at `at`; an index past the last changes nothing.
 template <class Kind>
 void remove_element(Vector_Storage<Kind> vector, std::uint32_t at) noexcept
 {
@@ -28,7 +27,7 @@ void remove_element(Vector_Storage<Kind> vector, std::uint32_t at) noexcept
         take_out(vector, at, 1);
 }
 
-/// Takes out every element equal to `element` and keeps the order of the rest.
+/// Removes every element equal to `element`; the others keep their order.
 template <class Kind>
 void remove_every(Vector_Storage<Kind> vector, typename Kind::Element element) noexcept
 {
@@ -45,7 +44,7 @@ void remove_every(Vector_Storage<Kind> vector, typename Kind::Element element) n
     }
 }
 
-/// Whether a range ends before it starts, which is reported.
+/// Whether a range ends before it starts. If so, reports it.
 template <class Report>
 bool is_reversed(ZEB_Index_Range range, Report report) noexcept
 {
@@ -54,7 +53,7 @@ bool is_reversed(ZEB_Index_Range range, Report report) noexcept
     return range.start > range.end;
 }
 
-/// Takes out the range, both ends included; what of it lies past the last element is left out.
+/// Removes an inclusive range, which is cut at the last element.
 template <class Kind, class Report>
 void remove_range(Vector_Storage<Kind> vector, ZEB_Index_Range range, Report report) noexcept
 {
@@ -63,7 +62,7 @@ void remove_range(Vector_Storage<Kind> vector, ZEB_Index_Range range, Report rep
     take_out(vector, range.start, std::min(range.end, vector.count - 1) - range.start + 1);
 }
 
-/// Puts one element in the place of the range, under the same conditions.
+/// Replaces the range with one element, under the same conditions.
 template <class Kind, class Report>
 void replace_range(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename Kind::Element element,
                    Report report) noexcept

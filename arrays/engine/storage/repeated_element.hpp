@@ -1,4 +1,4 @@
-/// One element that goes into several slots.
+/// One element stored into several slots.
 #pragma once
 
 #include "arrays/engine/storage/array_storage.hpp"
@@ -7,8 +7,8 @@
 namespace zeb::engine
 {
 
-/// Every slot is prepared first. The first one stored to takes over the caller's reference, where the kind
-/// takes it; the others take references of their own.
+/// Call `prepare` for every slot before the first `store`. The first slot may take over the caller's
+/// reference; the others take references of their own.
 template <class Kind>
 class Repeated_Element
 {

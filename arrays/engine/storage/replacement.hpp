@@ -1,4 +1,4 @@
-/// Storing one element over every equal of another, for every kind of element.
+/// Replacing every element equal to a given one, for every element kind.
 #pragma once
 
 #include "arrays/engine/algorithms/replacement.hpp"
@@ -10,8 +10,8 @@
 namespace zeb::engine
 {
 
-/// Stores `replacement` over every element equal to `element`, and answers how many those were. Where an
-/// object cannot take the contents, that is reported, nothing changes, and the answer is 0.
+/// Stores `replacement` over every element equal to `element` and returns their number. If an object cannot
+/// make room for the contents, that is reported, nothing changes, and 0 is returned.
 template <class Kind, class Report>
 std::uint32_t replace_every(Vector_Storage<Kind> vector, typename Kind::Element element,
                             typename Kind::Element replacement, Report report) noexcept
@@ -33,7 +33,8 @@ std::uint32_t replace_every(Vector_Storage<Kind> vector, typename Kind::Element 
             if (!equal(vector.data[i], element))
                 continue;
             ++replaced;
-            // The slot that holds `element` itself comes last: until then it tells which ones are meant.
+            // The slot that holds `element` itself comes last, because overwriting it would change what the
+            // others are compared with.
             const std::uint32_t now = vector.data[i] == element ? std::exchange(last, i) : i;
             if (now != vector.count)
                 repeated.store(now);

@@ -1,7 +1,7 @@
-/// Size and capacity of a growable array: trimming, lengths, room; and the pointer and the count of a vector.
+/// Count and capacity of growable arrays, and the data pointer and count of vectors.
 ///
-/// Each operation of arrays refuses on a link with its note. A failed allocation is reported, and the array
-/// stays as it was.
+/// Array operations refuse a link with their note. A failed allocation is reported, and the array is
+/// unchanged.
 #pragma once
 
 #include "arrays/engine/storage/array_notes.hpp"
@@ -10,8 +10,8 @@
 namespace zeb::engine
 {
 
-/// Grows the block until the capacity exceeds `needed`; false, after the report of `failure`, where that
-/// cannot be.
+/// Grows the block until the capacity exceeds `needed`. Reports `failure` and returns false if allocation
+/// fails.
 template <class Kind, class Report>
 bool grow(Array_Storage<Kind> array, std::uint64_t needed, Report report,
           Char_Span failure = notes::reallocate_failed) noexcept
@@ -28,8 +28,8 @@ bool grow(Array_Storage<Kind> array, std::uint64_t needed, Report report,
     return true;
 }
 
-/// Makes the slots from the count up to `count` live; false, after a report, where an element object
-/// cannot be made.
+/// Makes the slots from the count up to `count` live. Reports `failure` and returns false if an element
+/// object cannot be created.
 template <class Kind, class Report>
 bool open_up_to(Array_Storage<Kind> array, std::uint32_t count, Report report,
                 Char_Span failure = notes::reallocate_failed) noexcept
@@ -41,7 +41,7 @@ bool open_up_to(Array_Storage<Kind> array, std::uint32_t count, Report report,
     return false;
 }
 
-/// Cuts the capacity to the smallest seed × 2^k that holds the elements, where it is larger.
+/// Reduces the capacity to the smallest seed × 2^k that holds the elements, if it is larger.
 template <class Kind, class Report>
 void trim(Array_Storage<Kind> array, Report report) noexcept
 {
@@ -50,7 +50,7 @@ void trim(Array_Storage<Kind> array, Report report) noexcept
     const std::uint64_t capacity = proper_capacity(array.count, array.growth_seed);
     if (capacity >= array.capacity)
         return;
-    // Objects in the slots that go are ended first: realloc may cut them off.
+    // Before the block is cut: release the objects in the slots that realloc may remove.
     array.kind.destroy(array.data, static_cast<std::uint32_t>(capacity), array.count);
     Block block{array.data, array.capacity};
     if (!resize_block(block, capacity, array.layout()))
@@ -59,8 +59,8 @@ void trim(Array_Storage<Kind> array, Report report) noexcept
     array.capacity = block.capacity;
 }
 
-/// Sets the count of an array whose block has the room: elements past the new count are dropped, those
-/// gained are as freshly opened.
+/// Sets the count of an array whose block is large enough: elements past the new count are dropped, new ones
+/// are opened.
 template <class Kind, class Report>
 void resize_within_room(Array_Storage<Kind> array, std::uint32_t count, Report report,
                         Char_Span failure) noexcept
@@ -106,7 +106,7 @@ void ensure_capacity_above(Array_Storage<Kind> array, std::uint32_t n, Report re
     grow(array, n, report, notes::allocate_failed);
 }
 
-/// Sets the pointer to the elements, and nothing else; they belong to the caller, also in an owner.
+/// Sets the data pointer and nothing else. The elements belong to the caller, even in an owner.
 template <class Kind>
 void change_data(Vector_Storage<Kind> vector, typename Kind::Element *data) noexcept
 {
@@ -115,8 +115,8 @@ void change_data(Vector_Storage<Kind> vector, typename Kind::Element *data) noex
     vector.data = data;
 }
 
-/// Sets the count. An owner drops the elements past a smaller count and opens those that a larger one
-/// gains; a link's elements belong to someone else, and only its view changes.
+/// Sets the count. An owner drops the elements past a smaller count and opens those that a larger one adds;
+/// of a link only the view changes.
 template <class Kind, class Report>
 void change_count(Vector_Storage<Kind> vector, std::uint32_t count, Report report) noexcept
 {

@@ -19,7 +19,7 @@ struct Storage_Of_Held {
     auto operator()(ZEB_Byte_Array *bytes) const { return storage_of_array(bytes); }
 };
 
-inline void complain_of_references()
+inline void report_references()
 {
     fputs("decode binary ontents from string not done for id type.\n", stderr);
 }
@@ -57,7 +57,7 @@ uint32_t decode(Array_Storage<Held_Objects<Policy>> array, Record_Source source,
 template <class Policy>
 uint32_t decode(Array_Storage<Counted_References<Policy>> array, Record_Source source, Fix_Report report)
 {
-    return decode_references(array, source, report, complain_of_references);
+    return decode_references(array, source, report, report_references);
 }
 
 } // namespace zeb::engine

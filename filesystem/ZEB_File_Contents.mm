@@ -26,7 +26,7 @@ constexpr uint32_t suffix_size = sizeof suffix;
 /// Reports the failure and returns false.
 bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
 {
-    engine::tell_failure(file, message, error);
+    engine::report_failure(file, message, error);
     return false;
 }
 
@@ -53,8 +53,8 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
         return failed(file, messages::error_reading, error);
     memset([target byte_data] + count, 0, length - count);
     if (count != size)
-        engine::tell_discrepancy(file, messages::warning_length_read, count, messages::against_content_size,
-                                 size, messages::while_reading, ENODATA);
+        engine::report_discrepancy(file, messages::warning_length_read, count, messages::against_content_size,
+                                   size, messages::while_reading, ENODATA);
     return true;
 }
 
@@ -69,8 +69,8 @@ bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
         [destination clear];
         status = ZC_decompress_bytes_to_bytes(stored, destination);
         if (status != 0)
-            engine::tell_failure(file, messages::error_decompressing,
-                                 status == engine::zlib_out_of_memory ? ENOMEM : EILSEQ);
+            engine::report_failure(file, messages::error_decompressing,
+                                   status == engine::zlib_out_of_memory ? ENOMEM : EILSEQ);
     }
     [stored release];
     return was_read && status == 0;
@@ -84,8 +84,8 @@ bool write_out(ZEB_File *file, engine::Open_File &output, const void *bytes, uin
     if (error != 0)
         return failed(file, messages::error_writing, error);
     if (count != length)
-        engine::tell_discrepancy(file, messages::warning_length_written, count,
-                                 messages::against_specified_length, length, messages::while_writing, EIO);
+        engine::report_discrepancy(file, messages::warning_length_written, count,
+                                   messages::against_specified_length, length, messages::while_writing, EIO);
     return true;
 }
 
@@ -98,8 +98,8 @@ bool write_compressed(ZEB_File *file, engine::Open_File &output, const void *byt
     ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
     const int32_t status = ZC_compress_bytes_to_bytes(source, stored);
     if (status != 0)
-        engine::tell_failure(file, messages::error_compressing,
-                             status == engine::zlib_out_of_memory ? ENOMEM : EIO);
+        engine::report_failure(file, messages::error_compressing,
+                               status == engine::zlib_out_of_memory ? ENOMEM : EIO);
     // If errors are not reported, the bytes compressed so far are written and only the error is stored.
     const bool is_written =
         (status == 0 || ![file report_errors]) && write_out(file, output, [stored byte_data], [stored count]);
@@ -188,7 +188,7 @@ int renaming_error(const engine::Platform_Path &from, const engine::Platform_Pat
     const int error = [self has_room_for_suffix] ? renaming_error(from, to) : ENOMEM;
     if (error != 0)
         return failed(self, messages::error_backstoring, error);
-    engine::tell_success(self, messages::backstored);
+    engine::report_success(self, messages::backstored);
     [self extend_path_by_suffix];
     return 1;
 }
@@ -214,7 +214,7 @@ int renaming_error(const engine::Platform_Path &from, const engine::Platform_Pat
     if (error != 0)
         return failed(self, messages::error_restoring, error);
     last_error = 0;
-    engine::tell_success(self, messages::restored);
+    engine::report_success(self, messages::restored);
     return 1;
 }
 

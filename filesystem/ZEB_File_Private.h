@@ -70,14 +70,14 @@ uint32_t intercepted(ZEB_File *file, ZEB_File_Action action, SEL operation, Act 
 }
 
 /// Reports a success if the entry logs actions: a line of `message` and the path.
-void tell_success(ZEB_File *file, ZEB_Char_Span message);
+void report_success(ZEB_File *file, ZEB_Char_Span message);
 
 /// Stores the error and, if the entry reports errors, reports a line of `message` and the path.
-void tell_failure(ZEB_File *file, ZEB_Char_Span message, int error);
+void report_failure(ZEB_File *file, ZEB_Char_Span message, int error);
 
 /// Stores the error and, if the entry reports errors, reports that `actual` bytes were transferred instead of
 /// `expected`.
-void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
-                      uint64_t expected, ZEB_Char_Span occasion, int error);
+void report_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
+                        uint64_t expected, ZEB_Char_Span occasion, int error);
 
 } // namespace zeb::engine

@@ -34,6 +34,4 @@ uint32_t process_user() { return user; }
 
 uint32_t process_group() { return group; }
 
-ZEB_String_Array *filesystem_keys() { return keys; }
-
 } // namespace zeb::engine

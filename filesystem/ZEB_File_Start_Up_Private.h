@@ -3,8 +3,6 @@
  */
 #include <stdint.h>
 
-@class ZEB_String_Array;
-
 namespace zeb::engine
 {
 
@@ -14,8 +12,5 @@ void start_up_filesystem();
 
 uint32_t process_user();
 uint32_t process_group();
-
-/// Returns an array of one string: the key under which an application may store an entry's state.
-ZEB_String_Array *filesystem_keys();
 
 } // namespace zeb::engine

@@ -58,24 +58,26 @@ std::span<uint32_t> indexes_of(ZEB_UInt_Array *indexes) { return {[indexes uint_
 
 - (uint32_t)ordered_index_of_TT_word:(ZEB_T_Element)key
 {
-    return engine::told(engine::ordered_find(read(self), key, Own_Order()), engine::Fix_Report{self, _cmd});
+    return engine::report_and_index(engine::ordered_find(read(self), key, Own_Order()),
+                                    engine::Fix_Report{self, _cmd});
 }
 
 - (uint32_t)ordered_index_of_TT_word:(ZEB_T_Element)key comparison:(ZEB_T_Comparison)comparison
 {
-    return engine::told(engine::ordered_find(read(self), key, comparison), engine::Fix_Report{self, _cmd});
+    return engine::report_and_index(engine::ordered_find(read(self), key, comparison),
+                                    engine::Fix_Report{self, _cmd});
 }
 
 - (uint32_t)nearest_ordered_index_of_TT_word:(ZEB_T_Element)key
 {
-    return engine::told(engine::ordered_find_nearest(read(self), key, Own_Order()),
-                        engine::Fix_Report{self, _cmd});
+    return engine::report_and_index(engine::ordered_find_nearest(read(self), key, Own_Order()),
+                                    engine::Fix_Report{self, _cmd});
 }
 
 - (uint32_t)nearest_ordered_index_of_TT_word:(ZEB_T_Element)key comparison:(ZEB_T_Comparison)comparison
 {
-    return engine::told(engine::ordered_find_nearest(read(self), key, comparison),
-                        engine::Fix_Report{self, _cmd});
+    return engine::report_and_index(engine::ordered_find_nearest(read(self), key, comparison),
+                                    engine::Fix_Report{self, _cmd});
 }
 
 - (ZEB_T_Element)minimum_TT_word

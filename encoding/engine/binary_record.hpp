@@ -210,18 +210,18 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
     return consumed;
 }
 
-/// A record can only empty an array of references: for any other record `complain` is called and the array is
-/// unchanged. Returns the size of the count.
-template <class Policy, class Report, class Complain>
+/// A record can only empty an array of references: for any other record `report_references` is called and the
+/// array is unchanged. Returns the size of the count.
+template <class Policy, class Report, class Report_References>
 std::uint32_t decode_references(Array_Storage<Counted_References<Policy>> array, Record_Source source,
-                                Report report, Complain complain) noexcept
+                                Report report, Report_References report_references) noexcept
 {
     if (!may_decode(array, record_size(source, 0), report))
         return 0;
     if (read_count(source.bytes, source.needs_swap) == 0)
         resize_within_room(array, 0, report, failure_of_room(array));
     else
-        complain();
+        report_references();
     return record_count_size;
 }
 

@@ -10,25 +10,9 @@
 namespace zeb::engine
 {
 
-constexpr std::uint16_t swap_bytes(std::uint16_t value) noexcept
-{
-    return static_cast<std::uint16_t>((value << 8) | (value >> 8));
-}
-
 constexpr std::uint32_t swap_bytes(std::uint32_t value) noexcept { return __builtin_bswap32(value); }
 
 constexpr std::uint64_t swap_bytes(std::uint64_t value) noexcept { return __builtin_bswap64(value); }
-
-/// Returns a 4- or 8-byte value with its bytes reversed.
-template <class Value>
-Value swap_value(Value value) noexcept
-{
-    Bits_Lane<Value> word;
-    std::memcpy(&word, &value, sizeof word);
-    word = swap_bytes(word);
-    std::memcpy(&value, &word, sizeof word);
-    return value;
-}
 
 /// Copies `n` values from `bytes`, which need no alignment, each with its bytes reversed.
 template <class Value>

@@ -18,7 +18,7 @@ constexpr std::int32_t no_verdict = 1;
 
 static_assert(zlib_out_of_memory == Z_MEM_ERROR);
 
-void complain(const char *line) noexcept { std::fputs(line, stderr); }
+void report_line(const char *line) noexcept { std::fputs(line, stderr); }
 
 void give_input(z_stream &stream, const char *bytes, std::uint32_t length) noexcept
 {
@@ -63,7 +63,7 @@ std::int32_t inflate_pass(z_stream &stream, Zlib_Output output, std::uint64_t ou
             return answer;
         });
         if (status == Z_STREAM_ERROR)
-            complain("decompress error: stream is not OK.\n");
+            report_line("decompress error: stream is not OK.\n");
         if (status == Z_NEED_DICT)
             return Z_DATA_ERROR;
         if (status == Z_DATA_ERROR || status == Z_MEM_ERROR || status == Z_STREAM_ERROR)
@@ -109,15 +109,15 @@ std::int32_t compress(const char *bytes, std::uint32_t length, Zlib_Output outpu
     if (status == Z_MEM_ERROR)
         return status;
     if (status == Z_STREAM_ERROR) {
-        complain("compress error.\n");
+        report_line("compress error.\n");
         return -1;
     }
     if (left != 0) {
-        complain("compress error: did not use all of the input buffer.\n");
+        report_line("compress error: did not use all of the input buffer.\n");
         return -1;
     }
     if (status != Z_STREAM_END) {
-        complain("compress error: did not compress to the end of the stream.\n");
+        report_line("compress error: did not compress to the end of the stream.\n");
         return -1;
     }
     return Z_OK;
@@ -130,7 +130,7 @@ std::int32_t decompress(const char *bytes, std::uint32_t length, Zlib_Output out
     z_stream stream{};
     const int started = inflateInit(&stream);
     if (started != Z_OK) {
-        complain("decompress error: stream is not OK.\n");
+        report_line("decompress error: stream is not OK.\n");
         return started;
     }
     const std::int32_t verdict = inflate_to_end(stream, bytes, length, output);

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#if defined(ZEB_HAS_FAST_FLOAT)
+#if ZEB_HAS_FAST_FLOAT
 #include <fast_float/fast_float.h>
 #endif
 
@@ -62,7 +62,7 @@ std::uint32_t scan_natural(const char *chars, std::uint32_t length, int base, Un
     });
 }
 
-#if defined(ZEB_HAS_FAST_FLOAT)
+#if ZEB_HAS_FAST_FLOAT
 
 // Digits, or a point, after at most a '-': neither white space, '+', a word nor a hexadecimal number.
 bool starts_plainly(const char *chars, std::uint32_t size) noexcept

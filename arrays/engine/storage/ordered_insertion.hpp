@@ -9,7 +9,7 @@ namespace zeb::engine
 
 /// Reports the unknown-comparison warning if `found.warns`, and returns `found.index`.
 template <class Report>
-std::uint32_t told(Ordered_Find found, Report report) noexcept
+std::uint32_t report_and_index(Ordered_Find found, Report report) noexcept
 {
     if (found.warns)
         report(notes::find_on_unknown_comparison);

@@ -54,21 +54,21 @@ uint32_t decision_on(ZEB_File *file, ZEB_File_Action action, SEL operation)
                                                                                           : entry_acts;
 }
 
-void tell_success(ZEB_File *file, ZEB_Char_Span message)
+void report_success(ZEB_File *file, ZEB_Char_Span message)
 {
     if ([file log_actions])
         write_line([ZEB_Stream shared_stream], message, file);
 }
 
-void tell_failure(ZEB_File *file, ZEB_Char_Span message, int error)
+void report_failure(ZEB_File *file, ZEB_Char_Span message, int error)
 {
     [file set_last_error:error];
     if ([file report_errors])
         write_line([ZEB_Error_Stream shared_error_stream], message, file);
 }
 
-void tell_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
-                      uint64_t expected, ZEB_Char_Span occasion, int error)
+void report_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
+                        uint64_t expected, ZEB_Char_Span occasion, int error)
 {
     [file set_last_error:error];
     if (![file report_errors])

@@ -82,6 +82,7 @@ ZEB_EXPORT
 /** Returns 1 if an entry existed. */
 - (uint8_t)exists;
 
+/** Returns the type of the entry. */
 - (ZEB_File_Kind)kind;
 
 /** Returns the size in bytes. */

@@ -7,7 +7,7 @@
 namespace
 {
 
-/// The keys of an archived date's values, in the order of their writing.
+/// The keys of an archived date's values, in the order of writing.
 NSString *const keys[] = {@"ZEB_date_nanosecond", @"ZEB_date_second", @"ZEB_date_day", @"ZEB_date_month",
                           @"ZEB_date_year"};
 NSString *const day_number_key = @"ZEB_date_julian_day";
@@ -20,7 +20,7 @@ Archived archived(const engine::Date_Time &value)
             value.date.day, value.date.month, value.date.year};
 }
 
-/// The fields as they were archived, with the day number that belongs to them.
+/// Returns the archived fields with the day number computed from them.
 engine::Date_Time restored(const Archived &values)
 {
     return engine::make_date_time({values[4], values[3], values[2]}, static_cast<uint32_t>(values[1]),
@@ -33,10 +33,10 @@ void write_keyed(NSCoder *coder, const Archived &values)
         [coder encodeInt32:values[i] forKey:keys[i]];
 }
 
-/// A missing key leaves what stands.
+/// Leaves `value` unchanged if the key is missing.
 void read_key(NSCoder *coder, NSString *key, int32_t &value)
 {
-    // The wider reader accepts every integer, where the 32-bit one throws at what does not fit.
+    // The 64-bit reader accepts every integer; the 32-bit one throws if the value does not fit.
     if ([coder containsValueForKey:key])
         value = static_cast<int32_t>([coder decodeInt64ForKey:key]);
 }
@@ -47,7 +47,7 @@ void read_keyed(NSCoder *coder, Archived &values)
         read_key(coder, keys[i], values[i]);
 }
 
-/// What `encode:` wrote; what stands where a value is missing.
+/// Returns what `encode:` wrote; fields of a missing key are those of `date`.
 engine::Date_Time read_date(ZEB_Date *date, NSCoder *coder)
 {
     Archived values = archived(engine::value_of(date));
@@ -58,8 +58,8 @@ engine::Date_Time read_date(ZEB_Date *date, NSCoder *coder)
     return restored(values);
 }
 
-/// The day number, which the five values do not always tell: that of a date that was never set, or lies far
-/// out.
+/// Writes the day number, because the five values do not always determine it: not for a date never set, or
+/// far out.
 void write_day_number(NSCoder *coder, int32_t julian_day)
 {
     if ([coder allowsKeyedCoding])

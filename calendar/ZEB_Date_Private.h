@@ -1,5 +1,5 @@
 /*
- * How the engine sees a date.
+ * The engine's access to dates.
  */
 #import <Korvane_ZEB/ZEB_Date.h>
 
@@ -8,7 +8,7 @@
 namespace zeb::engine
 {
 
-/// The fields of a date; nil reads as one that was never set.
+/// Returns the fields of a date; those of one never set for nil.
 inline Date_Time value_of(ZEB_Date *date)
 {
     return date != nil ? Date_Time{date->date, date->julian_day, date->time} : unset_date_time;
@@ -21,7 +21,7 @@ inline void set_value(ZEB_Date *date, const Date_Time &value)
     date->time = value.time;
 }
 
-/// Lets `work` change the fields of a date.
+/// Applies `work` to the fields of a date.
 template <class Work>
 void change(ZEB_Date *date, Work work)
 {

@@ -20,7 +20,7 @@ void append(ZEB_String *string, const char *text, const char *end)
     [string append_c_string:text length:static_cast<uint32_t>(end - text)];
 }
 
-/// Hands the date's strftime text to `take`, as pointer and length, unless it is empty.
+/// Calls `take` with the date's strftime text, as pointer and length, unless it is empty.
 template <class Take>
 void with_strftime_text(ZEB_Date *date, const char *format, Take take)
 {
@@ -46,7 +46,7 @@ void with_strftime_text(ZEB_Date *date, const char *format, Take take)
 {
     ZEB_String *const format = [[ZEB_String alloc] init_as_copy_of_char_vector:string];
     [format append_char:'\0'];
-    if ([format count] != [string count]) // else there was no memory
+    if ([format count] != [string count]) // else the allocation failed
         [self append_strftime_text:string format:[format char_data]];
     [format release];
 }

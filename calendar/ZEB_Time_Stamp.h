@@ -1,5 +1,5 @@
 /*
- * An instant by the wall clock.
+ * An instant of the wall clock.
  */
 #import <Korvane_ZEB/ZEB_Object.h>
 
@@ -12,33 +12,33 @@ ZEB_EXPORT
     ZEB_Time_Value time;
 }
 
-/** The proprietary notice. */
+/** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** Makes a stamp of the present instant. */
+/** Initialises a stamp of the current instant. */
 - (id)init;
 
-/** Makes a stamp of a given instant; nothing is checked. */
+/** Initialises a stamp of a given instant; nothing is checked. */
 - (id)init_with_time:(uint64_t)second nanosecond:(uint64_t)nanosecond;
 
-/** A stamp of the same instant. */
+/** Returns a stamp of the same instant. */
 - (id)copyWithZone:(NSZone *)zone;
 
-/** Both fields in full, under keys where the coder has them; 0 for one that the archive lacks. */
+/** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. */
 - (void)encodeWithCoder:(NSCoder *)coder;
 - (id)initWithCoder:(NSCoder *)coder;
 
-/** Takes the present instant, to the microsecond. */
+/** Sets the stamp to the current instant, to the microsecond. */
 - (void)update_to_current_time;
 
-/** The instant; setting it checks nothing. */
+/** The instant; nothing is checked. */
 - (ZEB_Time_Value)time_value;
 - (void)set_time_value:(uint64_t)second nanosecond:(uint64_t)nanosecond;
 
-/** 1 when seconds and nanoseconds are the same; 0 for nil. */
+/** Returns 1 if seconds and nanoseconds are equal, else 0; 0 for nil. */
 - (uint8_t)is_equal_to:(ZEB_Time_Stamp *)other;
 
-/** Writes the seconds, a point and the nanoseconds with nine digits, in one piece. */
+/** Writes the seconds, a point and the nanoseconds with nine digits, in one call. */
 - (void)send_to_stream:(ZEB_Stream *)stream;
 - (void)send_text_to_stream:(ZEB_Stream *)stream;
 - (void)send_contents_to_stream:(ZEB_Stream *)stream;

@@ -12,9 +12,8 @@
 #endif
 
 /**
- * Provides the root operations under the framework's own names. Where a method below is declared by both this
- * class and the category on NSObject, the one here calls NSObject's implementation even if a subclass
- * overrides it. Adds no state.
+ * Provides the root operations under the framework's own names. The methods below call NSObject's
+ * implementation even if a subclass overrides it. Adds no state.
  */
 ZEB_EXPORT
 @interface ZEB_Object : NSObject

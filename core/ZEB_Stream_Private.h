@@ -29,7 +29,7 @@
 namespace zeb::engine
 {
 
-/// Writes a span onto a stream.
+/// Writes a span to a stream.
 inline void put(ZEB_Stream *stream, ZEB_Char_Span span)
 {
     [stream put_bytes:span.char_c_array length:span.length];

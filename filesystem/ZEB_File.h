@@ -69,9 +69,8 @@ ZEB_EXPORT
 /** Reads the status of the entry at the path, following symbolic links, into the snapshot. If nothing exists
     there, `exists` and `size` become 0 and the rest does not change. The same happens if the status cannot be
     read (no permission, a failing device), but then `last_error` has the cause: check it before writing
-    there. With `load_details` the effective access is computed as well; it does not change if this process is
-    neither the owner nor in the group and others have no access either. Returns 1, or the interceptor's
-    result. */
+    there. With `load_details` the effective access is computed as well; for a process that is not the owner,
+    rights of the previous snapshot stay set. Returns 1, or the interceptor's result. */
 - (uint32_t)refresh_status;
 
 @end
@@ -82,6 +81,7 @@ ZEB_EXPORT
 /** Returns 1 if an entry existed. */
 - (uint8_t)exists;
 
+/** Returns the type of the entry. */
 - (ZEB_File_Kind)kind;
 
 /** Returns the size in bytes. */

@@ -39,6 +39,7 @@ enum {
 /** Returns the decision on an action. */
 - (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file;
 
+/** Perform an action in place of the entry. */
 - (uint32_t)intercept_refresh_status:(ZEB_File *)file;
 - (uint32_t)intercept_create_file:(ZEB_File *)file;
 - (uint32_t)intercept_create_directory:(ZEB_File *)file;

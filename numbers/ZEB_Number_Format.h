@@ -1,5 +1,5 @@
 /*
- * Numbers as text for a reader, with what a chart's label needs to know of them.
+ * Numbers formatted for display.
  */
 #import <Korvane_ZEB/ZEB_Object.h>
 
@@ -7,8 +7,8 @@
 @class ZEB_Wide_String;
 
 /**
- * Appends the texts of numbers to a wide string, and tells of the last one what kind of text it became. The
- * decimal point is '.' in every locale. A copy has a text of its own with the same characters.
+ * Appends the texts of numbers to a wide string, and records the notation of the last one and where its
+ * exponent stands. The decimal point is '.' in every locale.
  */
 ZEB_EXPORT
 @interface ZEB_Number_Format : ZEB_Object <NSCopying> {
@@ -22,26 +22,26 @@ ZEB_EXPORT
     ZEB_Wide_String *text;
 }
 
-/** The proprietary notice. */
+/** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** Makes a format with precision 6, exponent base 10, zero reference 1 and an empty text. */
+/** Initialises a format with precision 6, exponent base 10, zero reference 1 and an empty text. */
 - (id)init;
 
-/** A format with the same settings, results and characters. */
+/** Returns a copy with the same settings and results, and a text of its own with the same characters. */
 - (id)copyWithZone:(NSZone *)zone;
 
-/** Appends a number: "0" for a magnitude of at most 1e-12 times `zero_reference`; fixed notation from
-    0.0001 to below 1000000, with at most 12 decimals below 1 and 10 from there on; outside that "1.23 106",
-    mantissa and power of `exponent_base` ("e" for Euler's number), whose exponent is to be shown raised.
-    Infinite numbers are "Inf", what is not a number is "NaN", what this base cannot show is "Err". */
+/** Appends a number: "0" for a magnitude of at most 1e-12 times `zero_reference`; fixed notation from 0.0001
+    to below 1000000, with at most 12 decimals below 1 and 10 above; else mantissa and power of
+    `exponent_base`, as in "1.23 106" ("e" for Euler's number), whose exponent is meant to be raised. Infinity
+    is "Inf", NaN is "NaN", and a number that this base cannot express "Err". */
 - (void)format_value:(double)value;
 
-/** Appends a number with exactly `precision` decimals. A text of more than 63 characters is not made:
-    nothing is appended and the error code is 201. */
+/** Appends a number with exactly `precision` decimals. If the text exceeds 63 characters, nothing is appended
+    and the error code is 201. */
 - (void)format_fixed:(double)value;
 
-/** Decimals of `format_fixed:`, and of the mantissa before its trailing zeros are dropped. */
+/** The decimals of `format_fixed:`, and of the mantissa before its trailing zeros are removed. */
 - (uint32_t)precision;
 - (void)set_precision:(uint32_t)value;
 
@@ -49,30 +49,30 @@ ZEB_EXPORT
 - (double)exponent_base;
 - (void)set_exponent_base:(double)value;
 
-/** The size of the numbers at hand, beside which 1e-12 of it counts as 0. */
+/** The typical size of the numbers formatted: magnitudes up to 1e-12 times this count as 0. */
 - (double)zero_reference;
 - (void)set_zero_reference:(double)value;
 
-/** What the last number became: 0 not a number, 1 zero, 2 fixed notation, 3 with a power. */
+/** The notation of the last number: 0 not a number, 1 zero, 2 fixed notation, 3 with a power. */
 - (uint32_t)result_kind;
 - (void)set_result_kind:(uint32_t)value;
 
-/** 0, or 201 when the last number was infinite or NaN, or `format_fixed:` could not make its text. What
-    `format_value:` writes as "Err" leaves 0, and `result_kind` 0. */
+/** 201 if the last number was infinite or NaN, or too long for `format_fixed:`, else 0. For "Err" from
+    `format_value:` the error code and `result_kind` are 0. */
 - (uint32_t)error_code;
 - (void)set_error_code:(uint32_t)value;
 
-/** Zero-based offsets of the raised exponent's first and last character, from the start of the last
-    number's own text; 0 and 0 where there is none. */
+/** Zero-based offsets of the raised exponent's first and last character, from the start of the last number's
+    text; 0 and 0 without an exponent. */
 - (ZEB_Index_Range)range;
 - (void)set_range:(ZEB_Index_Range)value;
 
-/** The string that receives the texts. One that is set is retained in its place; nil sets a new,
-    empty one. */
+/** The string to which texts are appended. Setting retains the new string and releases the old one; nil sets
+    a new, empty string. */
 - (ZEB_Wide_String *)text;
 - (void)set_text:(ZEB_Wide_String *)string;
 
-/** Writes the text in UTF-8; nothing where a character is no code point. */
+/** Writes the text as UTF-8; nothing if a character is not a code point. */
 - (void)send_to_stream:(ZEB_Stream *)stream;
 - (void)send_text_to_stream:(ZEB_Stream *)stream;
 - (void)send_contents_to_stream:(ZEB_Stream *)stream;

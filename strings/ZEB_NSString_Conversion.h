@@ -44,6 +44,7 @@
 /** From 32-bit text, each element a UTF-16 unit: only its low 16 bits count. */
 @interface ZEB_Wide_Char_Vector (NSString_Conversion)
 
+/** Return the text decoded as UTF-16; nil if allocation fails. */
 - (NSString *)NSString_value;
 - (NSMutableString *)NSMutableString_value;
 

@@ -41,8 +41,8 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 - (uint32_t)nearest_ordered_index_of_TT_word:(ZEB_T_Element)key;
 - (uint32_t)nearest_ordered_index_of_TT_word:(ZEB_T_Element)key comparison:(ZEB_T_Comparison)comparison;
 
-/** Return the smallest or the largest element: the first of equal ones; NaN only if it is at index 0; 0 or
-    nil for an empty vector. */
+/** Return the smallest element, the largest element, or both: the first of equal ones; NaN only if it is at
+    index 0; 0 or nil for an empty vector. */
 - (ZEB_T_Element)minimum_TT_word;
 - (ZEB_T_Element)maximum_TT_word;
 - (void)get_minimum_TT_word:(ZEB_T_Element *)minimum maximum:(ZEB_T_Element *)maximum;

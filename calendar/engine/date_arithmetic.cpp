@@ -11,7 +11,7 @@ constexpr std::uint64_t nanoseconds_per_second = 1000000000;
 constexpr std::uint64_t seconds_per_whole_day = 86400;
 constexpr std::uint64_t seconds_per_minute = 60;
 constexpr std::uint64_t seconds_per_hour = 3600;
-constexpr ZEB_Time_Unit first_code_of_days = 10; // it names no unit, but belongs to the day units
+constexpr ZEB_Time_Unit first_code_of_days = 10; // not a unit, but it belongs to the day units
 
 void add_to_field(std::int32_t &field, std::uint32_t amount) noexcept
 {
@@ -59,7 +59,7 @@ void add_to_unit_field(Date_Time &value, ZEB_Time_Unit unit, std::uint32_t count
     }
 }
 
-// One day out of the seconds; whether there was one.
+/// Carries one day out of the seconds; returns whether there was one.
 bool carry_day(Date_Time &value) noexcept
 {
     if (value.time.second < seconds_per_whole_day)

@@ -19,8 +19,8 @@ constexpr std::uint32_t longest_date_text = 1023;
 constexpr double powers_of_ten[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                     1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-// Reads digits and at most one point, as long as one exact division gives the correctly rounded value.
-// Answers false, with the cursor unchanged, for every other text.
+/// Reads digits and at most one point, if a single exact division gives the correctly rounded value. Returns
+/// false, with the cursor unchanged, for any other text.
 bool scan_plain_seconds(Text_Cursor &cursor, double &seconds) noexcept
 {
     const char *chars = cursor.chars;
@@ -33,7 +33,7 @@ bool scan_plain_seconds(Text_Cursor &cursor, double &seconds) noexcept
         if (is_ascii_digit(c)) {
             digits = digits * 10 + static_cast<std::uint64_t>(c - '0');
             decimals += after_point;
-            if (++digit_count > 15) // beyond this the digits may not fit in a double
+            if (++digit_count > 15) // more may not fit in a double
                 return false;
         } else if (c == '.' && !after_point) {
             after_point = true;

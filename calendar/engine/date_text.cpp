@@ -53,7 +53,7 @@ Date_Time read_spaced_text(const char *chars, std::uint32_t length) noexcept
     Text_Cursor cursor{chars, length, 0};
     ZEB_Gregorian_Date date{0, 0, 0};
     std::int32_t hours = 0, minutes = 0, seconds = 0, nanoseconds = 0;
-    // Stops at the first piece that is not there.
+    // Stops at the first missing piece.
     (void)(cursor.scan_decimal(date.month) && cursor.skip_spaced('/') && cursor.scan_decimal(date.day) &&
            cursor.skip_spaced('/') && cursor.scan_decimal(date.year) && cursor.scan_decimal(hours) &&
            cursor.skip_spaced(':') && cursor.scan_decimal(minutes) && cursor.skip_spaced(':') &&

@@ -14,7 +14,7 @@ std::int64_t first_day_of_month(std::int32_t year, std::int32_t month) noexcept
     return julian_day_from_date({year, month, 1});
 }
 
-// 0 is Sunday.
+/// Returns the day of the week; 0 is Sunday.
 std::int64_t weekday(std::int64_t julian_day) noexcept
 {
     const std::int64_t remainder = (julian_day + 1) % 7;

@@ -1,3 +1,4 @@
+/// Scanning text piece by piece, as the C library's scanf does.
 #pragma once
 
 #include "core/engine/ascii.hpp"
@@ -8,8 +9,8 @@
 namespace zeb::engine
 {
 
-/// A cursor over a counted array of characters, for texts that are read piece by piece as the C library's
-/// scanf reads them. Every step answers whether its piece was there and moves past it only then.
+/// A cursor over a counted array of characters. Each step returns whether its piece is present, and advances
+/// only then.
 struct Text_Cursor {
     const char *chars;
     std::uint32_t length;
@@ -21,7 +22,7 @@ struct Text_Cursor {
             ++position;
     }
 
-    // White space, then a character, then white space.
+    /// Skips white space, the character, and white space.
     constexpr bool skip_spaced(char c) noexcept
     {
         skip_spaces();
@@ -32,7 +33,8 @@ struct Text_Cursor {
         return true;
     }
 
-    // White space, a sign or none, and decimal digits. A number beyond 64 bits becomes the nearest that fits.
+    /// Reads white space, an optional sign, and decimal digits. A number beyond 64 bits becomes the nearest
+    /// that fits.
     constexpr bool scan_decimal(std::int64_t &result) noexcept
     {
         std::uint32_t index = position;
@@ -56,7 +58,7 @@ struct Text_Cursor {
         return true;
     }
 
-    // As scan_decimal, cut to the lower 32 bits.
+    /// Same as above, truncated to the lower 32 bits.
     constexpr bool scan_decimal(std::int32_t &result) noexcept
     {
         std::int64_t value = 0;

@@ -34,7 +34,7 @@ Clock_Time clock_time(double remainder) noexcept
     return {hours, minutes, remainder - minutes * 60.0 - hour_seconds};
 }
 
-// Below 10 a '0' comes first, by the value before rounding: 9.9999999 gives "010".
+/// Writes the seconds, after a '0' if the value before rounding is below 10: 9.9999999 gives "010".
 char *put_seconds(char *out, double seconds) noexcept
 {
     if (seconds < 10.0)
@@ -62,7 +62,7 @@ char *put_clock_time(char *out, std::uint32_t hour, Clock_Time time) noexcept
 
 bool split_any_instant(double seconds_since_1970, Split_Instant &split) noexcept
 {
-    // Far inside the 64-bit integers, and false for what is not a number.
+    // Far inside the range of 64-bit integers, and false for NaN.
     if (!(seconds_since_1970 > -1e17 && seconds_since_1970 < 1e17))
         return false;
     const std::int64_t days =
@@ -84,12 +84,12 @@ bool split_instant(double seconds_since_1970, Split_Instant &split) noexcept
 
 std::uint32_t rounded_microseconds(double fraction) noexcept
 {
-    // The fixed point stands so high that every bit of a fraction of a microsecond or more is kept.
+    // The fixed-point scale keeps every bit of a fraction of at least a microsecond.
     const bool is_small = fraction < 0x1p-12;
     const double scale = is_small ? 0x1p76 : 0x1p64;
     const Wide_Unsigned product = wide_product(static_cast<std::uint64_t>(fraction * scale), 1000000);
     const std::uint64_t whole = is_small ? product.high >> 12 : product.high;
-    // The bits that this drops never decide: no double comes so close to a tie without being one.
+    // The bits dropped here never decide: no double is that close to a tie without being one.
     const std::uint64_t rest = is_small ? product.high << 52 | product.low >> 12 : product.low;
     constexpr std::uint64_t half = std::uint64_t{1} << 63;
     const bool up = rest > half || (rest == half && (whole & 1));

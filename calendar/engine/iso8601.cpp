@@ -39,7 +39,7 @@ char *put_time(char *out, std::uint64_t second, std::uint64_t nanosecond) noexce
     return put_decimals(out, nanosecond, fraction_decimals);
 }
 
-// Between `fewest` and `most` (at most 18) digits, as many as there are; how many there were, 0 for too few.
+/// Reads between `fewest` and `most` (at most 18) digits, and returns their number; 0 for too few.
 std::uint32_t scan_digits(Text_Cursor &cursor, std::uint32_t fewest, std::uint32_t most,
                           std::int64_t &value) noexcept
 {
@@ -63,7 +63,7 @@ bool skip_character(Text_Cursor &cursor, char c) noexcept
     return true;
 }
 
-// The separator and two digits up to `most`.
+/// Reads the separator and two digits with a value up to `most`.
 bool scan_field(Text_Cursor &cursor, char separator, std::int32_t most, std::int32_t &value) noexcept
 {
     std::int64_t number = 0;
@@ -90,7 +90,7 @@ bool scan_date(Text_Cursor &cursor, ZEB_Gregorian_Date &date) noexcept
            scan_field(cursor, '-', days_in_month(date.year, date.month), date.day) && date.day >= 1;
 }
 
-// Nine decimals as nanoseconds; the cursor moves past all of them.
+/// Returns nine decimals as nanoseconds; the cursor moves past all decimals.
 std::uint64_t scan_fraction(Text_Cursor &cursor) noexcept
 {
     const std::uint32_t point = cursor.position;
@@ -144,7 +144,8 @@ char *write_iso8601(char *buffer, std::int64_t julian_day, ZEB_Time_Value time) 
     const std::uint64_t seconds = time.second % seconds_per_whole_day + carried_seconds;
     const std::int64_t days =
         static_cast<std::int64_t>(time.second / seconds_per_whole_day + seconds / seconds_per_whole_day);
-    // No sum overflows: the quotients, and the days that have a date, are far below their types' limits.
+    // No sum overflows: the quotients, and the days that have a date, are far below the limits of their
+    // types.
     char *end = buffer;
     if (has_civil_date(julian_day) && has_civil_date(julian_day + days)) {
         end = put_date(end, civil_date_from_day(julian_day + days));

@@ -1,3 +1,4 @@
+/// Mappings between Gregorian dates and Julian day numbers, in 32 bits.
 #pragma once
 
 #include <Korvane_ZEB/ZEB_Types.h>
@@ -10,24 +11,23 @@ namespace zeb::engine
 /// The Julian day number of 1970-01-01.
 inline constexpr std::int32_t julian_day_of_1970 = 2440588;
 
-/// Days of the Gregorian cycle of 400 years.
+/// The days of the Gregorian cycle of 400 years.
 inline constexpr std::int32_t days_per_400_years = 146097;
 
-/// The mapping for any fields whatever, in 32-bit arithmetic that wraps; what julian_day_from_date
-/// answers, only slower.
+/// Returns the result of julian_day_from_date for any fields, in 32-bit arithmetic that wraps; slower.
 std::int32_t julian_day_from_any_fields(ZEB_Gregorian_Date date) noexcept;
 
-/// The Julian day number of a Gregorian date. No field is validated: day 0, day 40, and the months 0, 13
-/// and 14 count on from their neighbours; months further out give the numbers of the formula, which are no
-/// calendar months. Right from 1 March of the year -4800 to the end of 1,465,072; before, the divisions round
-/// the wrong way, beyond, the 32-bit arithmetic wraps.
+/// Returns the Julian day number of a Gregorian date. No field is validated: day 0, day 40, and the months 0,
+/// 13 and 14 count on from their neighbours. For months further out the formula gives a number, but not that
+/// of a calendar month. Correct from 1 March of the year -4800 to the end of 1,465,072: earlier the divisions
+/// round the wrong way, later the 32-bit arithmetic wraps.
 inline std::int32_t julian_day_from_date(ZEB_Gregorian_Date date) noexcept
 {
     const std::uint32_t shifted_year = static_cast<std::uint32_t>(date.year) + 4799; // 0 is -4799
     const std::uint32_t month = static_cast<std::uint32_t>(date.month);
     if (shifted_year > 1399998 || month - 1 > 11)
         return julian_day_from_any_fields(date);
-    // Years begin in March, so that the leap day is the last one of its year.
+    // Years begin in March, so that the leap day is the last of its year.
     const std::uint32_t before_march = month < 3;
     const std::uint32_t year = shifted_year + 1 - before_march;                              // 0 to 1,399,999
     const std::uint32_t century = year / 100;                                                // 0 to 13,999
@@ -37,8 +37,7 @@ inline std::int32_t julian_day_from_date(ZEB_Gregorian_Date date) noexcept
                                      static_cast<std::uint32_t>(date.day) - 32045U);
 }
 
-/// A date whose years begin in March, counted from a year that 400 divides.
-/// `days` counts from 1 March of that year, below 2^62.
+/// Returns the date of day `days` (below 2^62) after 1 March of `first_year`, which must be divisible by 400.
 inline ZEB_Gregorian_Date date_from_march_days(std::uint64_t days, std::uint32_t first_year) noexcept
 {
     const std::uint64_t quarter_days = 4 * days + 3;
@@ -59,8 +58,8 @@ inline ZEB_Gregorian_Date date_from_march_days(std::uint64_t days, std::uint32_t
             static_cast<std::int32_t>(day)};
 }
 
-/// The Gregorian date of a Julian day number, which is read as an unsigned number: day -1 is the day
-/// 4294967295, of a year beyond eleven million. civil_date_from_day reads negative numbers as they stand.
+/// Returns the Gregorian date of a Julian day number read as unsigned: day -1 is day 4294967295, in a year
+/// beyond eleven million. civil_date_from_day handles negative numbers.
 inline ZEB_Gregorian_Date date_from_julian_day(std::int32_t julian_day) noexcept
 {
     // Day -32044 is 1 March of the year -4800.

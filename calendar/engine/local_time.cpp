@@ -12,7 +12,7 @@ namespace
 
 constexpr std::uint64_t seconds_per_whole_day = 86400;
 
-// The fields of a date by the platform's names, each in its range; as they stand where the year does not fit.
+/// Returns the date as struct tm, with normalised fields; with the fields unchanged if the year does not fit.
 std::tm platform_fields(const Date_Time &value) noexcept
 {
     const std::uint64_t second = value.time.second % seconds_per_whole_day;
@@ -32,12 +32,12 @@ std::tm platform_fields(const Date_Time &value) noexcept
     return fields;
 }
 
-// What the platform says of the zone at that local time; no hour is moved.
+/// Sets the zone fields to the local zone at that local time; the hour does not change.
 void complete_zone(std::tm &fields) noexcept
 {
     std::tm local = fields;
-    local.tm_isdst = -1; // let the platform find out
-    local.tm_wday = -1;  // stays where it fails
+    local.tm_isdst = -1; // determined by mktime
+    local.tm_wday = -1;  // unchanged if mktime fails
     (void)std::mktime(&local);
     if (local.tm_wday < 0)
         return;
@@ -58,7 +58,7 @@ ZEB_Time_Value current_time_value() noexcept
 Date_Time local_date_time(std::time_t instant, std::uint64_t nanosecond) noexcept
 {
     std::tm fields{};
-    tzset(); // localtime_r need not notice that the time zone changed
+    tzset(); // localtime_r may not notice a change of the time zone
     if (!localtime_r(&instant, &fields))
         return unset_date_time;
     const ZEB_Gregorian_Date date{wrapping_add(fields.tm_year, 1900), fields.tm_mon + 1, fields.tm_mday};
@@ -68,7 +68,7 @@ Date_Time local_date_time(std::time_t instant, std::uint64_t nanosecond) noexcep
 
 Date_Time current_local_date_time() noexcept
 {
-    const ZEB_Time_Value now = current_time_value(); // read once: another clock may be a second behind
+    const ZEB_Time_Value now = current_time_value(); // read once: a second reading may differ
     return local_date_time(static_cast<std::time_t>(now.second), now.nanosecond);
 }
 

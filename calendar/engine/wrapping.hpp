@@ -1,11 +1,10 @@
+/// Signed 32-bit arithmetic that wraps around instead of overflowing.
 #pragma once
 
 #include <cstdint>
 
 namespace zeb::engine
 {
-
-/// Signed 32-bit arithmetic that wraps around instead of overflowing.
 
 constexpr std::int32_t wrapping_add(std::int32_t a, std::int32_t b) noexcept
 {

@@ -18,7 +18,7 @@ struct Line {
     uint32_t length;
 };
 
-/// The line that begins at `at`, its line break left out; moves `at` behind it.
+/// Returns the line that begins at `at`, without its line break, and advances `at` to the next line.
 Line next_line(const char *text, uint32_t length, uint32_t &at)
 {
     const uint32_t start = at;
@@ -36,9 +36,9 @@ bool begins_with_date(Line line)
 
 bool is_below(int bound, int number) { return number >= 0 && number < bound; }
 
-/// Reads a date, and a time behind it, at the line's start and answers their length, or 0. The scanner lets
-/// numbers run on (30 February into March), and its day numbers before -4800 are not those of the calendar:
-/// both are made good here.
+/// Reads a date, and a time after it, at the start of the line, and returns their length, or 0. The scanner
+/// accepts 30 February as a day in March, and its day numbers before -4800 are not those of the civil
+/// calendar; both are corrected here.
 uint32_t read_instant(Line line, double &instant)
 {
     const uint32_t length =
@@ -110,7 +110,7 @@ Csv_Outcome read_csv(const char *path, Series *series)
         tell_unreadable(path, number, line);
         outcome = CSV_READ_IN_PART;
     }
-    // An array that could not grow has said so, and went on without the element.
+    // An array that could not grow reported it and skipped the element.
     if ([[series instants] count] != row_count || [[series values] count] != row_count)
         fault = "there is no memory for its rows";
     else if (row_count == 0)

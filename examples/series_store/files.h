@@ -1,20 +1,19 @@
 /*
- * Whole files, by C paths.
+ * Whole files at C paths.
  */
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
-/** What came of reading a file. */
+/** The result of reading a file. */
 typedef enum { FILE_READ, FILE_MISSING, FILE_UNREADABLE } File_Outcome;
 
-/** An autoreleased entry for a path, which leaves it to its user to tell errors; nil where memory is short.
- */
+/** Returns an autoreleased entry for a path, which does not report errors itself; nil if allocation fails. */
 ZEB_File *file_at(const char *path);
 
-/** Appends all that a regular file holds to an empty array. Unless that is done, `fault` says why not. */
+/** Appends the contents of a regular file to an empty array. On failure `fault` is the reason, else null. */
 File_Outcome read_file(const char *path, ZEB_Byte_Array *contents, const char **fault);
 
-/** A path with a suffix, valid until the pool is drained; null where memory is short. */
+/** Returns a path with a suffix, valid until the pool is drained; null if allocation fails. */
 const char *path_with_suffix(const char *path, const char *suffix);
 
-/** Tells on standard error what is wrong with a path. Answers false. */
+/** Reports a path's fault on standard error, and returns false. */
 bool complain(const char *path, const char *fault);

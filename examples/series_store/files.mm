@@ -31,7 +31,7 @@ File_Outcome read_file(const char *path, ZEB_Byte_Array *contents, const char **
         *fault = "it is no regular file";
         return FILE_UNREADABLE;
     }
-    // The framework takes reading an empty file for an error.
+    // To the framework, reading an empty file is an error.
     if ([file size] != 0)
         [file read_contents:contents];
     const int error = file != nil ? [file last_error] : ENOMEM;

@@ -1,10 +1,10 @@
 /*
  * Stores a series and loads it back: series_store [CSV [STORE]].
  *
- * A store that is already there is set aside, its path with "~" appended. Ends with
- *   0  when what came back is what was stored;
- *   2  when that is so, but lines of the CSV were left out;
- *   1  when something failed: the store that was there is whole then, at its path or with "~".
+ * An existing store is renamed to its path with "~" appended. The exit status is
+ *   0  if the series loaded is the one stored;
+ *   2  if it is, but lines of the CSV were skipped;
+ *   1  if something failed; an existing store is then intact, at its path or with "~".
  */
 #import "csv_reading.h"
 #import "files.h"
@@ -21,7 +21,7 @@ namespace
 
 enum Exit_Status { all_well = 0, failed = 1, lines_left_out = 2 };
 
-/// Loads the store, and tells whether it is the series.
+/// Loads the store, and returns whether it holds the series.
 bool load_and_compare(const char *path, Series *series, uint32_t raw_size)
 {
     Series *const loaded = [[[Series alloc] init] autorelease];

@@ -1,14 +1,14 @@
 /*
- * A new store in the place of an old one.
+ * Replacing a store safely.
  */
 #import "series.h"
 
 /**
- * Makes a series the store at a path; `contents` is the series encoded. The store that was there is set
- * aside, its path with "~" appended. Answers whether all went well; what did not is told.
+ * Stores a series at a path; `contents` is the encoded series. An existing store is renamed to its path with
+ * "~" appended. Returns whether all steps succeeded; failures are reported.
  *
  * The new store is written beside the old one, with "~new" appended, and loaded back before anything is
- * renamed: at every moment the path, or else the path with "~", leads to a whole store, so that a run that
- * was interrupted loses nothing and hinders no other. What is no store is never written over.
+ * renamed. At every moment a complete store is at the path or at the path with "~", so an interrupted run
+ * loses nothing and does not block the next one. A file that is not a store is never overwritten.
  */
 bool replace_store(const char *path, Series *series, ZEB_String *contents);

@@ -16,7 +16,7 @@ struct Paths {
     const char *fresh;
 };
 
-/// What stands at a path; tells what is wrong with it where it is not to be written over.
+/// Returns the state of a path, and reports the fault of a file that must not be overwritten.
 Store_State state_of(const char *path)
 {
     const char *fault;
@@ -26,7 +26,7 @@ Store_State state_of(const char *path)
     return state;
 }
 
-/// Whether all three paths may be written over. `present` is the state of the store.
+/// Whether all three paths may be overwritten. `present` is the state of the store.
 bool may_be_replaced(const Paths &paths, Store_State present)
 {
     if (present == STORE_UNKNOWN || state_of(paths.fresh) == STORE_UNKNOWN)
@@ -42,7 +42,7 @@ bool may_be_replaced(const Paths &paths, Store_State present)
     return true;
 }
 
-/// Writes the new store beside the old one, and reads it again.
+/// Writes the new store beside the old one, and loads it back.
 bool write_fresh(const char *fresh, Series *series, ZEB_String *contents)
 {
     Series *const loaded = [[[Series alloc] init] autorelease];
@@ -63,7 +63,7 @@ bool set_aside(const char *store)
     return true;
 }
 
-/// Moves the new store into the place of the one that was set aside, or brings that one back.
+/// Renames the new store to the path, or restores the old one.
 bool move_in(const Paths &paths, bool is_set_aside)
 {
     if (rename(paths.fresh, paths.store) == 0)
@@ -87,7 +87,7 @@ bool replace_store(const char *path, Series *series, ZEB_String *contents)
     const bool has_store = present == STORE_WHOLE;
     const bool is_replaced = write_fresh(paths.fresh, series, contents) && (!has_store || set_aside(path)) &&
                              move_in(paths, has_store);
-    // Where that fails too, the next run writes over it.
+    // If this fails, the next run overwrites the file.
     if (!is_replaced)
         remove(paths.fresh);
     return is_replaced;

@@ -3,20 +3,20 @@
  */
 #import "series.h"
 
-/** What stands at the path of a store. */
+/** The state of a store's path. */
 typedef enum {
     STORE_MISSING,
     STORE_WHOLE,
-    STORE_CUT_SHORT, /* empty, or the beginning of a store: its writing was interrupted */
-    STORE_UNKNOWN    /* something else, or it cannot be read */
+    STORE_CUT_SHORT, /* empty, or the beginning of a store: writing was interrupted */
+    STORE_UNKNOWN    /* something else, or unreadable */
 } Store_State;
 
-/** The header and the records of a series, not yet compressed. Autoreleased. */
+/** Returns the header and the records of a series, not yet compressed. Autoreleased. */
 ZEB_String *encoded_series(Series *series);
 
-/** Reads a stored series into an empty one and answers what was found. `fault` becomes null, or, unless the
-    store is whole, says what is wrong with it; nothing else is told. */
+/** Loads a stored series into an empty one and returns the state of the path. `fault` becomes null for a
+    complete store, else the reason; nothing is printed. */
 Store_State load_series(const char *path, Series *series, const char **fault);
 
-/** Writes encoded contents to a path, compressed. Answers null, or what went wrong. */
+/** Writes encoded contents to a path, compressed. Returns null, or the reason of a failure. */
 const char *write_store(const char *path, ZEB_String *contents);

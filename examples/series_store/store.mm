@@ -11,7 +11,7 @@
 namespace
 {
 
-/// Silences the diagnostics of the framework while what is read may be anything.
+/// Turns the framework's diagnostics off while the input may be anything.
 class Quiet_Diagnostics
 {
 public:
@@ -31,7 +31,7 @@ constexpr uint8_t compressed_header[] = {0x78, 0x9C};
 constexpr int32_t is_no_whole_stream = -3;
 constexpr int32_t memory_is_short = -4;
 
-/// Whether bytes are those of a header, as far as there are any.
+/// Whether the bytes, as far as there are any, are those of a header.
 bool agrees_with_header(ZEB_Byte_Array *contents)
 {
     ZEB_String *const header = [ZEB_String array_with_capacity:ZEB_BINARY_HEADER_SIZE];
@@ -41,14 +41,15 @@ bool agrees_with_header(ZEB_Byte_Array *contents)
            ([header count] >= size && memcmp([contents byte_data], [header char_data], size) == 0);
 }
 
-/// As a file that never got its contents: an empty one, or one that the power failed on.
+/// True for a file that never received its contents: an empty one, or one left by a power failure.
 bool holds_only_zeros(ZEB_Byte_Array *stored)
 {
     const auto bytes = zeb::elements(stored);
     return std::all_of(bytes.begin(), bytes.end(), [](uint8_t byte) { return byte == 0; });
 }
 
-/// Whether a stream that does not end is the beginning of a compressed series. `contents` is what came of it.
+/// Whether a stream without an end is the beginning of a compressed series. `contents` is its decompressed
+/// part.
 bool is_beginning(ZEB_Byte_Array *stored, ZEB_Byte_Array *contents)
 {
     const size_t size = std::min<size_t>([stored count], sizeof compressed_header);
@@ -61,7 +62,7 @@ bool begins_with_header(ZEB_Byte_Array *contents)
     return [contents count] >= ZEB_BINARY_HEADER_SIZE && agrees_with_header(contents);
 }
 
-/// Decodes the record at `at` and moves `at` behind it; false where it is not all there.
+/// Decodes the record at `at` and advances `at` past it. Returns false if the record is incomplete.
 bool decode_record(ZEB_Byte_Array *contents, uint32_t &at, uint8_t needs_swap, ZEB_Double_Array *values)
 {
     char *const rest = reinterpret_cast<char *>([contents byte_data]) + at;
@@ -72,7 +73,7 @@ bool decode_record(ZEB_Byte_Array *contents, uint32_t &at, uint8_t needs_swap, Z
     return size != 0;
 }
 
-/// Answers null, or what is wrong.
+/// Returns null, or the fault.
 const char *decode_series(ZEB_Byte_Array *contents, Series *series)
 {
     if (!begins_with_header(contents))
@@ -89,7 +90,7 @@ const char *decode_series(ZEB_Byte_Array *contents, Series *series)
     return NULL;
 }
 
-/// Answers null, or what is wrong; `is_cut_short` becomes whether that is the stream's end.
+/// Returns null, or the fault. `is_cut_short` is set to whether the fault is a missing end.
 const char *load_stored(ZEB_Byte_Array *stored, Series *series, bool &is_cut_short)
 {
     if (begins_with_header(stored))
@@ -136,6 +137,6 @@ const char *write_store(const char *path, ZEB_String *contents)
     [file set_contents_compressed:1];
     const uint32_t answer = [file write_contents:[contents char_data] length:[contents count]];
     const int error = file != nil ? [file last_error] : ENOMEM;
-    // Where bytes were lost without an error of the platform's, the answer is 1 all the same.
+    // Also 1 if bytes were lost without an error of the platform.
     return answer == 1 && error == 0 ? NULL : strerror(error);
 }

@@ -1,7 +1,8 @@
 /*
- * What the example prints.
+ * Printing a series.
  */
 #import "series.h"
 
-/** Prints rows, first and last date, minimum and maximum of a series that is not empty. */
+/** Prints the number of rows, the first and last date, the minimum and the maximum of a series that is not
+    empty. */
 void print_series(Series *series);

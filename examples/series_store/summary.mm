@@ -23,7 +23,7 @@ void print_number(const char *label, double value)
     printf("%-12s%s\n", label, text);
 }
 
-/// A link to the values from the first number on: a not-a-number in front would stand as both extremes.
+/// Returns a link to the values from the first number on: a leading NaN would be both minimum and maximum.
 ZEB_Double_Array *from_first_number(ZEB_Double_Array *values)
 {
     const auto all = zeb::elements(values);

@@ -1,3 +1,5 @@
+/// Decimal digits, computed eight at a time in a 64-bit word. The first digit of the text is the lowest byte
+/// of the word; the stores write it first on every machine.
 #pragma once
 
 #include <bit>
@@ -7,12 +9,9 @@
 namespace zeb::engine
 {
 
-/// Decimal digits made eight at a time in one 64-bit word. In such a word the first digit of the text is
-/// always the lowest byte; the stores put it into memory first on every machine.
-
 inline constexpr std::uint64_t ascii_zeros = 0x3030303030303030;
 
-/// The eight digits of a value below 10^8 as numbers 0 to 9, leading zeros included.
+/// Returns the eight digits of a value below 10^8 as numbers 0 to 9, with leading zeros.
 constexpr std::uint64_t eight_digits(std::uint32_t value) noexcept
 {
     // Two groups of four digits, then four of two, then eight of one; each step divides all groups at once.
@@ -23,20 +22,20 @@ constexpr std::uint64_t eight_digits(std::uint32_t value) noexcept
     return tens | (twos - 10 * tens) << 8;
 }
 
-/// How many zero digits the word begins with (8 when all are).
+/// Returns the number of leading zero digits (8 if all are zero).
 constexpr std::uint32_t leading_zero_digits(std::uint64_t digits) noexcept
 {
     return static_cast<std::uint32_t>(std::countr_zero(digits)) / 8;
 }
 
-/// How many zero digits the word ends with (8 when all are).
+/// Returns the number of trailing zero digits (8 if all are zero).
 constexpr std::uint32_t trailing_zero_digits(std::uint64_t digits) noexcept
 {
     return static_cast<std::uint32_t>(std::countl_zero(digits)) / 8;
 }
 
-/// Stores the lowest bytes of a word, the lowest one first.
-template <typename Unsigned>
+/// Stores the lowest bytes of a word, the lowest first.
+template <class Unsigned>
 inline void store_low_bytes(char *out, std::uint64_t word) noexcept
 {
     Unsigned bytes = static_cast<Unsigned>(word);
@@ -52,7 +51,7 @@ inline void store_low_bytes(char *out, std::uint64_t word) noexcept
 /// Stores exactly the `count` lowest bytes (0 to 8) and returns the position after them.
 inline char *store_bytes(char *out, std::uint64_t word, std::uint32_t count) noexcept
 {
-    // Two stores that overlap reach every count of a class without touching a byte beyond.
+    // Two overlapping stores cover each range of counts without touching a byte beyond.
     if (count >= 4) {
         store_low_bytes<std::uint32_t>(out, word);
         store_low_bytes<std::uint32_t>(out + count - 4, word >> (8 * count - 32));
@@ -65,14 +64,14 @@ inline char *store_bytes(char *out, std::uint64_t word, std::uint32_t count) noe
     return out + count;
 }
 
-/// Sixteen digits of which the zeros at the end are not wanted.
+/// Sixteen digits without their trailing zeros.
 struct Sixteen_Digits {
     std::uint64_t first; // eight digits
     std::uint64_t last;  // eight digits
-    std::uint32_t kept;  // how many digits are left without the zeros at the end
+    std::uint32_t kept;  // number of digits without the trailing zeros
 };
 
-/// The digits of a value below 10^16, leading zeros included.
+/// Returns the digits of a value below 10^16, with leading zeros.
 constexpr Sixteen_Digits sixteen_digits(std::uint64_t value) noexcept
 {
     const std::uint64_t first = eight_digits(static_cast<std::uint32_t>(value / 100000000));
@@ -81,8 +80,7 @@ constexpr Sixteen_Digits sixteen_digits(std::uint64_t value) noexcept
     return {first, last, 16 - dropped};
 }
 
-/// Stores the digits that are kept, of which there must be eight at least, and returns the position after
-/// them.
+/// Stores the kept digits, at least eight, and returns the position after them.
 inline char *store_eight_or_more(char *out, const Sixteen_Digits &digits) noexcept
 {
     const std::uint32_t moved = digits.kept - 8; // 0 to 8
@@ -93,7 +91,7 @@ inline char *store_eight_or_more(char *out, const Sixteen_Digits &digits) noexce
     return out + digits.kept;
 }
 
-/// Stores the digits that are kept and returns the position after them.
+/// Stores the kept digits and returns the position after them.
 inline char *store_kept(char *out, const Sixteen_Digits &digits) noexcept
 {
     if (digits.kept >= 8)

@@ -1,12 +1,13 @@
+/// Numbers in exponent form.
 #pragma once
 
 namespace zeb::engine
 {
 
-/// Puts a finite number other than 0 as d.ddde+dd with 15 or 6 significant digits, rounded as the C library
-/// rounds, without trailing zeros and without a point that nothing follows; a negative one begins with '-'.
-/// The exponent has a sign and two or three digits. The decimal point is '.' in every locale. At most 22
-/// characters, no terminating null; returns the position after the last character.
+/// Writes a finite number other than 0 as d.ddde+dd with 15 or 6 significant digits, rounded as the C library
+/// rounds, without trailing zeros and without a trailing point. The exponent has a sign and two or three
+/// digits. The decimal point is '.' in every locale. Writes at most 22 characters and no terminating null;
+/// returns the position after the last character.
 template <int significant_digits>
 char *put_exponent_form(char *out, double x) noexcept;
 

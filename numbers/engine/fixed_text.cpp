@@ -14,7 +14,7 @@ namespace
 
 constexpr std::uint32_t most_decimals = 13;
 
-// Indexed by the number of decimals.
+/// Indexed by the number of decimals.
 constexpr std::uint64_t integer_powers[] = {1,
                                             10,
                                             100,
@@ -42,7 +42,7 @@ struct Fixed_Style {
 constexpr Fixed_Style fixed_style{true, true, true};
 constexpr Fixed_Style fraction_style{false, false, false};
 
-// What no fixed-point text can say; x is not 0.
+/// Writes what has no fixed-point text; x is not 0.
 template <int significant_digits>
 char *put_unfit(char *out, double x) noexcept
 {
@@ -101,7 +101,7 @@ char *write_fixed_float(char *buffer, std::uint32_t decimals, float x) noexcept
 
 char *write_fixed_in_pretty_range(char *buffer, double x) noexcept
 {
-    // No branch asks for the magnitude or the sign: in mixed data it would be guessed wrong too often.
+    // Without branches on the magnitude or the sign: in mixed data they would be mispredicted too often.
     static constexpr struct {
         double scale;
         std::uint64_t unit;
@@ -122,7 +122,7 @@ char *write_fixed_in_pretty_range(char *buffer, double x) noexcept
     *out = '-';
     out += x < 0;
     if (decimals.kept >= 8) {
-        store_low_bytes<std::uint64_t>(out, whole_text); // the decimals come over what is too much
+        store_low_bytes<std::uint64_t>(out, whole_text); // the point and the decimals overwrite the excess
         out += 8 - skipped;
         *out++ = '.';
         out = store_eight_or_more(out, decimals);

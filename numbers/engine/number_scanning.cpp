@@ -19,9 +19,9 @@ namespace
 
 constexpr std::uint32_t longest_number = 31;
 
-// `convert` is one of the strto..._l functions in the "C" locale: text and the place for the end of the
-// number.
-template <typename Result, typename Convert>
+/// Scans with `convert`, a strto..._l function in the "C" locale that takes the text and a pointer to the
+/// end.
+template <class Result, class Convert>
 std::uint32_t scan_with_c_library(const char *chars, std::uint32_t length, Result &result,
                                   Convert convert) noexcept
 {
@@ -39,10 +39,10 @@ std::uint32_t scan_with_c_library(const char *chars, std::uint32_t length, Resul
     return consumed;
 }
 
-// What the C library does with other bases differs from one to the next.
+/// Whether the base is defined: for others the C libraries differ.
 constexpr bool is_base(int base) noexcept { return base == 0 || (base >= 2 && base <= 36); }
 
-template <typename Signed>
+template <class Signed>
 std::uint32_t scan_signed(const char *chars, std::uint32_t length, int base, Signed &result) noexcept
 {
     if (!is_base(base))
@@ -52,7 +52,7 @@ std::uint32_t scan_signed(const char *chars, std::uint32_t length, int base, Sig
     });
 }
 
-template <typename Unsigned>
+template <class Unsigned>
 std::uint32_t scan_natural(const char *chars, std::uint32_t length, int base, Unsigned &result) noexcept
 {
     if (!is_base(base))
@@ -64,7 +64,8 @@ std::uint32_t scan_natural(const char *chars, std::uint32_t length, int base, Un
 
 #if ZEB_HAS_FAST_FLOAT
 
-// Digits, or a point, after at most a '-': neither white space, '+', a word nor a hexadecimal number.
+/// Whether the text starts with digits or a point after an optional '-', and not with white space, '+', a
+/// word or a hexadecimal number.
 bool starts_plainly(const char *chars, std::uint32_t size) noexcept
 {
     const std::uint32_t first = size > 0 && chars[0] == '-';
@@ -73,7 +74,7 @@ bool starts_plainly(const char *chars, std::uint32_t size) noexcept
     return !(chars[first] == '0' && first + 1 < size && ascii_lower(chars[first + 1]) == 'x');
 }
 
-template <typename Real>
+template <class Real>
 std::uint32_t scan_plain(const char *chars, std::uint32_t length, Real &result) noexcept
 {
     const std::uint32_t size = std::min(length, longest_number);
@@ -89,7 +90,7 @@ std::uint32_t scan_plain(const char *chars, std::uint32_t length, Real &result) 
 
 #else
 
-template <typename Real>
+template <class Real>
 std::uint32_t scan_plain(const char *, std::uint32_t, Real &) noexcept
 {
     return 0;

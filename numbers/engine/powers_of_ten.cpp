@@ -7,7 +7,8 @@ namespace zeb::engine
 namespace
 {
 
-// A natural number of up to 1152 bits, lowest limb first; only what the table below needs, while compiling.
+/// A natural number of up to 1152 bits, lowest limb first, with the operations that the table needs at
+/// compile time.
 struct Big_Natural {
     static constexpr int limb_count = 36;
     std::uint32_t limbs[limb_count] = {};
@@ -22,7 +23,7 @@ struct Big_Natural {
         }
     }
 
-    // Cutting after every division by 5 gives what one division by the whole power would.
+    /// Truncating after every division by 5 gives the same as one division by the whole power.
     constexpr void divide_by_5() noexcept
     {
         std::uint64_t rest = 0;
@@ -35,7 +36,7 @@ struct Big_Natural {
 
     constexpr std::uint32_t limb_or_zero(int index) const noexcept { return index < 0 ? 0 : limbs[index]; }
 
-    // The highest 128 bits that begin with a one; the number is not 0.
+    /// Returns the highest 128 bits, starting with a one; the number must not be 0.
     constexpr Wide_Unsigned leading_bits() const noexcept
     {
         int top = limb_count - 1;
@@ -61,7 +62,8 @@ struct Power_Table {
     Wide_Unsigned entries[static_cast<std::size_t>(table_size)] = {};
 };
 
-// Powers of 5: the factor 2^power moves no bit, and so do the highest bits of 2^1151 / 5^n for 5^-n.
+/// Holds powers of 5, which have the same leading bits as powers of 10. A negative power n holds the leading
+/// bits of 2^1151 / 5^-n.
 constexpr Power_Table make_power_table() noexcept
 {
     Power_Table table;

@@ -1,3 +1,4 @@
+/// The leading bits of powers of ten.
 #pragma once
 
 #include "numbers/engine/wide_product.hpp"
@@ -10,18 +11,17 @@ namespace zeb::engine
 inline constexpr int smallest_table_power = -302;
 inline constexpr int largest_table_power = 338;
 
-/// Up to this power the table holds the exact value, from 10^0 on.
+/// From 10^0 up to this power the table is exact.
 inline constexpr int largest_exact_table_power = 55;
 
-/// The leading 128 bits of 10^power, highest bit set, the rest cut off:
-/// 10^power = (bits + what was cut, below 1) * 2^(floor_log2_of_power_of_ten(power) - 127).
-/// The power lies between the two bounds above.
+/// Returns the leading 128 bits of 10^power, highest bit set, truncated: 10^power = (bits + remainder below
+/// 1) * 2^(floor_log2_of_power_of_ten(power) - 127). The power must lie between the two bounds above.
 Wide_Unsigned power_of_ten_bits(int power) noexcept;
 
-/// floor(log2(10^power)), right for powers from -1233 to 1233.
+/// Returns floor(log2(10^power)), exact for powers from -1233 to 1233.
 constexpr int floor_log2_of_power_of_ten(int power) noexcept { return (power * 1741647) >> 19; }
 
-/// floor(log10(2^power)), right for powers from -2620 to 2620.
+/// Returns floor(log10(2^power)), exact for powers from -2620 to 2620.
 constexpr int floor_log10_of_power_of_two(int power) noexcept { return (power * 315653) >> 20; }
 
 } // namespace zeb::engine

@@ -18,7 +18,7 @@ char *write_word(char *buffer, const char *word) noexcept
     return buffer + length;
 }
 
-// What lies outside the range of fixed notation.
+/// Writes a number outside the range of fixed notation.
 template <int significant_digits>
 char *write_outside_number(char *buffer, double x) noexcept
 {

@@ -21,22 +21,22 @@ constexpr std::uint64_t integer_power_of_ten(int power) noexcept
     return result;
 }
 
-// The exact answer for what the multiplication below leaves open: next to a tie outside the exact powers.
+/// Rounds exactly with the C library, for the cases near a tie that the multiplication below leaves open.
 template <int digit_count>
 Rounded_Decimal decimal_by_c_library(double magnitude) noexcept
 {
-    char text[64]; // the widest decimal point of a locale is a few bytes
+    char text[64]; // a locale's decimal point has a few bytes at most
     std::snprintf(text, sizeof text, "%.*e", digit_count - 1, magnitude);
     Rounded_Decimal decimal{0, 0};
     const char *c = text;
     for (; *c != 'e' && *c != '\0'; ++c)
-        if (is_ascii_digit(*c)) // not the decimal point, whatever the locale makes of it
+        if (is_ascii_digit(*c)) // skips the locale's decimal point
             decimal.digits = decimal.digits * 10 + static_cast<std::uint64_t>(*c - '0');
     decimal.exponent = *c == 'e' ? std::atoi(c + 1) : 0;
     return decimal;
 }
 
-// A magnitude = mantissa * 2^exponent, with the mantissa's highest bit set.
+/// magnitude = mantissa * 2^exponent, with the highest bit of the mantissa set.
 struct Binary_Number {
     std::uint64_t mantissa;
     int exponent;
@@ -57,9 +57,9 @@ inline Binary_Number binary_number(double magnitude) noexcept
 
 enum class Rounding { down, up, unknown };
 
-// How a number whose last kept digit is `odd` or even rounds, when what is cut off stands at `position` on a
-// scale where `half` is a tie. An exact position has `rest` bits below it; any other is at most one too
-// small.
+/// Returns how a number with an odd or even last digit rounds if the rest stands at `position` on a scale
+/// whose tie is `half`. An exact position has further bits below it if `rest`; any other is too small by at
+/// most one.
 inline Rounding rounding(std::uint64_t position, std::uint64_t half, bool rest, bool exact, bool odd) noexcept
 {
     if (position > half)
@@ -76,27 +76,27 @@ Rounded_Decimal rounded_decimal(double magnitude) noexcept
 {
     constexpr std::uint64_t upper_bound = integer_power_of_ten(digit_count);
     const Binary_Number number = binary_number(magnitude);
-    // The exponent of ten, or one too small: the magnitude lies in [1, 20) * 10^exponent.
+    // The exponent of ten, or one less: the magnitude lies in [1, 20) * 10^exponent.
     int exponent = floor_log10_of_power_of_two(number.exponent + 63);
     const int power = digit_count - 1 - exponent;
     const Wide_Unsigned scale = power_of_ten_bits(power);
     const bool exact = power >= 0 && power <= largest_exact_table_power;
 
-    // magnitude * 10^power as the 192 bits high, middle, low; an inexact product is too small by less than
+    // magnitude * 10^power as 192 bits in high, middle and low; an inexact product is too small by less than
     // one unit of the middle word.
     const Wide_Unsigned upper = wide_product(number.mantissa, scale.high);
     const Wide_Unsigned lower = wide_product(number.mantissa, scale.low);
     const std::uint64_t middle = upper.low + lower.high;
     const std::uint64_t high = upper.high + (middle < upper.low);
 
-    // The integer part, below 2 * 10^digit_count, stands at the top of the high word; 64 bits of fraction
-    // follow it. The shift is 12 to 18 for 15 digits, 42 to 47 for 6.
+    // The integer part, below 2 * 10^digit_count, is at the top of the high word; 64 bits of fraction follow.
+    // The shift is 12 to 18 for 15 digits, 42 to 47 for 6.
     const int shift = -(number.exponent + floor_log2_of_power_of_ten(power) + 1);
     std::uint64_t digits = high >> shift;
     std::uint64_t position = high << (64 - shift) | middle >> shift;
     std::uint64_t half = std::uint64_t{1} << 63;
     bool rest = (middle << (64 - shift) | lower.low) != 0;
-    if (digits >= upper_bound) { // one digit too many: it leads the fraction
+    if (digits >= upper_bound) { // one digit too many: it becomes the first of the fraction
         rest = rest || (position & 15) != 0;
         position = (digits % 10) << 60 | position >> 4;
         half = std::uint64_t{5} << 60;

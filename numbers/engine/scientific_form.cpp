@@ -22,7 +22,7 @@ struct Power_Form {
 
 bool is_eulers_number(double base) noexcept { return std::fabs(base - eulers_number) < 1e-12; }
 
-// False when the base or a step is not finite.
+/// Splits a magnitude into mantissa and exponent. Returns false if the base or a step is not finite.
 bool take_apart(const Scientific_Rules &rules, double magnitude, Power_Form &form) noexcept
 {
     if (rules.base == 0 || !std::isfinite(rules.base))
@@ -40,7 +40,7 @@ bool take_apart(const Scientific_Rules &rules, double magnitude, Power_Form &for
     return std::isfinite(power) && std::isfinite(form.mantissa);
 }
 
-// The length without spaces and zeros at the end; a point at the end stays.
+/// Returns the length without trailing spaces and zeros; a trailing point stays.
 std::uint32_t trimmed_length(const char *text, std::uint32_t length) noexcept
 {
     while (length > 0 && (text[length - 1] == ' ' || text[length - 1] == '0'))
@@ -53,7 +53,7 @@ std::uint32_t length_without_point(const char *text, std::uint32_t length) noexc
     return length > 0 && text[length - 1] == '.' ? length - 1 : length;
 }
 
-// Each of these returns the end of its part, or null when the part does not fit.
+// Each of these returns the end of its part, or null if the part does not fit.
 
 char *put_mantissa(char *out, std::uint32_t precision, double mantissa, bool negative) noexcept
 {
@@ -80,8 +80,8 @@ char *put_base(char *out, double base) noexcept
     return printed == 0 ? nullptr : out + length_without_point(out, trimmed_length(out, printed));
 }
 
-// The parts are printed with padding, and some may fail after others: they are put together here, so that
-// the caller's buffer is touched once.
+/// The assembled text: parts are printed with padding, and a later one may fail, so the caller's buffer is
+/// written only at the end.
 struct Scientific_Text {
     char text[scientific_text_size];
     char *exponent = nullptr;

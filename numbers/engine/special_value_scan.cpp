@@ -9,7 +9,7 @@ namespace zeb::engine
 namespace
 {
 
-// Whether the array begins with the word and the word ends there.
+/// Whether the array begins with the word, followed by white space or the end.
 template <std::size_t size>
 bool begins_with_word(const char *chars, std::uint32_t length, const char (&word)[size]) noexcept
 {

@@ -7,7 +7,7 @@ namespace zeb::engine
 namespace
 {
 
-// The size of a number is asked first and its digits are made after: a wrong guess then costs least.
+// Branches on the magnitude before producing digits, so that a misprediction discards no work.
 
 inline char *put_up_to_two(char *out, std::uint32_t value) noexcept
 {

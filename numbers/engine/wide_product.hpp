@@ -1,3 +1,4 @@
+/// 128-bit products.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +11,7 @@ struct Wide_Unsigned {
     std::uint64_t low;
 };
 
-/// The whole 128-bit product of two 64-bit numbers.
+/// Returns the 128-bit product of two 64-bit numbers.
 constexpr Wide_Unsigned wide_product(std::uint64_t a, std::uint64_t b) noexcept
 {
 #if defined(__SIZEOF_INT128__)

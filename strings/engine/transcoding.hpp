@@ -74,8 +74,8 @@ bool write_contents(Text_Storage<Character> string, std::uint64_t length, Write 
     return true;
 }
 
-/// Sets the string to the `length` elements that `decode` writes. Returns false, with the string unchanged,
-/// also if text in the string's own block cannot be copied.
+/// Sets the string to the `length` elements that `decode` writes. Returns false if `decode` does, or, with
+/// the string unchanged, if text in the string's own block cannot be copied.
 template <class Decode, class Report>
 bool write_decoded(Wide_Char_Storage string, std::span<const char> utf8, std::uint64_t length, Decode decode,
                    Report report) noexcept

@@ -1,7 +1,7 @@
 /// Storing elements in a growable array: append, insert, replace, and set the whole contents.
 ///
-/// Each operation refuses a link with its note. A failed allocation is reported, and the array is unchanged.
-/// A source that lies in the array's own block is read as if copied first.
+/// Each operation but set_contents refuses a link with its note. A failed allocation is reported, and the
+/// array is unchanged. A source that lies in the array's own block is read as if copied first.
 #pragma once
 
 #include "arrays/engine/storage/lifetime.hpp"

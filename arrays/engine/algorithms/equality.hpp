@@ -30,7 +30,7 @@ bool same_values(std::span<const Element> left, std::span<const std::type_identi
     if constexpr (!has_equality_kernel<Element, Equality>)
         return plain::all_equal(left.data(), right.data(), left.size(), equal);
     else if constexpr (std::is_floating_point_v<Element>)
-        return kernels::all_equal(left.data(), right.data(), left.size());
+        return kernels::search<Element>().all_equal(left.data(), right.data(), left.size());
     else
         return same_memory<Element>(left, right);
 }

@@ -4,6 +4,7 @@
 
 #include "arrays/engine/kernels/element_lanes.hpp"
 #include "arrays/engine/kernels/extrema.hpp"
+#include "arrays/engine/kernels/plain_loops.hpp"
 
 #include <span>
 
@@ -16,23 +17,6 @@ struct Extrema {
     Element maximum;
 };
 
-namespace extrema_detail
-{
-
-/// Returns the first element that no later one precedes. `precedes` takes a later element and the best so
-/// far.
-template <class Element, class Precedes>
-Element foremost(std::span<const Element> elements, Precedes precedes) noexcept
-{
-    Element best = elements[0];
-    for (const Element &element : elements)
-        if (precedes(element, best))
-            best = element;
-    return best;
-}
-
-} // namespace extrema_detail
-
 /// Returns the smallest element; zero (null for pointers) for an empty span.
 template <class Element, class Less = Own_Less>
 Element minimum(std::span<const Element> elements, Less less = {}) noexcept
@@ -41,9 +25,10 @@ Element minimum(std::span<const Element> elements, Less less = {}) noexcept
         return Element{};
     if constexpr (has_order_kernel<Element, Less>) {
         using Lane = Order_Lane<Element>;
-        return lane_of<Element>(kernels::minimum(lanes_of<Lane>(elements.data()), elements.size()));
+        return lane_of<Element>(
+            kernels::extrema<Lane>().minimum(lanes_of<Lane>(elements.data()), elements.size()));
     } else {
-        return extrema_detail::foremost(elements, less);
+        return plain::minimum(elements.data(), elements.size(), less);
     }
 }
 
@@ -55,10 +40,10 @@ Element maximum(std::span<const Element> elements, Less less = {}) noexcept
         return Element{};
     if constexpr (has_order_kernel<Element, Less>) {
         using Lane = Order_Lane<Element>;
-        return lane_of<Element>(kernels::maximum(lanes_of<Lane>(elements.data()), elements.size()));
+        return lane_of<Element>(
+            kernels::extrema<Lane>().maximum(lanes_of<Lane>(elements.data()), elements.size()));
     } else {
-        return extrema_detail::foremost(
-            elements, [&less](const Element &later, const Element &best) { return less(best, later); });
+        return plain::maximum(elements.data(), elements.size(), less);
     }
 }
 
@@ -70,9 +55,9 @@ Extrema<Element> minimum_and_maximum(std::span<const Element> elements, Less les
         if (elements.empty())
             return {};
         using Lane = Order_Lane<Element>;
-        Lane low, high;
-        kernels::minimum_and_maximum(lanes_of<Lane>(elements.data()), elements.size(), low, high);
-        return {lane_of<Element>(low), lane_of<Element>(high)};
+        const kernels::Lane_Extrema<Lane> both =
+            kernels::extrema<Lane>().minimum_and_maximum(lanes_of<Lane>(elements.data()), elements.size());
+        return {lane_of<Element>(both.low), lane_of<Element>(both.high)};
     } else {
         return {minimum(elements, less), maximum(elements, less)};
     }

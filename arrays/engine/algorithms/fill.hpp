@@ -16,7 +16,7 @@ void fill(std::span<Element> elements, const std::type_identity_t<Element> &valu
 {
     if constexpr (has_lane<Element>) {
         using Lane = Bits_Lane<Element>;
-        kernels::fill(lanes_of<Lane>(elements.data()), elements.size(), lane_of<Lane>(value));
+        kernels::stores<Lane>().fill(lanes_of<Lane>(elements.data()), elements.size(), lane_of<Lane>(value));
     } else {
         std::fill(elements.begin(), elements.end(), value);
     }

@@ -18,8 +18,8 @@ std::uint32_t remove_equal(std::span<Element> elements, const std::type_identity
     const std::size_t count = elements.size();
     if constexpr (has_equality_kernel<Element, Equality>) {
         using Lane = Equality_Lane<Element>;
-        return static_cast<std::uint32_t>(
-            kernels::remove_equal(lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value)));
+        return static_cast<std::uint32_t>(kernels::removal<Lane>().remove_equal(
+            lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value)));
     } else {
         return static_cast<std::uint32_t>(plain::remove_equal(elements.data(), count, value, equal));
     }

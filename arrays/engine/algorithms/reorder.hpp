@@ -44,7 +44,7 @@ void reverse(std::span<Element> elements) noexcept
     if (count < 2)
         return;
     if constexpr (has_lane<Element>)
-        kernels::reverse(lanes_of<Bits_Lane<Element>>(elements.data()), count);
+        kernels::stores<Bits_Lane<Element>>().reverse(lanes_of<Bits_Lane<Element>>(elements.data()), count);
     else
         std::reverse(elements.begin(), elements.end());
     if (count % 2 == 0)

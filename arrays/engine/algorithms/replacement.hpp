@@ -19,7 +19,7 @@ std::uint32_t replace_equal(std::span<Element> elements, const std::type_identit
     const std::size_t count = elements.size();
     if constexpr (has_equality_kernel<Element, Equality>) {
         using Lane = Equality_Lane<Element>;
-        return static_cast<std::uint32_t>(kernels::replace_equal(
+        return static_cast<std::uint32_t>(kernels::stores<Lane>().replace_equal(
             lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value), lane_of<Lane>(replacement)));
     } else {
         return static_cast<std::uint32_t>(

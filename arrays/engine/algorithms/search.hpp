@@ -30,7 +30,7 @@ std::uint32_t first_index_of(std::span<const Element> elements, const std::type_
     if constexpr (has_equality_kernel<Element, Equality>) {
         using Lane = Equality_Lane<Element>;
         const std::size_t index =
-            kernels::first_equal(lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value));
+            kernels::search<Lane>().first_equal(lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value));
         return search_detail::index_or_not_found(index, count);
     } else {
         return search_detail::index_or_not_found(plain::first_equal(elements.data(), count, value, equal),
@@ -47,7 +47,7 @@ std::uint32_t last_index_of(std::span<const Element> elements, const std::type_i
     if constexpr (has_equality_kernel<Element, Equality>) {
         using Lane = Equality_Lane<Element>;
         const std::size_t index =
-            kernels::last_equal(lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value));
+            kernels::search<Lane>().last_equal(lanes_of<Lane>(elements.data()), count, lane_of<Lane>(value));
         return search_detail::index_or_not_found(index, count);
     } else {
         return search_detail::index_or_not_found(plain::last_equal(elements.data(), count, value, equal),
@@ -69,8 +69,8 @@ std::uint32_t find_occurrence(std::span<const Element> elements,
     std::size_t start;
     if constexpr (has_equality_kernel<Element, Equality>) {
         using Lane = Equality_Lane<Element>;
-        start =
-            kernels::find_run(lanes_of<Lane>(begin), count, lanes_of<Lane>(pattern.data()), pattern.size());
+        start = kernels::search<Lane>().find_run(lanes_of<Lane>(begin), count, lanes_of<Lane>(pattern.data()),
+                                                 pattern.size());
     } else {
         start = plain::find_run(begin, count, pattern.data(), pattern.size(), equal);
     }

@@ -19,7 +19,7 @@ namespace sort_detail
 constexpr bool sorts(std::size_t count) noexcept { return count >= 2 && count <= INT32_MAX; }
 
 template <class Element, class Precedes>
-void shell_sort(std::span<Element> elements, Precedes precedes) noexcept
+void sort_by_swaps(std::span<Element> elements, Precedes precedes) noexcept
 {
     Element *const data = elements.data();
     if (sorts(elements.size()))
@@ -30,7 +30,7 @@ void shell_sort(std::span<Element> elements, Precedes precedes) noexcept
 }
 
 template <class Element, class Precedes>
-void shell_sort(std::span<Element> elements, std::uint32_t *indexes, Precedes precedes) noexcept
+void sort_by_swaps(std::span<Element> elements, std::uint32_t *indexes, Precedes precedes) noexcept
 {
     Element *const data = elements.data();
     if (sorts(elements.size()))
@@ -82,7 +82,7 @@ void sort(std::span<Element> elements, Less less = {}) noexcept
         if (sort_detail::sorts(elements.size()))
             kernels::sort(lanes_of<Order_Lane<Element>>(elements.data()), elements.size());
     } else {
-        sort_detail::shell_sort(elements, sort_detail::By_Order<Less>{less});
+        sort_detail::sort_by_swaps(elements, sort_detail::By_Order<Less>{less});
     }
 }
 
@@ -92,7 +92,7 @@ void sort(std::span<Element> elements, Less less = {}) noexcept
 template <class Element, class Compare>
 void sort_by(std::span<Element> elements, Compare compare) noexcept
 {
-    sort_detail::shell_sort(elements, sort_detail::By_Comparison<Compare>{compare});
+    sort_detail::sort_by_swaps(elements, sort_detail::By_Comparison<Compare>{compare});
 }
 
 /// Sorts, and makes every exchange in `indexes` as well: if they were 0, 1, 2, ..., index i becomes the
@@ -110,7 +110,7 @@ bool sort_with_permutation(std::span<Element> elements, std::span<std::uint32_t>
         if (sort_detail::sorts(elements.size()))
             kernels::sort(lanes_of<Order_Lane<Element>>(elements.data()), indexes.data(), elements.size());
     } else {
-        sort_detail::shell_sort(elements, indexes.data(), sort_detail::By_Order<Less>{less});
+        sort_detail::sort_by_swaps(elements, indexes.data(), sort_detail::By_Order<Less>{less});
     }
     return true;
 }
@@ -125,7 +125,7 @@ bool sort_with_permutation_by(std::span<Element> elements, std::span<std::uint32
     if (sort_detail::lie_among(indexes, elements))
         sort_by(elements, compare);
     else
-        sort_detail::shell_sort(elements, indexes.data(), sort_detail::By_Comparison<Compare>{compare});
+        sort_detail::sort_by_swaps(elements, indexes.data(), sort_detail::By_Comparison<Compare>{compare});
     return true;
 }
 

@@ -10,10 +10,10 @@ namespace zeb::engine
 {
 
 /// Sorts ascending, as unsigned bytes with `bias` 0 and as signed ones with 0x80. The bytes of each value
-/// are counted, then written anew.
+/// are counted, then rewritten.
 inline void counting_sort(std::uint8_t *bytes, std::size_t count, std::uint8_t bias) noexcept
 {
-    // Several tables, so that a run of one value does not wait for its own counter.
+    // Several tables, so that a run of one value does not stall on its own counter.
     std::array<std::array<std::uint32_t, 256>, 4> seen{};
     std::size_t index = 0;
     for (; index + 8 <= count; index += 8) {
@@ -28,8 +28,8 @@ inline void counting_sort(std::uint8_t *bytes, std::size_t count, std::uint8_t b
     }
     for (; index < count; ++index)
         ++seen[0][bytes[index]];
-    for (unsigned place = 0; place < 256; ++place) {
-        const std::uint8_t value = static_cast<std::uint8_t>(place ^ bias);
+    for (unsigned order = 0; order < 256; ++order) {
+        const std::uint8_t value = static_cast<std::uint8_t>(order ^ bias);
         const std::size_t length = seen[0][value] + seen[1][value] + seen[2][value] + seen[3][value];
         std::memset(bytes, value, length);
         bytes += length;

@@ -1,7 +1,9 @@
 #include "arrays/engine/kernels/extrema.hpp"
 
+#include "arrays/engine/kernels/plain_loops.hpp"
 #include "arrays/engine/kernels/search.hpp"
 
+#include <cstdint>
 #include <type_traits>
 
 #if ZEB_HAS_HIGHWAY
@@ -19,7 +21,7 @@ namespace HWY_NAMESPACE
 {
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// The lower of both; `best` where either is not a number.
+/// The lower of both; `best` if either is NaN.
 struct Lower {
     template <class V>
     HWY_INLINE V operator()(V lane, V best) const
@@ -37,7 +39,7 @@ struct Lower {
     }
 };
 
-/// The upper of both; `best` where either is not a number.
+/// The upper of both; `best` if either is NaN.
 struct Upper {
     template <class V>
     HWY_INLINE V operator()(V lane, V best) const
@@ -104,57 +106,49 @@ HWY_INLINE void scan(D d, const Lane *lanes, std::size_t count, Bests &...bests)
     (bests.add(hn::LoadU(d, lanes + count - N)), ...);
 }
 
-template <class Better, class Lane>
-Lane foremost(const Lane *lanes, std::size_t count)
+/// Vectors do not show which of two equal zeros came first; a search does.
+template <class Lane>
+Lane first_of_equals(const Lane *lanes, std::size_t count, Lane best)
 {
-    Lane best = lanes[0];
-    for (std::size_t i = 1; i < count; ++i)
-        best = Better::precedes(lanes[i], best) ? lanes[i] : best;
+    if constexpr (std::is_floating_point_v<Lane>)
+        if (best == 0)
+            return lanes[search<Lane>().first_equal(lanes, count, best)];
     return best;
+}
+
+template <class Lane>
+bool needs_plain_loop(const Lane *lanes, std::size_t count)
+{
+    return count < hn::Lanes(hn::ScalableTag<Lane>()) || lanes[0] != lanes[0];
 }
 
 template <class Better, class Lane>
 Lane extreme(const Lane *lanes, std::size_t count)
 {
     const hn::ScalableTag<Lane> d;
-    if (count < hn::Lanes(d) || lanes[0] != lanes[0])
-        return foremost<Better>(lanes, count);
+    if (needs_plain_loop(lanes, count))
+        return plain::foremost(lanes, count, Better::template precedes<Lane>);
     Best<decltype(d), Better> best(d, lanes[0]);
     scan(d, lanes, count, best);
-    return best.result(d);
+    return first_of_equals(lanes, count, best.result(d));
 }
 
 template <class Lane>
-void both_extremes(const Lane *lanes, std::size_t count, Lane &low, Lane &high)
+Lane_Extrema<Lane> both_extremes(const Lane *lanes, std::size_t count)
 {
     const hn::ScalableTag<Lane> d;
-    if (count < hn::Lanes(d) || lanes[0] != lanes[0]) {
-        low = foremost<Lower>(lanes, count);
-        high = foremost<Upper>(lanes, count);
-        return;
-    }
+    if (needs_plain_loop(lanes, count))
+        return {extreme<Lower>(lanes, count), extreme<Upper>(lanes, count)};
     Best<decltype(d), Lower> lowest(d, lanes[0]);
     Best<decltype(d), Upper> highest(d, lanes[0]);
     scan(d, lanes, count, lowest, highest);
-    low = lowest.result(d);
-    high = highest.result(d);
+    return {first_of_equals(lanes, count, lowest.result(d)),
+            first_of_equals(lanes, count, highest.result(d))};
 }
 
-#define ZEB_LANE(Lane)                                                                                       \
-    Lane minimum_##Lane(const Lane *lanes, std::size_t count) { return extreme<Lower>(lanes, count); }       \
-    Lane maximum_##Lane(const Lane *lanes, std::size_t count) { return extreme<Upper>(lanes, count); }       \
-    void both_##Lane(const Lane *lanes, std::size_t count, Lane &low, Lane &high)                            \
-    {                                                                                                        \
-        both_extremes(lanes, count, low, high);                                                              \
-    }
-ZEB_LANE(uint8_t)
-ZEB_LANE(int8_t)
-ZEB_LANE(uint32_t)
-ZEB_LANE(int32_t)
-ZEB_LANE(uint64_t)
-ZEB_LANE(float)
-ZEB_LANE(double)
-#undef ZEB_LANE
+template <class Lane>
+constexpr Extrema_Kernels<Lane> extrema_table{extreme<Lower, Lane>, extreme<Upper, Lane>,
+                                              both_extremes<Lane>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -162,77 +156,31 @@ HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
+#include "arrays/engine/kernels/vector_dispatch.hpp"
+
 namespace zeb::engine::kernels
 {
-namespace
-{
 
-#if ZEB_HAS_HIGHWAY
-/// Vectors do not tell which of two equal zeros came first; a search does.
+#if !ZEB_HAS_HIGHWAY
 template <class Lane>
-Lane first_of_equals(const Lane *lanes, std::size_t count, Lane best) noexcept
-{
-    if constexpr (std::is_floating_point_v<Lane>)
-        if (best == 0)
-            return lanes[first_equal(lanes, count, best)];
-    return best;
-}
-#else
-template <class Lane, class Precedes>
-Lane foremost(const Lane *lanes, std::size_t count, Precedes precedes) noexcept
-{
-    Lane best = lanes[0];
-    for (std::size_t i = 1; i < count; ++i)
-        best = precedes(lanes[i], best) ? lanes[i] : best;
-    return best;
-}
+constexpr Extrema_Kernels<Lane> extrema_table{
+    ZEB_PLAIN(minimum), ZEB_PLAIN(maximum), [](const Lane *lanes, std::size_t count) {
+        return Lane_Extrema<Lane>{plain::minimum(lanes, count), plain::maximum(lanes, count)};
+    }};
 #endif
 
-} // namespace
-
-#if ZEB_HAS_HIGHWAY
-#define ZEB_LANE(Lane)                                                                                       \
-    HWY_EXPORT(minimum_##Lane);                                                                              \
-    HWY_EXPORT(maximum_##Lane);                                                                              \
-    HWY_EXPORT(both_##Lane);                                                                                 \
-    Lane minimum(const Lane *lanes, std::size_t count) noexcept                                              \
-    {                                                                                                        \
-        return first_of_equals(lanes, count, HWY_DYNAMIC_DISPATCH(minimum_##Lane)(lanes, count));            \
-    }                                                                                                        \
-    Lane maximum(const Lane *lanes, std::size_t count) noexcept                                              \
-    {                                                                                                        \
-        return first_of_equals(lanes, count, HWY_DYNAMIC_DISPATCH(maximum_##Lane)(lanes, count));            \
-    }                                                                                                        \
-    void minimum_and_maximum(const Lane *lanes, std::size_t count, Lane &low, Lane &high) noexcept           \
-    {                                                                                                        \
-        HWY_DYNAMIC_DISPATCH(both_##Lane)(lanes, count, low, high);                                          \
-        low = first_of_equals(lanes, count, low);                                                            \
-        high = first_of_equals(lanes, count, high);                                                          \
-    }
-#else
-#define ZEB_LANE(Lane)                                                                                       \
-    Lane minimum(const Lane *lanes, std::size_t count) noexcept                                              \
-    {                                                                                                        \
-        return foremost(lanes, count, [](Lane lane, Lane best) { return lane < best; });                     \
-    }                                                                                                        \
-    Lane maximum(const Lane *lanes, std::size_t count) noexcept                                              \
-    {                                                                                                        \
-        return foremost(lanes, count, [](Lane lane, Lane best) { return best < lane; });                     \
-    }                                                                                                        \
-    void minimum_and_maximum(const Lane *lanes, std::size_t count, Lane &low, Lane &high) noexcept           \
-    {                                                                                                        \
-        low = minimum(lanes, count);                                                                         \
-        high = maximum(lanes, count);                                                                        \
-    }
-#endif
-ZEB_LANE(uint8_t)
-ZEB_LANE(int8_t)
-ZEB_LANE(uint32_t)
-ZEB_LANE(int32_t)
-ZEB_LANE(uint64_t)
-ZEB_LANE(float)
-ZEB_LANE(double)
-#undef ZEB_LANE
+template <class Lane>
+const Extrema_Kernels<Lane> &extrema() noexcept
+{
+    return ZEB_CHOSEN(extrema_table<Lane>);
+}
+template const Extrema_Kernels<std::uint8_t> &extrema() noexcept;
+template const Extrema_Kernels<std::int8_t> &extrema() noexcept;
+template const Extrema_Kernels<std::uint32_t> &extrema() noexcept;
+template const Extrema_Kernels<std::int32_t> &extrema() noexcept;
+template const Extrema_Kernels<std::uint64_t> &extrema() noexcept;
+template const Extrema_Kernels<float> &extrema() noexcept;
+template const Extrema_Kernels<double> &extrema() noexcept;
 
 } // namespace zeb::engine::kernels
 #endif

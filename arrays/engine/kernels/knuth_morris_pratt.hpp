@@ -1,6 +1,7 @@
 /// A search for a run of elements that takes linear time on every input.
 #pragma once
 
+#include "arrays/engine/kernels/plain_loops.hpp"
 #include "arrays/engine/scratch.hpp"
 
 #include <cstddef>
@@ -24,8 +25,8 @@ void find_borders(const Element *pattern, std::size_t length, std::uint32_t *bor
     }
 }
 
-/// Start of the first run equal to the pattern (length at least 1); count when there is none. A pattern
-/// element that does not equal itself is never matched. `borders` comes from `find_borders`.
+/// Start of the first run equal to the pattern (length at least 1); count if there is none. A pattern
+/// element that does not equal itself never matches. `borders` comes from `find_borders`.
 template <class Element>
 std::size_t find_run_by_borders(const Element *elements, std::size_t count, const Element *pattern,
                                 std::size_t length, const std::uint32_t *borders) noexcept
@@ -39,6 +40,18 @@ std::size_t find_run_by_borders(const Element *elements, std::size_t count, cons
             return index + 1 - length;
     }
     return count;
+}
+
+/// The same without borders at hand. If allocation fails, the time is no longer linear.
+template <class Element>
+std::size_t find_run_linearly(const Element *elements, std::size_t count, const Element *pattern,
+                              std::size_t length) noexcept
+{
+    const Scratch<std::uint32_t> borders(length);
+    if (borders.get() == nullptr)
+        return find_run(elements, count, pattern, length);
+    find_borders(pattern, length, borders.get());
+    return find_run_by_borders(elements, count, pattern, length, borders.get());
 }
 
 } // namespace zeb::engine::plain

@@ -1,4 +1,5 @@
-/// Which elements of a pattern tell best that a place in a text is none of its occurrences.
+/// Chooses three positions of a search pattern whose elements are rare in the text, so that comparing those
+/// first rejects most candidates.
 #pragma once
 
 #include <array>
@@ -10,21 +11,21 @@ namespace zeb::engine
 {
 
 /// Three indexes into a pattern.
-struct Telling_Places {
+struct Probe_Positions {
     std::size_t first, second, third;
 };
 
-/// What there is to choose where nothing is known of the text.
-constexpr Telling_Places ends_and_middle(std::size_t length) noexcept { return {0, length / 2, length - 1}; }
+/// The choice while nothing is known of the text.
+constexpr Probe_Positions ends_and_middle(std::size_t length) noexcept { return {0, length / 2, length - 1}; }
 
-/// Sampling a text takes as long as looking at some thousand places of it: it is worth that in a text where
-/// this many places were in vain and as many are left.
-inline constexpr std::size_t places_before_sampling = 65536;
+/// Sampling a text costs as much as testing about a thousand of its positions. It pays once this many
+/// positions were tested without success and as many are left.
+inline constexpr std::size_t positions_before_sampling = 65536;
 
-namespace telling_detail
+namespace probe_detail
 {
 
-/// Elements are told apart by their low byte.
+/// Elements are distinguished by their low byte.
 template <class Lane>
 std::uint8_t low_byte(Lane lane) noexcept
 {
@@ -34,7 +35,7 @@ std::uint8_t low_byte(Lane lane) noexcept
         return 0;
 }
 
-/// How often each low byte stands in a few runs of the text, spread over all of it.
+/// How often each low byte occurs in a few short runs spread over the text.
 template <class Lane>
 std::array<std::uint16_t, 256> count_sample(const Lane *text, std::size_t count) noexcept
 {
@@ -48,26 +49,28 @@ std::array<std::uint16_t, 256> count_sample(const Lane *text, std::size_t count)
     return seen;
 }
 
-} // namespace telling_detail
+} // namespace probe_detail
 
 /// The three elements of the pattern, among its first few hundred, that are rarest in a sample of the text.
 template <class Lane>
-Telling_Places rarest_places(const Lane *text, std::size_t count, const Lane *pattern,
-                             std::size_t length) noexcept
+Probe_Positions rarest_positions(const Lane *text, std::size_t count, const Lane *pattern,
+                                 std::size_t length) noexcept
 {
-    constexpr std::size_t most_places = 256;
-    const std::array<std::uint16_t, 256> seen = telling_detail::count_sample(text, count);
-    const auto frequency = [&](std::size_t place) { return seen[telling_detail::low_byte(pattern[place])]; };
-    Telling_Places rarest = ends_and_middle(length);
-    for (std::size_t place = 1; place < length - 1 && place < most_places; ++place) {
-        if (place == length / 2)
+    constexpr std::size_t most_positions = 256;
+    const std::array<std::uint16_t, 256> seen = probe_detail::count_sample(text, count);
+    const auto frequency = [&](std::size_t position) {
+        return seen[probe_detail::low_byte(pattern[position])];
+    };
+    Probe_Positions rarest = ends_and_middle(length);
+    for (std::size_t position = 1; position < length - 1 && position < most_positions; ++position) {
+        if (position == length / 2)
             continue;
-        // The place that tells least gives way.
-        std::size_t *least = &rarest.first;
+        // Replaces the most frequent of the three.
+        std::size_t *commonest = &rarest.first;
         for (std::size_t *other : {&rarest.second, &rarest.third})
-            least = frequency(*other) > frequency(*least) ? other : least;
-        if (frequency(place) < frequency(*least))
-            *least = place;
+            commonest = frequency(*other) > frequency(*commonest) ? other : commonest;
+        if (frequency(position) < frequency(*commonest))
+            *commonest = position;
     }
     return rarest;
 }

@@ -1,17 +1,18 @@
 /// One loop per search or change, for every element type and functor. They serve functors that no vector
-/// kernel knows, and stand in for the kernels where there are no vectors.
+/// kernel knows, and replace the kernels where there are no vectors.
 #pragma once
 
+#include "arrays/engine/element_order.hpp"
+
 #include <cstddef>
-#include <cstdint>
 
 namespace zeb::engine::plain
 {
 
 /// Index of the first element equal to the value; count when there is none.
-template <class Element, class Equality>
+template <class Element, class Equality = Own_Equality>
 std::size_t first_equal(const Element *elements, std::size_t count, const Element &value,
-                        Equality equal) noexcept
+                        Equality equal = {}) noexcept
 {
     std::size_t index = 0;
     while (index < count && !equal(elements[index], value))
@@ -20,9 +21,9 @@ std::size_t first_equal(const Element *elements, std::size_t count, const Elemen
 }
 
 /// Index of the last element equal to the value; count when there is none.
-template <class Element, class Equality>
+template <class Element, class Equality = Own_Equality>
 std::size_t last_equal(const Element *elements, std::size_t count, const Element &value,
-                       Equality equal) noexcept
+                       Equality equal = {}) noexcept
 {
     for (std::size_t index = count; index-- > 0;)
         if (equal(elements[index], value))
@@ -31,8 +32,8 @@ std::size_t last_equal(const Element *elements, std::size_t count, const Element
 }
 
 /// True when both runs hold equal elements in the same order.
-template <class Element, class Equality>
-bool all_equal(const Element *left, const Element *right, std::size_t count, Equality equal) noexcept
+template <class Element, class Equality = Own_Equality>
+bool all_equal(const Element *left, const Element *right, std::size_t count, Equality equal = {}) noexcept
 {
     for (std::size_t index = 0; index < count; ++index)
         if (!equal(left[index], right[index]))
@@ -41,9 +42,9 @@ bool all_equal(const Element *left, const Element *right, std::size_t count, Equ
 }
 
 /// Start of the first run equal to the pattern (length at least 1); count when there is none.
-template <class Element, class Equality>
+template <class Element, class Equality = Own_Equality>
 std::size_t find_run(const Element *elements, std::size_t count, const Element *pattern, std::size_t length,
-                     Equality equal) noexcept
+                     Equality equal = {}) noexcept
 {
     for (std::size_t start = 0; start + length <= count; ++start)
         if (all_equal(elements + start, pattern, length, equal))
@@ -51,10 +52,10 @@ std::size_t find_run(const Element *elements, std::size_t count, const Element *
     return count;
 }
 
-/// Writes the replacement over every element equal to the value; answers how many.
-template <class Element, class Equality>
+/// Writes the replacement over every element equal to the value; returns how many.
+template <class Element, class Equality = Own_Equality>
 std::size_t replace_equal(Element *elements, std::size_t count, const Element &value,
-                          const Element &replacement, Equality equal) noexcept
+                          const Element &replacement, Equality equal = {}) noexcept
 {
     std::size_t replaced = 0;
     for (std::size_t index = 0; index < count; ++index) {
@@ -66,16 +67,41 @@ std::size_t replace_equal(Element *elements, std::size_t count, const Element &v
     return replaced;
 }
 
-/// Moves the elements that differ from the value to the front, in order; answers how many. Writes
-/// nothing at or after the answered index.
-template <class Element, class Equality>
-std::size_t remove_equal(Element *elements, std::size_t count, const Element &value, Equality equal) noexcept
+/// Moves the elements that differ from the value to the front, in order; returns how many. Writes
+/// nothing at or after the returned index.
+template <class Element, class Equality = Own_Equality>
+std::size_t remove_equal(Element *elements, std::size_t count, const Element &value,
+                         Equality equal = {}) noexcept
 {
     std::size_t kept = first_equal(elements, count, value, equal);
     for (std::size_t index = kept; index < count; ++index)
         if (!equal(elements[index], value))
             elements[kept++] = elements[index];
     return kept;
+}
+
+/// The first element that no later one precedes; the count is at least 1. `precedes` is called with a later
+/// element and the best so far.
+template <class Element, class Precedes>
+Element foremost(const Element *elements, std::size_t count, Precedes precedes) noexcept
+{
+    Element best = elements[0];
+    for (std::size_t index = 1; index < count; ++index)
+        best = precedes(elements[index], best) ? elements[index] : best;
+    return best;
+}
+
+template <class Element, class Less = Own_Less>
+Element minimum(const Element *elements, std::size_t count, Less less = {}) noexcept
+{
+    return foremost(elements, count, less);
+}
+
+template <class Element, class Less = Own_Less>
+Element maximum(const Element *elements, std::size_t count, Less less = {}) noexcept
+{
+    return foremost(elements, count,
+                    [&](const Element &later, const Element &best) { return less(best, later); });
 }
 
 } // namespace zeb::engine::plain

@@ -1,174 +1,94 @@
 #include "arrays/engine/kernels/removal.hpp"
 
-#include "arrays/engine/element_order.hpp"
+#include "arrays/engine/kernels/packing_table.hpp"
 #include "arrays/engine/kernels/plain_loops.hpp"
 #include "arrays/engine/kernels/search.hpp"
 
-#include <array>
+#include <cstdint>
 #include <cstring>
 
-#if defined(__x86_64__) && defined(__GNUC__)
-#define ZEB_REMOVES_WITH_AVX2 1
-#include <immintrin.h>
-#endif
+#if ZEB_HAS_HIGHWAY
+#include "arrays/engine/kernels/vector_targets.hpp"
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "arrays/engine/kernels/removal.cpp"
+#include <hwy/foreach_target.h>
 
+#include "arrays/engine/kernels/vector_lanes.hpp"
+
+HWY_BEFORE_NAMESPACE();
 namespace zeb::engine::kernels
 {
-namespace
+namespace HWY_NAMESPACE
 {
+namespace hn = hwy::HWY_NAMESPACE;
 
-#if ZEB_REMOVES_WITH_AVX2
-
-#define ZEB_AVX2 __attribute__((target("avx2,popcnt")))
-
-/// For each mask of lanes to keep, where the kept ones come from, packed to the front. `Parts` indexes
-/// belong to one lane.
-template <unsigned Lanes, unsigned Parts, class Index>
-constexpr auto packing_table()
+#if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
+/// Emulated vectors are no faster than the plain loop.
+template <class Lane>
+std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value)
 {
-    std::array<std::array<Index, Lanes * Parts>, 1u << Lanes> table{};
-    for (unsigned mask = 0; mask < table.size(); ++mask) {
-        unsigned to = 0;
-        for (unsigned from = 0; from < Lanes; ++from)
-            for (unsigned part = 0; (mask >> from & 1) != 0 && part < Parts; ++part)
-                table[mask][to++] = static_cast<Index>(from * Parts + part);
-    }
-    return table;
+    return plain::remove_equal(lanes, count, value);
+}
+#else
+/// Stores the lanes of a mask side by side; returns how many. Up to a whole vector is written.
+template <class D, class Lane>
+HWY_INLINE std::size_t store_packed(D d, hn::Vec<D> vector, hn::Mask<D> kept, Lane *to)
+{
+    // Packed in a register: packing into memory is slow on some processors.
+    hn::StoreU(hn::Compress(vector, kept), d, to);
+    return hn::CountTrue(d, kept);
 }
 
-alignas(64) constexpr auto packed_bytes = packing_table<8, 1, std::uint8_t>();
-alignas(64) constexpr auto packed_words = packing_table<8, 1, std::uint32_t>();
-alignas(64) constexpr auto packed_pairs = packing_table<4, 2, std::uint32_t>();
-
-/// One vector of lanes: which of them equal a value, and how those to keep are stored side by side.
-/// `store` writes up to a whole vector, of which only the kept lanes are meant.
-struct Byte_Vector {
-    using Lane = std::uint8_t;
-    static constexpr std::size_t lanes = 32;
-    static constexpr std::uint32_t all = 0xFFFFFFFF;
-    static constexpr bool stores_all_faster = true;
-
-    ZEB_AVX2 static __m256i load(const Lane *from)
-    {
-        return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(from));
-    }
-    ZEB_AVX2 static std::uint32_t equal(__m256i vector, Lane value)
-    {
-        const __m256i same = _mm256_cmpeq_epi8(vector, _mm256_set1_epi8(static_cast<char>(value)));
-        return static_cast<std::uint32_t>(_mm256_movemask_epi8(same));
-    }
-    ZEB_AVX2 static void store_all(__m256i vector, Lane *to)
-    {
-        _mm256_storeu_si256(reinterpret_cast<__m256i *>(to), vector);
-    }
-    ZEB_AVX2 static std::size_t store(__m256i vector, std::uint32_t kept, Lane *to)
-    {
-        const __m128i low = _mm256_castsi256_si128(vector);
-        const __m128i high = _mm256_extracti128_si256(vector, 1);
-        // Where each eight bytes go is counted from the whole mask: no step waits for the one before.
-        store_eight(low, kept, to);
-        store_eight(_mm_unpackhi_epi64(low, low), kept >> 8, to + count(kept & 0xFF));
-        store_eight(high, kept >> 16, to + count(kept & 0xFFFF));
-        store_eight(_mm_unpackhi_epi64(high, high), kept >> 24, to + count(kept & 0xFFFFFF));
-        return count(kept);
-    }
-
-private:
-    ZEB_AVX2 static std::size_t count(std::uint32_t mask)
-    {
-        return static_cast<std::size_t>(__builtin_popcount(mask));
-    }
-    ZEB_AVX2 static void store_eight(__m128i eight, std::uint32_t kept, Lane *to)
-    {
-        const __m128i order =
-            _mm_loadl_epi64(reinterpret_cast<const __m128i *>(packed_bytes[kept & 0xFF].data()));
-        _mm_storel_epi64(reinterpret_cast<__m128i *>(to), _mm_shuffle_epi8(eight, order));
-    }
-};
-
-/// What 32- and 64-bit lanes share: lanes move as pairs of, or single, 32-bit words.
-template <class Lane_Type>
-struct Word_Vector {
-    using Lane = Lane_Type;
-    static constexpr std::size_t lanes = 32 / sizeof(Lane);
-    static constexpr std::uint32_t all = (1u << lanes) - 1;
-    static constexpr bool stores_all_faster = false;
-
-    ZEB_AVX2 static __m256i load(const Lane *from)
-    {
-        return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(from));
-    }
-    ZEB_AVX2 static std::uint32_t equal(__m256i vector, Lane value);
-    ZEB_AVX2 static void store_all(__m256i vector, Lane *to)
-    {
-        _mm256_storeu_si256(reinterpret_cast<__m256i *>(to), vector);
-    }
-    ZEB_AVX2 static std::size_t store(__m256i vector, std::uint32_t kept, Lane *to)
-    {
-        const std::uint32_t *order;
-        if constexpr (lanes == 8)
-            order = packed_words[kept].data();
-        else
-            order = packed_pairs[kept].data();
-        const __m256i from = _mm256_load_si256(reinterpret_cast<const __m256i *>(order));
-        store_all(_mm256_permutevar8x32_epi32(vector, from), to);
-        return static_cast<std::size_t>(__builtin_popcount(kept));
-    }
-};
-
-template <>
-ZEB_AVX2 std::uint32_t Word_Vector<std::uint32_t>::equal(__m256i vector, std::uint32_t value)
+/// The same for bytes, of which eight at a time are packed through a table.
+template <class D>
+HWY_INLINE std::size_t store_packed_bytes(D d, const std::uint8_t *from, hn::Mask<D> kept, std::uint8_t *to)
 {
-    const __m256i same = _mm256_cmpeq_epi32(vector, _mm256_set1_epi32(static_cast<int>(value)));
-    return static_cast<std::uint32_t>(_mm256_movemask_ps(_mm256_castsi256_ps(same)));
-}
-template <>
-ZEB_AVX2 std::uint32_t Word_Vector<std::uint64_t>::equal(__m256i vector, std::uint64_t value)
-{
-    const __m256i same = _mm256_cmpeq_epi64(vector, _mm256_set1_epi64x(static_cast<long long>(value)));
-    return static_cast<std::uint32_t>(_mm256_movemask_pd(_mm256_castsi256_pd(same)));
-}
-template <>
-ZEB_AVX2 std::uint32_t Word_Vector<float>::equal(__m256i vector, float value)
-{
-    const __m256 same = _mm256_cmp_ps(_mm256_castsi256_ps(vector), _mm256_set1_ps(value), _CMP_EQ_OQ);
-    return static_cast<std::uint32_t>(_mm256_movemask_ps(same));
-}
-template <>
-ZEB_AVX2 std::uint32_t Word_Vector<double>::equal(__m256i vector, double value)
-{
-    const __m256d same = _mm256_cmp_pd(_mm256_castsi256_pd(vector), _mm256_set1_pd(value), _CMP_EQ_OQ);
-    return static_cast<std::uint32_t>(_mm256_movemask_pd(same));
+    const hn::Full64<std::uint8_t> eight;
+    const std::uint64_t bits = bits_of(d, kept);
+    for (std::size_t at = 0; at < hn::Lanes(d); at += 8) {
+        // Each offset is counted from the whole mask, so that no step waits for the one before.
+        const std::uint64_t below = bits & ((std::uint64_t{1} << at) - 1);
+        const auto order = hn::LoadU(eight, packed_bytes[bits >> at & 0xFF].data());
+        hn::StoreU(hn::TableLookupBytes(hn::LoadU(eight, from + at), order), eight,
+                   to + __builtin_popcountll(below));
+    }
+    return static_cast<std::size_t>(__builtin_popcountll(bits));
 }
 
-/// Packs whole vectors from index `from` up to `end`, onto `kept` and up; answers the new `kept`. The lanes
-/// of one vector after the answered index end undefined.
-template <class Vector, class Lane>
-ZEB_AVX2 std::size_t pack(Lane *lanes, std::size_t kept, std::size_t from, std::size_t end, Lane value)
+/// Packs whole vectors from index `from` up to `end`, to index `kept` and up; returns the new `kept`. The
+/// lanes of one vector after that index are undefined.
+template <class Lane>
+std::size_t pack(Lane *lanes, std::size_t kept, std::size_t from, std::size_t end, Lane value)
 {
-    for (; from < end; from += Vector::lanes) {
-        const __m256i vector = Vector::load(lanes + from);
-        const std::uint32_t equal = Vector::equal(vector, value);
-        if (Vector::stores_all_faster && equal == 0) {
-            Vector::store_all(vector, lanes + kept);
-            kept += Vector::lanes;
+    const hn::ScalableTag<Lane> d;
+    const auto values = hn::Set(d, value);
+    for (; from < end; from += hn::Lanes(d)) {
+        const auto vector = hn::LoadU(d, lanes + from);
+        const auto equal = hn::Eq(vector, values);
+        if constexpr (sizeof(Lane) > 1) {
+            kept += store_packed(d, vector, hn::Not(equal), lanes + kept);
+        } else if (hn::AllFalse(d, equal)) {
+            hn::StoreU(vector, d, lanes + kept);
+            kept += hn::Lanes(d);
         } else {
-            kept += Vector::store(vector, ~equal & Vector::all, lanes + kept);
+            kept += store_packed_bytes(d, lanes + from, hn::Not(equal), lanes + kept);
         }
     }
     return kept;
 }
 
-/// Copies the last lanes that stay, up to one vector of them, to the end of `tail`; answers the index of
-/// the first lane looked at and lowers `free` by how many were copied.
-template <class Vector, class Lane>
-ZEB_AVX2 std::size_t copy_tail(const Lane *lanes, std::size_t begin, std::size_t end, Lane value, Lane *tail,
-                               std::size_t &free)
+/// Copies the last lanes that stay, up to one vector of them, to the end of `tail`; returns the index of
+/// the first lane tested and lowers `free` by how many were copied.
+template <class Lane>
+std::size_t copy_tail(const Lane *lanes, std::size_t begin, std::size_t end, Lane value, Lane *tail,
+                      std::size_t &free)
 {
+    const hn::ScalableTag<Lane> d;
+    const std::size_t N = hn::Lanes(d);
+    const auto values = hn::Set(d, value);
     while (end > begin && free > 0) {
-        while (end - begin >= Vector::lanes &&
-               Vector::equal(Vector::load(lanes + end - Vector::lanes), value) == Vector::all)
-            end -= Vector::lanes;
+        while (end - begin >= N && hn::AllTrue(d, hn::Eq(hn::LoadU(d, lanes + end - N), values)))
+            end -= N;
         if (end == begin)
             break;
         if (!(lanes[--end] == value))
@@ -177,56 +97,63 @@ ZEB_AVX2 std::size_t copy_tail(const Lane *lanes, std::size_t begin, std::size_t
     return end;
 }
 
-/// Whole vectors are stored past what is kept, so the last lanes that stay are set aside first, and put
-/// where the last store ended: they cover what it spoilt.
-template <class Vector, class Lane>
-std::size_t remove_equal_avx2(Lane *lanes, std::size_t count, Lane value)
+/// Whole vectors are stored past what is kept, so the last lanes that stay are copied first, and put
+/// where the last store ended: they cover what it overwrote.
+template <class Lane>
+std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value)
 {
-    constexpr std::size_t N = Vector::lanes;
-    std::size_t kept = first_equal(lanes, count, value);
+    const hn::ScalableTag<Lane> d;
+    const std::size_t N = hn::Lanes(d);
+    std::size_t kept = search<Lane>().first_equal(lanes, count, value);
     if (count - kept < 2 * N)
-        return kept + plain::remove_equal(lanes + kept, count - kept, value, Own_Equality{});
-    Lane tail[N];
+        return kept + plain::remove_equal(lanes + kept, count - kept, value);
+    Lane tail[hn::MaxLanes(d)];
     std::size_t free = N;
-    std::size_t end = copy_tail<Vector>(lanes, kept, count, value, tail, free);
+    std::size_t end = copy_tail(lanes, kept, count, value, tail, free);
     const std::size_t whole = kept + (end - kept) / N * N;
-    // What does not fill a vector goes first into a buffer of its own.
-    Lane rest[N];
+    // What does not fill a vector goes through a buffer of its own.
+    Lane rest[hn::MaxLanes(d)];
     std::size_t in_rest = 0;
     for (std::size_t index = whole; index < end; ++index)
         if (!(lanes[index] == value))
             rest[in_rest++] = lanes[index];
-    kept = pack<Vector>(lanes, kept, kept, whole, value);
+    kept = pack(lanes, kept, kept, whole, value);
     std::memcpy(lanes + kept, rest, in_rest * sizeof(Lane));
     kept += in_rest;
     std::memcpy(lanes + kept, tail + free, (N - free) * sizeof(Lane));
     return kept + N - free;
 }
-
 #endif
 
-} // namespace
+template <class Lane>
+constexpr Removal_Kernels<Lane> removal_table{remove_equal<Lane>};
 
-#if ZEB_REMOVES_WITH_AVX2
-#define ZEB_LANE(Lane, Vector)                                                                               \
-    std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value) noexcept                            \
-    {                                                                                                        \
-        if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("popcnt"))                              \
-            return remove_equal_avx2<Vector>(lanes, count, value);                                           \
-        return plain::remove_equal(lanes, count, value, Own_Equality{});                                     \
-    }
-#else
-#define ZEB_LANE(Lane, Vector)                                                                               \
-    std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value) noexcept                            \
-    {                                                                                                        \
-        return plain::remove_equal(lanes, count, value, Own_Equality{});                                     \
-    }
+} // namespace HWY_NAMESPACE
+} // namespace zeb::engine::kernels
+HWY_AFTER_NAMESPACE();
 #endif
-ZEB_LANE(std::uint8_t, Byte_Vector)
-ZEB_LANE(std::uint32_t, Word_Vector<std::uint32_t>)
-ZEB_LANE(std::uint64_t, Word_Vector<std::uint64_t>)
-ZEB_LANE(float, Word_Vector<float>)
-ZEB_LANE(double, Word_Vector<double>)
-#undef ZEB_LANE
+
+#if !ZEB_HAS_HIGHWAY || HWY_ONCE
+#include "arrays/engine/kernels/vector_dispatch.hpp"
+
+namespace zeb::engine::kernels
+{
+
+#if !ZEB_HAS_HIGHWAY
+template <class Lane>
+constexpr Removal_Kernels<Lane> removal_table{ZEB_PLAIN(remove_equal)};
+#endif
+
+template <class Lane>
+const Removal_Kernels<Lane> &removal() noexcept
+{
+    return ZEB_CHOSEN(removal_table<Lane>);
+}
+template const Removal_Kernels<std::uint8_t> &removal() noexcept;
+template const Removal_Kernels<std::uint32_t> &removal() noexcept;
+template const Removal_Kernels<std::uint64_t> &removal() noexcept;
+template const Removal_Kernels<float> &removal() noexcept;
+template const Removal_Kernels<double> &removal() noexcept;
 
 } // namespace zeb::engine::kernels
+#endif

@@ -2,17 +2,19 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 
 namespace zeb::engine::kernels
 {
 
-/// Moves the lanes that are not `==` the value to the front, in order, and answers how many. Nothing is
-/// written before the first match, and at and after the answered index every lane is as it was.
-std::size_t remove_equal(std::uint8_t *lanes, std::size_t count, std::uint8_t value) noexcept;
-std::size_t remove_equal(std::uint32_t *lanes, std::size_t count, std::uint32_t value) noexcept;
-std::size_t remove_equal(std::uint64_t *lanes, std::size_t count, std::uint64_t value) noexcept;
-std::size_t remove_equal(float *lanes, std::size_t count, float value) noexcept;
-std::size_t remove_equal(double *lanes, std::size_t count, double value) noexcept;
+template <class Lane>
+struct Removal_Kernels {
+    /// Moves the lanes that are not `==` the value to the front, in order, and returns how many. Nothing is
+    /// written before the first match, and at and after the returned index every lane is as it was.
+    std::size_t (*remove_equal)(Lane *lanes, std::size_t count, Lane value);
+};
+
+/// The kernels for the processor in use; for unsigned integers of 8, 32 and 64 bits, float and double.
+template <class Lane>
+const Removal_Kernels<Lane> &removal() noexcept;
 
 } // namespace zeb::engine::kernels

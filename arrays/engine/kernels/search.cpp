@@ -1,10 +1,10 @@
 #include "arrays/engine/kernels/search.hpp"
 
-#include "arrays/engine/element_order.hpp"
 #include "arrays/engine/kernels/knuth_morris_pratt.hpp"
 #include "arrays/engine/kernels/pattern_probes.hpp"
 #include "arrays/engine/kernels/plain_loops.hpp"
 
+#include <cstdint>
 #include <cstring>
 #include <type_traits>
 
@@ -46,7 +46,7 @@ std::size_t first_equal(const Lane *lanes, std::size_t count, Lane value)
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);
     if (count < N)
-        return plain::first_equal(lanes, count, value, Own_Equality{});
+        return plain::first_equal(lanes, count, value);
     const auto wanted = hn::Set(d, value);
     const auto head = matches(d, lanes, wanted);
     if (!hn::AllFalse(d, head))
@@ -86,7 +86,7 @@ std::size_t last_equal(const Lane *lanes, std::size_t count, Lane value)
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);
     if (count < N)
-        return plain::last_equal(lanes, count, value, Own_Equality{});
+        return plain::last_equal(lanes, count, value);
     const auto wanted = hn::Set(d, value);
     if (!hn::AllFalse(d, matches(d, lanes + count - N, wanted)))
         return last_before(lanes, count, value);
@@ -103,7 +103,7 @@ std::size_t last_equal(const Lane *lanes, std::size_t count, Lane value)
     for (; end >= N; end -= N)
         if (!hn::AllFalse(d, matches(d, lanes + end - N, wanted)))
             return last_before(lanes, end, value);
-    const std::size_t rest = plain::last_equal(lanes, end, value, Own_Equality{});
+    const std::size_t rest = plain::last_equal(lanes, end, value);
     return rest == end ? count : rest;
 }
 
@@ -114,21 +114,21 @@ HWY_INLINE bool equal_at(const Lane *lanes, const Lane *pattern, std::size_t len
     if constexpr (std::is_integral_v<Lane>)
         return std::memcmp(lanes, pattern, length * sizeof(Lane)) == 0;
     else
-        return plain::all_equal(lanes, pattern, length, Own_Equality{});
+        return plain::all_equal(lanes, pattern, length);
 }
 
-/// A pattern, and the three of its lanes that a start has to match before the rest is compared.
+/// A pattern, and the three of its lanes that have to match before the rest is compared.
 template <class Lane>
 struct Pattern {
     using D = hn::ScalableTag<Lane>;
 
-    Pattern(const Lane *lanes, std::size_t count, Telling_Places places)
-        : pattern(lanes), length(count), at(places), first(hn::Set(D(), lanes[at.first])),
+    Pattern(const Lane *lanes, std::size_t count, Probe_Positions probes)
+        : pattern(lanes), length(count), at(probes), first(hn::Set(D(), lanes[at.first])),
           second(hn::Set(D(), lanes[at.second])), third(hn::Set(D(), lanes[at.third]))
     {
     }
 
-    /// Which starts of a vector of them match in those lanes.
+    /// For a vector of starts, which of them match in those lanes.
     HWY_INLINE auto candidates(const Lane *start) const
     {
         const D d;
@@ -136,11 +136,11 @@ struct Pattern {
         return hn::And(two, matches(d, start + at.third, third));
     }
 
-    /// The first start that matches wholly, or a whole vector; counts what was compared in vain.
-    std::size_t find(const Lane *start, std::size_t &in_vain) const
+    /// The first of a vector of starts that matches wholly, or `Lanes(d)`. Counts failed comparisons.
+    std::size_t find(const Lane *start, std::size_t &failures) const
     {
         const D d;
-        for (std::uint64_t rest = bits_of(d, candidates(start)); rest != 0; rest &= rest - 1, ++in_vain) {
+        for (std::uint64_t rest = bits_of(d, candidates(start)); rest != 0; rest &= rest - 1, ++failures) {
             const std::size_t candidate = static_cast<unsigned>(__builtin_ctzll(rest));
             if (equal_at(start + candidate, pattern, length))
                 return candidate;
@@ -150,24 +150,24 @@ struct Pattern {
 
     const Lane *pattern;
     std::size_t length;
-    Telling_Places at;
+    Probe_Positions at;
     hn::Vec<D> first, second, third;
 };
 
-/// So far ahead memory is asked for: a search that looks at candidates now and then would else wait for it.
+/// Prefetch distance. Without it, verifying a candidate stalls the scan.
 constexpr std::size_t prefetch_bytes = 1024;
 
-/// Tries a few vectors of starts at a time. Without a find it answers where it gave up: `count` at the
-/// end, less when too much was spent on comparing in vain.
+/// Tests four vectors of starts at a time. If nothing is found, returns where it gave up: `count` at the
+/// end, less if failed comparisons took too much time.
 template <class Lane>
-std::size_t find_run(const Lane *lanes, std::size_t count, Pattern<Lane> pattern, bool &found)
+std::size_t find_run_by_probes(const Lane *lanes, std::size_t count, Pattern<Lane> pattern, bool &found)
 {
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);
     const std::size_t length = pattern.length;
     const std::size_t starts = count - length + 1;
     const std::size_t cost = 16 + length * sizeof(Lane) / 16;
-    std::size_t in_vain = 0;
+    std::size_t failures = 0;
     for (std::size_t index = 0; index < starts;) {
         std::size_t end = index + 4 * N;
         if (HWY_LIKELY(end <= starts)) {
@@ -182,38 +182,52 @@ std::size_t find_run(const Lane *lanes, std::size_t count, Pattern<Lane> pattern
             }
         }
         for (end = HWY_MIN(end, starts); index < end; index += N) {
-            // The last vector may look again at starts that do not match.
+            // The last vector may test starts again that are known not to match.
             const std::size_t start = HWY_MIN(index, starts - N);
-            const std::size_t at = pattern.find(lanes + start, in_vain);
+            const std::size_t at = pattern.find(lanes + start, failures);
             found = at < N;
             if (found)
                 return start + at;
         }
-        if (in_vain * cost > 4 * index + 4096 && index < starts)
+        if (failures * cost > 4 * index + 4096 && index < starts)
             return index;
     }
     found = false;
     return count;
 }
 
-/// The same; once many places were in vain, or too much was spent on a few, the text is looked at for what
-/// tells best in it.
+/// The same; once the ends and the middle of the pattern have rejected too few starts, or many starts were
+/// tested, the probes are chosen by a sample of the text.
 template <class Lane>
-std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *sought, std::size_t length,
-                     bool &found)
+std::size_t find_run_by_best_probes(const Lane *lanes, std::size_t count, const Lane *sought,
+                                    std::size_t length, bool &found)
 {
     const Pattern<Lane> ends(sought, length, ends_and_middle(length));
-    const std::size_t head = length - 1 + places_before_sampling;
-    if (!std::is_integral_v<Lane> || length < 4 || count < head + places_before_sampling)
-        return find_run(lanes, count, ends, found);
-    const std::size_t start = find_run(lanes, head, ends, found);
+    const std::size_t head = length - 1 + positions_before_sampling;
+    if (!std::is_integral_v<Lane> || length < 4 || count < head + positions_before_sampling)
+        return find_run_by_probes(lanes, count, ends, found);
+    const std::size_t start = find_run_by_probes(lanes, head, ends, found);
     if (found)
         return start;
-    const std::size_t seen = HWY_MIN(start, places_before_sampling);
-    const Lane *const rest = lanes + seen;
-    const std::size_t left = count - seen;
-    const Pattern<Lane> telling(sought, length, rarest_places(rest, left, sought, length));
-    return seen + find_run(rest, left, telling, found);
+    const std::size_t tested = HWY_MIN(start, positions_before_sampling);
+    const Lane *const rest = lanes + tested;
+    const std::size_t left = count - tested;
+    const Pattern<Lane> rarest(sought, length, rarest_positions(rest, left, sought, length));
+    return tested + find_run_by_probes(rest, left, rarest, found);
+}
+
+template <class Lane>
+std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *pattern, std::size_t length)
+{
+    if (length == 1)
+        return first_equal(lanes, count, pattern[0]);
+    if (count - length + 1 < hn::Lanes(hn::ScalableTag<Lane>()))
+        return plain::find_run(lanes, count, pattern, length);
+    bool found;
+    const std::size_t start = find_run_by_best_probes(lanes, count, pattern, length, found);
+    if (found || count - start < length)
+        return found ? start : count;
+    return start + plain::find_run_linearly(lanes + start, count - start, pattern, length);
 }
 
 template <class Lane>
@@ -222,7 +236,7 @@ bool all_equal(const Lane *left, const Lane *right, std::size_t count)
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);
     if (count < N)
-        return plain::all_equal(left, right, count, Own_Equality{});
+        return plain::all_equal(left, right, count);
     std::size_t index = 0;
     const auto equal_at = [&](std::size_t at)
                               HWY_ATTR { return hn::Eq(hn::LoadU(d, left + at), hn::LoadU(d, right + at)); };
@@ -238,39 +252,9 @@ bool all_equal(const Lane *left, const Lane *right, std::size_t count)
     return hn::AllTrue(d, equal_at(count - N));
 }
 
-#define ZEB_LANE(Lane)                                                                                       \
-    std::size_t first_equal_##Lane(const Lane *lanes, std::size_t count, Lane value)                         \
-    {                                                                                                        \
-        return first_equal(lanes, count, value);                                                             \
-    }                                                                                                        \
-    std::size_t last_equal_##Lane(const Lane *lanes, std::size_t count, Lane value)                          \
-    {                                                                                                        \
-        return last_equal(lanes, count, value);                                                              \
-    }                                                                                                        \
-    std::size_t find_run_##Lane(const Lane *lanes, std::size_t count, const Lane *pattern,                   \
-                                std::size_t length, bool &found)                                             \
-    {                                                                                                        \
-        const std::size_t starts = count - length + 1;                                                       \
-        if (starts >= hn::Lanes(hn::ScalableTag<Lane>()))                                                    \
-            return find_run(lanes, count, pattern, length, found);                                           \
-        const std::size_t start = plain::find_run(lanes, count, pattern, length, Own_Equality{});            \
-        found = start != count;                                                                              \
-        return start;                                                                                        \
-    }
-ZEB_LANE(uint8_t)
-ZEB_LANE(uint32_t)
-ZEB_LANE(uint64_t)
-ZEB_LANE(float)
-ZEB_LANE(double)
-#undef ZEB_LANE
-bool all_equal_float(const float *left, const float *right, std::size_t count)
-{
-    return all_equal(left, right, count);
-}
-bool all_equal_double(const double *left, const double *right, std::size_t count)
-{
-    return all_equal(left, right, count);
-}
+template <class Lane>
+constexpr Search_Kernels<Lane> search_table{first_equal<Lane>, last_equal<Lane>, find_run<Lane>,
+                                            all_equal<Lane>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -278,95 +262,27 @@ HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
+#include "arrays/engine/kernels/vector_dispatch.hpp"
+
 namespace zeb::engine::kernels
 {
-namespace
-{
 
-/// Finishes a search from where the vectors gave up.
+#if !ZEB_HAS_HIGHWAY
 template <class Lane>
-std::size_t find_run_linearly(const Lane *lanes, std::size_t count, const Lane *pattern, std::size_t length)
+constexpr Search_Kernels<Lane> search_table{ZEB_PLAIN(first_equal), ZEB_PLAIN(last_equal),
+                                            ZEB_PLAIN(find_run_linearly), ZEB_PLAIN(all_equal)};
+#endif
+
+template <class Lane>
+const Search_Kernels<Lane> &search() noexcept
 {
-    const Scratch<std::uint32_t> borders(length);
-    if (borders.get() == nullptr)
-        return plain::find_run(lanes, count, pattern, length, Own_Equality{});
-    plain::find_borders(pattern, length, borders.get());
-    return plain::find_run_by_borders(lanes, count, pattern, length, borders.get());
+    return ZEB_CHOSEN(search_table<Lane>);
 }
-
-} // namespace
-
-#if ZEB_HAS_HIGHWAY
-#define ZEB_LANE(Lane)                                                                                       \
-    HWY_EXPORT(first_equal_##Lane);                                                                          \
-    HWY_EXPORT(last_equal_##Lane);                                                                           \
-    HWY_EXPORT(find_run_##Lane);                                                                             \
-    std::size_t first_equal(const Lane *lanes, std::size_t count, Lane value) noexcept                       \
-    {                                                                                                        \
-        return HWY_DYNAMIC_DISPATCH(first_equal_##Lane)(lanes, count, value);                                \
-    }                                                                                                        \
-    std::size_t last_equal(const Lane *lanes, std::size_t count, Lane value) noexcept                        \
-    {                                                                                                        \
-        return HWY_DYNAMIC_DISPATCH(last_equal_##Lane)(lanes, count, value);                                 \
-    }                                                                                                        \
-    std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *pattern,                          \
-                         std::size_t length) noexcept                                                        \
-    {                                                                                                        \
-        if (length == 1)                                                                                     \
-            return first_equal(lanes, count, pattern[0]);                                                    \
-        bool found;                                                                                          \
-        const std::size_t start =                                                                            \
-            HWY_DYNAMIC_DISPATCH(find_run_##Lane)(lanes, count, pattern, length, found);                     \
-        if (found || count - start < length)                                                                 \
-            return found ? start : count;                                                                    \
-        const std::size_t rest = find_run_linearly(lanes + start, count - start, pattern, length);           \
-        return start + rest;                                                                                 \
-    }
-#else
-#define ZEB_LANE(Lane)                                                                                       \
-    std::size_t first_equal(const Lane *lanes, std::size_t count, Lane value) noexcept                       \
-    {                                                                                                        \
-        return plain::first_equal(lanes, count, value, Own_Equality{});                                      \
-    }                                                                                                        \
-    std::size_t last_equal(const Lane *lanes, std::size_t count, Lane value) noexcept                        \
-    {                                                                                                        \
-        return plain::last_equal(lanes, count, value, Own_Equality{});                                       \
-    }                                                                                                        \
-    std::size_t find_run(const Lane *lanes, std::size_t count, const Lane *pattern,                          \
-                         std::size_t length) noexcept                                                        \
-    {                                                                                                        \
-        return find_run_linearly(lanes, count, pattern, length);                                             \
-    }
-#endif
-ZEB_LANE(uint8_t)
-ZEB_LANE(uint32_t)
-ZEB_LANE(uint64_t)
-ZEB_LANE(float)
-ZEB_LANE(double)
-#undef ZEB_LANE
-
-#if ZEB_HAS_HIGHWAY
-HWY_EXPORT(all_equal_float);
-HWY_EXPORT(all_equal_double);
-#endif
-
-bool all_equal(const float *left, const float *right, std::size_t count) noexcept
-{
-#if ZEB_HAS_HIGHWAY
-    return HWY_DYNAMIC_DISPATCH(all_equal_float)(left, right, count);
-#else
-    return plain::all_equal(left, right, count, Own_Equality{});
-#endif
-}
-
-bool all_equal(const double *left, const double *right, std::size_t count) noexcept
-{
-#if ZEB_HAS_HIGHWAY
-    return HWY_DYNAMIC_DISPATCH(all_equal_double)(left, right, count);
-#else
-    return plain::all_equal(left, right, count, Own_Equality{});
-#endif
-}
+template const Search_Kernels<std::uint8_t> &search() noexcept;
+template const Search_Kernels<std::uint32_t> &search() noexcept;
+template const Search_Kernels<std::uint64_t> &search() noexcept;
+template const Search_Kernels<float> &search() noexcept;
+template const Search_Kernels<double> &search() noexcept;
 
 } // namespace zeb::engine::kernels
 #endif

@@ -69,7 +69,7 @@ struct Row<D, shell::No_Companions> {
     hn::Vec<D> keys;
 };
 
-/// Two neighbouring vectors as one row: half as many ends of loops to guess, and whole lines of the cache.
+/// Two neighbouring vectors as one row: half as many loop ends to predict, and whole cache lines.
 template <class D, class Companions>
 struct Twin_Row {
     using Half = Row<D, Companions>;
@@ -105,8 +105,8 @@ struct Twin_Row {
     Half low, high;
 };
 
-/// Carries a row of neighbouring lanes down their chains. Each lane stops at its own place; `moving` tells
-/// which have not yet.
+/// Carries a row of neighbouring lanes down their chains. Each lane stops at its own position; `moving` holds
+/// those that have not stopped yet.
 template <class Row_Of, class Lane, class Companions>
 HWY_INLINE void carry_row_down(Lane *lanes, Companions companions, std::size_t start, std::size_t gap)
 {
@@ -131,9 +131,9 @@ HWY_INLINE void carry_row_down(Lane *lanes, Companions companions, std::size_t s
     Row_Of::choose(moving, carried, earlier).store(lanes + later, companions + later);
 }
 
-/// Sorts the chains that begin at `column` and its neighbours, as many as a row has lanes.
+/// Sorts neighbouring chains, the first of which begins at `column`, as many as a row has lanes.
 template <class Row_Of, class Lane, class Companions>
-void sort_columns(Lane *lanes, Companions companions, std::size_t count, std::size_t gap, std::size_t column)
+void sort_chains(Lane *lanes, Companions companions, std::size_t count, std::size_t gap, std::size_t column)
 {
     std::size_t start = column + gap;
     for (; start + Row_Of::lanes() <= count; start += gap)
@@ -145,49 +145,42 @@ void sort_columns(Lane *lanes, Companions companions, std::size_t count, std::si
 /// One pass with a gap of at least a row. The last columns may be sorted already: a sorted chain,
 /// whatever its elements, stays as it is.
 template <class Row_Of, class Lane, class Companions>
-void sort_all_columns(Lane *lanes, Companions companions, std::size_t count, std::size_t gap)
+void sort_pass(Lane *lanes, Companions companions, std::size_t count, std::size_t gap)
 {
     const std::size_t N = Row_Of::lanes();
     std::size_t column = 0;
     for (; column + N <= gap; column += N)
-        sort_columns<Row_Of>(lanes, companions, count, gap, column);
+        sort_chains<Row_Of>(lanes, companions, count, gap, column);
     if (column < gap)
-        sort_columns<Row_Of>(lanes, companions, count, gap, gap - N);
+        sort_chains<Row_Of>(lanes, companions, count, gap, gap - N);
 }
 
 template <class Lane, class Companions>
-void shell_sort(Lane *lanes, Companions companions, std::size_t count)
+void sort_by_columns(Lane *lanes, Companions companions, std::size_t count)
 {
     using Whole = Row<hn::ScalableTag<Lane>, Companions>;
     using Twin = Twin_Row<hn::ScalableTag<Lane>, Companions>;
     using Four = Row<hn::CappedTag<Lane, 4>, Companions>;
     for (std::size_t gap = shell::first_gap(count); gap > 0; gap /= 3) {
         if (Twin::lanes() * sizeof(Lane) <= 64 && gap >= Twin::lanes())
-            sort_all_columns<Twin>(lanes, companions, count, gap);
+            sort_pass<Twin>(lanes, companions, count, gap);
         else if (gap >= Whole::lanes())
-            sort_all_columns<Whole>(lanes, companions, count, gap);
+            sort_pass<Whole>(lanes, companions, count, gap);
         else if (gap >= Four::lanes())
-            sort_all_columns<Four>(lanes, companions, count, gap);
+            sort_pass<Four>(lanes, companions, count, gap);
         else
             shell::pass(lanes, companions, count, gap);
     }
 }
 
-#define ZEB_LANE(Lane, Companion)                                                                            \
-    void shell_sort_##Lane(Lane *lanes, std::size_t count)                                                   \
-    {                                                                                                        \
-        shell_sort(lanes, shell::No_Companions(), count);                                                    \
-    }                                                                                                        \
-    void shell_sort_pairs_##Lane(Lane *lanes, Companion *companions, std::size_t count)                      \
-    {                                                                                                        \
-        shell_sort(lanes, companions, count);                                                                \
-    }
-ZEB_LANE(float, std::uint32_t)
-ZEB_LANE(double, std::uint64_t)
-ZEB_LANE(int32_t, std::uint32_t)
-ZEB_LANE(uint32_t, std::uint32_t)
-ZEB_LANE(uint64_t, std::uint64_t)
-#undef ZEB_LANE
+template <class Lane>
+void sort_lanes(Lane *lanes, std::size_t count)
+{
+    sort_by_columns(lanes, shell::No_Companions(), count);
+}
+
+template <class Lane>
+constexpr Column_Kernels<Lane> column_table{sort_lanes<Lane>, sort_by_columns<Lane, Bits_Lane<Lane> *>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -195,38 +188,28 @@ HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
+#include "arrays/engine/kernels/vector_dispatch.hpp"
+
 namespace zeb::engine::kernels
 {
 
-#if ZEB_HAS_HIGHWAY
-#define ZEB_LANE(Lane, Companion)                                                                            \
-    HWY_EXPORT(shell_sort_##Lane);                                                                           \
-    HWY_EXPORT(shell_sort_pairs_##Lane);                                                                     \
-    void shell_sort(Lane *lanes, std::size_t count) noexcept                                                 \
-    {                                                                                                        \
-        HWY_DYNAMIC_DISPATCH(shell_sort_##Lane)(lanes, count);                                               \
-    }                                                                                                        \
-    void shell_sort(Lane *lanes, Companion *companions, std::size_t count) noexcept                          \
-    {                                                                                                        \
-        HWY_DYNAMIC_DISPATCH(shell_sort_pairs_##Lane)(lanes, companions, count);                             \
-    }
-#else
-#define ZEB_LANE(Lane, Companion)                                                                            \
-    void shell_sort(Lane *lanes, std::size_t count) noexcept                                                 \
-    {                                                                                                        \
-        shell::sort_lanes(lanes, shell::No_Companions(), count);                                             \
-    }                                                                                                        \
-    void shell_sort(Lane *lanes, Companion *companions, std::size_t count) noexcept                          \
-    {                                                                                                        \
-        shell::sort_lanes(lanes, companions, count);                                                         \
-    }
+#if !ZEB_HAS_HIGHWAY
+template <class Lane>
+constexpr Column_Kernels<Lane> column_table{
+    [](Lane *lanes, std::size_t count) { shell::sort_lanes(lanes, shell::No_Companions(), count); },
+    shell::sort_lanes<Lane, Bits_Lane<Lane> *>};
 #endif
-ZEB_LANE(float, std::uint32_t)
-ZEB_LANE(double, std::uint64_t)
-ZEB_LANE(int32_t, std::uint32_t)
-ZEB_LANE(uint32_t, std::uint32_t)
-ZEB_LANE(uint64_t, std::uint64_t)
-#undef ZEB_LANE
+
+template <class Lane>
+const Column_Kernels<Lane> &columns() noexcept
+{
+    return ZEB_CHOSEN(column_table<Lane>);
+}
+template const Column_Kernels<std::uint32_t> &columns() noexcept;
+template const Column_Kernels<std::int32_t> &columns() noexcept;
+template const Column_Kernels<std::uint64_t> &columns() noexcept;
+template const Column_Kernels<float> &columns() noexcept;
+template const Column_Kernels<double> &columns() noexcept;
 
 } // namespace zeb::engine::kernels
 #endif

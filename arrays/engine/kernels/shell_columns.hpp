@@ -2,24 +2,24 @@
 /// touch each other.
 #pragma once
 
+#include "arrays/engine/kernels/element_lanes.hpp"
+
 #include <cstddef>
-#include <cstdint>
 
 namespace zeb::engine::kernels
 {
 
-/// Sorts ascending by the lane's own `<`, not-a-numbers and zeros of both signs included.
-void shell_sort(float *lanes, std::size_t count) noexcept;
-void shell_sort(double *lanes, std::size_t count) noexcept;
-void shell_sort(std::int32_t *lanes, std::size_t count) noexcept;
-void shell_sort(std::uint32_t *lanes, std::size_t count) noexcept;
-void shell_sort(std::uint64_t *lanes, std::size_t count) noexcept;
+template <class Lane>
+struct Column_Kernels {
+    /// Sorts ascending by the lane's own `<`, NaN and zeros of both signs included.
+    void (*sort)(Lane *lanes, std::size_t count);
 
-/// The same with every exchange applied to `companions` too; both have lanes of one width.
-void shell_sort(float *lanes, std::uint32_t *companions, std::size_t count) noexcept;
-void shell_sort(double *lanes, std::uint64_t *companions, std::size_t count) noexcept;
-void shell_sort(std::int32_t *lanes, std::uint32_t *companions, std::size_t count) noexcept;
-void shell_sort(std::uint32_t *lanes, std::uint32_t *companions, std::size_t count) noexcept;
-void shell_sort(std::uint64_t *lanes, std::uint64_t *companions, std::size_t count) noexcept;
+    /// The same with every exchange applied to `companions` too.
+    void (*sort_pairs)(Lane *lanes, Bits_Lane<Lane> *companions, std::size_t count);
+};
+
+/// The kernels for the processor in use; for 32-bit integers, std::uint64_t, float and double.
+template <class Lane>
+const Column_Kernels<Lane> &columns() noexcept;
 
 } // namespace zeb::engine::kernels

@@ -1,5 +1,8 @@
-/// The Shell sort that fixes what every sort answers: for equal elements, for elements without a
-/// consistent order, and for the questions that a caller's function is asked.
+/// The Shell sort that determines the result of every sort: the order of equal elements, of elements without
+/// a consistent order, and the calls of a caller's comparison.
+///
+/// `shell::sort` works by a comparison and swaps; `shell::sort_lanes` by the lane's own `<`, the same
+/// step for step; the column kernels do that in vectors.
 #pragma once
 
 #include <cstddef>
@@ -19,7 +22,7 @@ constexpr std::size_t first_gap(std::size_t count) noexcept
 }
 
 /// Carries every element down by swaps with the one a gap before it, for each gap in turn. `precedes` is
-/// asked with the indexes of the later and the earlier element; `swap` exchanges them.
+/// called with the indexes of the later and the earlier element; `swap` exchanges them.
 template <class Precedes, class Swap>
 void sort(std::size_t count, Precedes precedes, Swap swap) noexcept
 {

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -20,23 +21,23 @@ namespace zeb::engine::kernels
 namespace
 {
 
-/// Below these counts the plain Shell sort is the faster one.
+/// Up to these counts the plain Shell sort is faster.
 constexpr std::size_t few_bytes = 64;
 constexpr std::size_t few_lanes = 16;
 
-/// Sorts keys of which equal ones cannot be told apart, so that any sort gives the one result. Infinities
+/// Sorts keys of which equal ones are indistinguishable, so that any sort gives the same result. Infinities
 /// may not be among them: the vector sort pads with the largest finite number.
 template <class Key>
 void sort_keys(Key *keys, std::size_t count) noexcept
 {
 #if ZEB_HAS_HIGHWAY
-    if (sorts_in_vectors())
+    if (scans<Key>().sorts_in_vectors)
         return hwy::Sorter()(keys, count, hwy::SortAscending());
 #endif
     std::sort(keys, keys + count);
 }
 
-/// Sorts numbers among which there are infinities: those go to both ends first.
+/// Sorts numbers that include infinities: those are moved to both ends first.
 template <class Lane>
 void sort_with_infinities(Lane *lanes, std::size_t count) noexcept
 {
@@ -46,8 +47,8 @@ void sort_with_infinities(Lane *lanes, std::size_t count) noexcept
     sort_keys(first, static_cast<std::size_t>(last - first));
 }
 
-/// An unsigned key in the order of its lane, and the way back. Of zeros there is one sign only, and no
-/// not-a-number.
+/// An unsigned key in the order of its lane, and the lane of a key. Zeros are of one sign only, and NaN does
+/// not occur.
 template <class Lane>
 struct Ordered_Key {
     using Key = std::conditional_t<sizeof(Lane) == 4, std::uint32_t, std::uint64_t>;
@@ -81,7 +82,7 @@ bool counts_up_from_0(const std::uint32_t *indexes, std::size_t count) noexcept
     return true;
 }
 
-/// The indexes as they were, or the fact that they count up from 0: then a place is its own index.
+/// A copy of the indexes, not needed if they count up from 0: then each position is its own index.
 class Indexes_Before
 {
 public:
@@ -92,9 +93,9 @@ public:
             std::copy_n(indexes, count, copy.get());
     }
     bool known() const noexcept { return plain || copy.get() != nullptr; }
-    std::uint32_t at(std::uint64_t place) const noexcept
+    std::uint32_t at(std::uint64_t position) const noexcept
     {
-        return plain ? static_cast<std::uint32_t>(place) : copy.get()[place];
+        return plain ? static_cast<std::uint32_t>(position) : copy.get()[position];
     }
 
 private:
@@ -103,7 +104,7 @@ private:
 };
 
 /// Sorts 32-bit lanes of which no two are equal, so that there is one permutation only: each key is packed
-/// above its place. Answers false, nothing changed, when there are equal lanes or no memory.
+/// above its position. Returns false, nothing changed, if lanes are equal or allocation fails.
 template <class Lane>
 bool sort_distinct(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
@@ -125,27 +126,19 @@ bool sort_distinct(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexc
     return distinct;
 }
 
-template <class Lane>
-Float_Order order_of(const Lane *lanes, std::size_t count) noexcept
-{
-    if constexpr (std::is_floating_point_v<Lane>)
-        return float_order(lanes, count);
-    return Float_Order::Finite;
-}
-
-/// Orders the places of numbers whose keys are alike in their upper bits by the numbers themselves.
-void order_run(const double *lanes, std::uint64_t *places, std::size_t length) noexcept
+/// Orders the positions of numbers whose keys have the same upper bits by the numbers themselves.
+void order_run(const double *lanes, std::uint64_t *positions, std::size_t length) noexcept
 {
     const auto before = [lanes](std::uint64_t left, std::uint64_t right) {
         return lanes[left] < lanes[right];
     };
-    // Mostly such a run is one number again and again.
-    if (!std::is_sorted(places, places + length, before))
-        std::sort(places, places + length, before);
+    // Such a run is mostly one number repeated.
+    if (!std::is_sorted(positions, positions + length, before))
+        std::sort(positions, positions + length, before);
 }
 
-/// Packs the upper bits of each number's key, counted from the lowest key, above its place. Answers the
-/// mask of the places.
+/// Packs the upper bits of each number's key, less the lowest key, above its position. Returns the mask of
+/// the positions.
 std::uint64_t pack_upper_bits(const double *lanes, std::uint64_t *packed, std::size_t count) noexcept
 {
     using Ordered = Ordered_Key<double>;
@@ -155,61 +148,62 @@ std::uint64_t pack_upper_bits(const double *lanes, std::uint64_t *packed, std::s
         lowest = std::min(lowest, key);
         highest = std::max(highest, key);
     }
-    const std::uint64_t places = (std::uint64_t{1} << std::bit_width(count - 1)) - 1;
+    const std::uint64_t positions = (std::uint64_t{1} << std::bit_width(count - 1)) - 1;
     const int shift = std::countl_zero((highest - lowest) | 1);
     for (std::size_t i = 0; i < count; ++i)
-        packed[i] = ((Ordered::key_of(lanes[i]) - lowest) << shift & ~places) | i;
-    return places;
+        packed[i] = ((Ordered::key_of(lanes[i]) - lowest) << shift & ~positions) | i;
+    return positions;
 }
 
-/// Makes `places` the places of the numbers in ascending order. Half as much to sort as whole keys with
-/// their places beside them.
-void order_places(const double *lanes, std::uint64_t *places, std::size_t count) noexcept
+/// Makes `positions` those of the numbers in ascending order. Half as much to sort as whole keys with their
+/// positions beside them.
+void order_positions(const double *lanes, std::uint64_t *positions, std::size_t count) noexcept
 {
-    const std::uint64_t mask = pack_upper_bits(lanes, places, count);
-    sort_keys(places, count);
+    const std::uint64_t mask = pack_upper_bits(lanes, positions, count);
+    sort_keys(positions, count);
     for (std::size_t start = 0, end; start < count; start = end) {
-        const std::uint64_t key = places[start] & ~mask;
-        for (end = start; end < count && (places[end] & ~mask) == key; ++end)
-            places[end] &= mask;
+        const std::uint64_t key = positions[start] & ~mask;
+        for (end = start; end < count && (positions[end] & ~mask) == key; ++end)
+            positions[end] &= mask;
         if (end - start > 1)
-            order_run(lanes, places + start, end - start);
+            order_run(lanes, positions + start, end - start);
     }
 }
 
-/// Numbers each lane by its order, equal ones alike; `sorted` are the lanes in that order.
-void rank(const double *sorted, const std::uint64_t *places, std::size_t count, std::uint32_t *ranks) noexcept
+/// Numbers each lane by its order, equal ones the same; `sorted` holds the lanes in that order.
+void rank(const double *sorted, const std::uint64_t *positions, std::size_t count,
+          std::uint32_t *ranks) noexcept
 {
     std::uint32_t here = 0;
     for (std::size_t i = 0; i < count; ++i) {
         here += i > 0 && sorted[i - 1] != sorted[i];
-        ranks[places[i]] = here;
+        ranks[positions[i]] = here;
     }
 }
 
-/// Sorts numbers, of one zero and without a not-a-number. Where some are equal, the Shell sort decides
-/// about their indexes: it runs on their ranks, which are half as wide and compare alike. Answers false,
-/// nothing changed, when there is no memory.
+/// Sorts numbers with zeros of one sign and without NaN. If some are equal, the Shell sort determines their
+/// indexes: it runs on their ranks, which are half as wide and compare the same. Returns false, nothing
+/// changed, if allocation fails.
 bool sort_numbers(double *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
-    const Scratch<std::uint64_t> places(count);
+    const Scratch<std::uint64_t> positions(count);
     const Scratch<double> sorted(count);
     const Scratch<std::uint32_t> ranks(count);
     const Indexes_Before before(indexes, count);
-    if (places.get() == nullptr || sorted.get() == nullptr || ranks.get() == nullptr || !before.known())
+    if (positions.get() == nullptr || sorted.get() == nullptr || ranks.get() == nullptr || !before.known())
         return false;
-    order_places(lanes, places.get(), count);
+    order_positions(lanes, positions.get(), count);
     bool distinct = true;
     for (std::size_t i = 0; i < count; ++i) {
-        sorted.get()[i] = lanes[places.get()[i]];
+        sorted.get()[i] = lanes[positions.get()[i]];
         distinct &= i == 0 || sorted.get()[i - 1] != sorted.get()[i];
     }
     if (distinct) {
         for (std::size_t i = 0; i < count; ++i)
-            indexes[i] = before.at(places.get()[i]);
+            indexes[i] = before.at(positions.get()[i]);
     } else {
-        rank(sorted.get(), places.get(), count, ranks.get());
-        shell_sort(ranks.get(), indexes, count);
+        rank(sorted.get(), positions.get(), count, ranks.get());
+        columns<std::uint32_t>().sort_pairs(ranks.get(), indexes, count);
     }
     std::copy_n(sorted.get(), count, lanes);
     return true;
@@ -218,7 +212,7 @@ bool sort_numbers(double *lanes, std::uint32_t *indexes, std::size_t count) noex
 template <class Lane>
 bool sort_fast(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
-    if (order_of(lanes, count) == Float_Order::Ambiguous)
+    if (scans<Lane>().float_order(lanes, count) == Float_Order::Ambiguous)
         return false;
     if constexpr (std::is_same_v<Lane, double>)
         return sort_numbers(lanes, indexes, count);
@@ -226,44 +220,46 @@ bool sort_fast(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
         return sort_distinct(lanes, indexes, count);
 }
 
-/// Sorts with the indexes brought to the width of the lanes.
+/// Sorts by columns, with the indexes widened to the lanes.
 template <class Lane>
-void shell_sort_with_wide_indexes(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
+void sort_with_widened_indexes(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
     const Scratch<std::uint64_t> wide(count);
     if (wide.get() == nullptr)
         return shell::sort_lanes(lanes, indexes, count);
     std::copy_n(indexes, count, wide.get());
-    shell_sort(lanes, wide.get(), count);
+    columns<Lane>().sort_pairs(lanes, wide.get(), count);
     std::transform(wide.get(), wide.get() + count, indexes,
                    [](std::uint64_t index) { return static_cast<std::uint32_t>(index); });
 }
 
-/// Sorts with the bytes brought to the width of the indexes.
+/// Sorts by columns, with the bytes widened to the indexes.
 template <class Byte>
-void shell_sort_wide_bytes(Byte *bytes, std::uint32_t *indexes, std::size_t count) noexcept
+void sort_widened_bytes(Byte *bytes, std::uint32_t *indexes, std::size_t count) noexcept
 {
     const Scratch<std::int32_t> wide(count);
     if (wide.get() == nullptr)
         return shell::sort_lanes(bytes, indexes, count);
     std::copy_n(bytes, count, wide.get());
-    shell_sort(wide.get(), indexes, count);
+    columns<std::int32_t>().sort_pairs(wide.get(), indexes, count);
     std::transform(wide.get(), wide.get() + count, bytes,
                    [](std::int32_t byte) { return static_cast<Byte>(byte); });
 }
 
+} // namespace
+
 template <class Lane>
-void sort_any(Lane *lanes, std::size_t count) noexcept
+void sort(Lane *lanes, std::size_t count) noexcept
 {
     if (count <= (sizeof(Lane) == 1 ? few_bytes : few_lanes))
         return shell::sort_lanes(lanes, shell::No_Companions(), count);
     if constexpr (sizeof(Lane) == 1) {
         counting_sort(reinterpret_cast<std::uint8_t *>(lanes), count, std::is_signed_v<Lane> ? 0x80 : 0);
     } else {
-        const Float_Order order = order_of(lanes, count);
+        const Float_Order order = scans<Lane>().float_order(lanes, count);
         if (order == Float_Order::Ambiguous)
-            return shell_sort(lanes, count);
-        const Run_Order run = run_order(lanes, count);
+            return columns<Lane>().sort(lanes, count);
+        const Run_Order run = scans<Lane>().run_order(lanes, count);
         if (run == Run_Order::Descending)
             return std::reverse(lanes, lanes + count);
         if (run == Run_Order::Mixed)
@@ -272,31 +268,26 @@ void sort_any(Lane *lanes, std::size_t count) noexcept
 }
 
 template <class Lane>
-void sort_any(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
+void sort(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
     if (count <= few_lanes)
         return shell::sort_lanes(lanes, indexes, count);
     if constexpr (sizeof(Lane) == 1) {
-        shell_sort_wide_bytes(lanes, indexes, count);
+        sort_widened_bytes(lanes, indexes, count);
     } else {
         if constexpr (!std::is_same_v<Lane, std::uint64_t>)
             if (sort_fast(lanes, indexes, count))
                 return;
         if constexpr (sizeof(Lane) == 8)
-            shell_sort_with_wide_indexes(lanes, indexes, count);
+            sort_with_widened_indexes(lanes, indexes, count);
         else
-            shell_sort(lanes, indexes, count);
+            columns<Lane>().sort_pairs(lanes, indexes, count);
     }
 }
 
-} // namespace
-
 #define ZEB_LANE(Lane)                                                                                       \
-    void sort(Lane *lanes, std::size_t count) noexcept { sort_any(lanes, count); }                           \
-    void sort(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept                               \
-    {                                                                                                        \
-        sort_any(lanes, indexes, count);                                                                     \
-    }
+    template void sort(Lane *, std::size_t) noexcept;                                                        \
+    template void sort(Lane *, std::uint32_t *, std::size_t) noexcept;
 ZEB_LANE(std::uint8_t)
 ZEB_LANE(std::int8_t)
 ZEB_LANE(std::uint32_t)

@@ -1,4 +1,4 @@
-/// What has to be known before a sort may take a faster way than the Shell sort.
+/// What has to be known before a sort may use a faster method than the Shell sort.
 #pragma once
 
 #include <cstddef>
@@ -11,22 +11,23 @@ namespace zeb::engine::kernels
 enum class Float_Order : std::uint8_t {
     Finite,    ///< nothing, and zeros of one sign only
     Infinite,  ///< infinities
-    Ambiguous, ///< a not-a-number or zeros of both signs: the order does not fix the result
+    Ambiguous, ///< NaN or zeros of both signs: the order does not determine the result
 };
 
-Float_Order float_order(const float *lanes, std::size_t count) noexcept;
-Float_Order float_order(const double *lanes, std::size_t count) noexcept;
-
-/// How lanes without a not-a-number are ordered already.
+/// The order that lanes without NaN are in already.
 enum class Run_Order : std::uint8_t { Mixed, Ascending, Descending };
 
-Run_Order run_order(const std::uint32_t *lanes, std::size_t count) noexcept;
-Run_Order run_order(const std::int32_t *lanes, std::size_t count) noexcept;
-Run_Order run_order(const std::uint64_t *lanes, std::size_t count) noexcept;
-Run_Order run_order(const float *lanes, std::size_t count) noexcept;
-Run_Order run_order(const double *lanes, std::size_t count) noexcept;
+template <class Lane>
+struct Scan_Kernels {
+    /// For integers, always Finite.
+    Float_Order (*float_order)(const Lane *lanes, std::size_t count);
+    Run_Order (*run_order)(const Lane *lanes, std::size_t count);
+    /// Whether this processor has vectors that the vector library's sort can use.
+    bool sorts_in_vectors;
+};
 
-/// True when this machine has vectors that the library's sort can use.
-bool sorts_in_vectors() noexcept;
+/// The kernels for the processor in use; for 32-bit integers, std::uint64_t, float and double.
+template <class Lane>
+const Scan_Kernels<Lane> &scans() noexcept;
 
 } // namespace zeb::engine::kernels

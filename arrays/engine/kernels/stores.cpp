@@ -1,23 +1,13 @@
 #include "arrays/engine/kernels/stores.hpp"
 
-#include "arrays/engine/element_order.hpp"
 #include "arrays/engine/kernels/plain_loops.hpp"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 #if ZEB_HAS_HIGHWAY
 #include "arrays/engine/kernels/vector_targets.hpp"
-
-#ifndef ZEB_STREAMING_BYTES
-#define ZEB_STREAMING_BYTES
-namespace zeb::engine::kernels
-{
-/// Above this many bytes a fill goes past the caches, which could not keep it anyway.
-static constexpr std::size_t streaming_bytes = std::size_t{16} << 20;
-} // namespace zeb::engine::kernels
-#endif
-
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "arrays/engine/kernels/stores.cpp"
 #include <hwy/foreach_target.h>
@@ -32,9 +22,20 @@ namespace HWY_NAMESPACE
 {
 namespace hn = hwy::HWY_NAMESPACE;
 
+/// Above this many bytes a fill bypasses the caches, which could not keep it anyway.
+constexpr std::size_t streaming_bytes = std::size_t{16} << 20;
+
 template <class Lane>
 void fill(Lane *lanes, std::size_t count, Lane value)
 {
+    if constexpr (sizeof(Lane) == 1) {
+        if (count == 0)
+            return;
+        if (count <= streaming_bytes) {
+            std::memset(lanes, value, count);
+            return;
+        }
+    }
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);
     if (count < N || reinterpret_cast<std::uintptr_t>(lanes) % sizeof(Lane) != 0) {
@@ -108,7 +109,7 @@ template <class Lane>
 constexpr bool stores_under_mask = HWY_TARGET == HWY_AVX3 || HWY_TARGET == HWY_AVX3_DL;
 #endif
 
-/// How many bytes are looked at, or changed, at a time.
+/// How many bytes are tested, or changed, at a time.
 template <class Lane>
 constexpr std::size_t block_bytes = stores_under_mask<Lane> ? 1024 : 4096;
 
@@ -128,7 +129,7 @@ HWY_INLINE bool holds(D d, const Lane *lanes, hn::Vec<D> values)
     return !hn::AllFalse(d, found);
 }
 
-/// Replaces in one block, by stores that leave the lanes outside their mask alone.
+/// Repositions in one block, by stores that do not touch the lanes outside their mask.
 template <class D, class Lane>
 HWY_INLINE std::size_t replace_under_mask(D d, Lane *lanes, hn::Vec<D> values, Lane replacement)
 {
@@ -142,15 +143,15 @@ HWY_INLINE std::size_t replace_under_mask(D d, Lane *lanes, hn::Vec<D> values, L
     return replaced;
 }
 
-/// Replaces in one block, by first listing the places. The list grows by a fixed stride of which only the
-/// matches are kept, since a branch for each match would be guessed wrong.
+/// Repositions in one block, by first listing the matching positions. Appends `stride` entries per step and
+/// keeps the matching ones; a branch per match would be mispredicted.
 template <class D, class Lane>
 HWY_INLINE std::size_t replace_by_list(D d, Lane *lanes, hn::Vec<D> values, Lane replacement)
 {
     constexpr std::size_t stride = 3;
     constexpr std::size_t group = 64;
     constexpr std::size_t N = hn::MaxLanes(D());
-    std::uint16_t places[block_lanes(D()) + stride];
+    std::uint16_t positions[block_lanes(D()) + stride];
     std::size_t listed = 0;
     for (std::size_t at = 0; at < block_lanes(d); at += group) {
         std::uint64_t rest = 0;
@@ -159,7 +160,7 @@ HWY_INLINE std::size_t replace_by_list(D d, Lane *lanes, hn::Vec<D> values, Lane
         const std::size_t end = listed + static_cast<std::size_t>(__builtin_popcountll(rest));
         const auto list_lowest = [&](std::size_t k) HWY_ATTR {
             const unsigned lane = static_cast<unsigned>(__builtin_ctzll(rest | 1ULL << 63));
-            places[listed + k] = static_cast<std::uint16_t>(at + lane);
+            positions[listed + k] = static_cast<std::uint16_t>(at + lane);
             rest &= rest - 1;
         };
         do {
@@ -172,18 +173,18 @@ HWY_INLINE std::size_t replace_by_list(D d, Lane *lanes, hn::Vec<D> values, Lane
     }
     std::size_t k = 0;
     for (; k + 4 <= listed; k += 4) {
-        lanes[places[k]] = replacement;
-        lanes[places[k + 1]] = replacement;
-        lanes[places[k + 2]] = replacement;
-        lanes[places[k + 3]] = replacement;
+        lanes[positions[k]] = replacement;
+        lanes[positions[k + 1]] = replacement;
+        lanes[positions[k + 2]] = replacement;
+        lanes[positions[k + 3]] = replacement;
     }
     for (; k < listed; ++k)
-        lanes[places[k]] = replacement;
+        lanes[positions[k]] = replacement;
     return listed;
 }
 
-/// Blocks without a match are only read. Where one block had matches the next is likely to, and goes
-/// straight to the replacing, which would be slow on memory that cannot be written.
+/// Blocks without a match are only read. After a block with matches, the next one is likely to have some too
+/// and is not tested first.
 template <class Lane>
 std::size_t replace_equal(Lane *lanes, std::size_t count, Lane value, Lane replacement)
 {
@@ -203,28 +204,11 @@ std::size_t replace_equal(Lane *lanes, std::size_t count, Lane value, Lane repla
         likely = here != 0;
         replaced += here;
     }
-    return replaced + plain::replace_equal(lanes + index, count - index, value, replacement, Own_Equality{});
+    return replaced + plain::replace_equal(lanes + index, count - index, value, replacement);
 }
 
-#define ZEB_LANE(Lane)                                                                                       \
-    void fill_##Lane(Lane *lanes, std::size_t count, Lane value) { fill(lanes, count, value); }              \
-    void reverse_##Lane(Lane *lanes, std::size_t count) { reverse(lanes, count); }
-ZEB_LANE(uint8_t)
-ZEB_LANE(uint32_t)
-ZEB_LANE(uint64_t)
-#undef ZEB_LANE
-
-#define ZEB_LANE(Lane)                                                                                       \
-    std::size_t replace_equal_##Lane(Lane *lanes, std::size_t count, Lane value, Lane replacement)           \
-    {                                                                                                        \
-        return replace_equal(lanes, count, value, replacement);                                              \
-    }
-ZEB_LANE(uint8_t)
-ZEB_LANE(uint32_t)
-ZEB_LANE(uint64_t)
-ZEB_LANE(float)
-ZEB_LANE(double)
-#undef ZEB_LANE
+template <class Lane>
+constexpr Store_Kernels<Lane> store_table{fill<Lane>, reverse<Lane>, replace_equal<Lane>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -232,64 +216,28 @@ HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
+#include "arrays/engine/kernels/vector_dispatch.hpp"
+
 namespace zeb::engine::kernels
 {
 
-#if ZEB_HAS_HIGHWAY
-HWY_EXPORT(fill_uint8_t);
+#if !ZEB_HAS_HIGHWAY
+template <class Lane>
+constexpr Store_Kernels<Lane> store_table{
+    [](Lane *lanes, std::size_t count, Lane value) { std::fill_n(lanes, count, value); },
+    [](Lane *lanes, std::size_t count) { std::reverse(lanes, lanes + count); }, ZEB_PLAIN(replace_equal)};
 #endif
 
-void fill(std::uint8_t *lanes, std::size_t count, std::uint8_t value) noexcept
+template <class Lane>
+const Store_Kernels<Lane> &stores() noexcept
 {
-#if ZEB_HAS_HIGHWAY
-    if (count > streaming_bytes)
-        return HWY_DYNAMIC_DISPATCH(fill_uint8_t)(lanes, count, value);
-#endif
-    if (count != 0)
-        std::memset(lanes, value, count);
+    return ZEB_CHOSEN(store_table<Lane>);
 }
-
-#if ZEB_HAS_HIGHWAY
-#define ZEB_FILL(Lane)                                                                                       \
-    HWY_EXPORT(fill_##Lane);                                                                                 \
-    void fill(Lane *lanes, std::size_t count, Lane value) noexcept                                           \
-    {                                                                                                        \
-        HWY_DYNAMIC_DISPATCH(fill_##Lane)(lanes, count, value);                                              \
-    }
-#define ZEB_REVERSE(Lane)                                                                                    \
-    HWY_EXPORT(reverse_##Lane);                                                                              \
-    void reverse(Lane *lanes, std::size_t count) noexcept                                                    \
-    {                                                                                                        \
-        HWY_DYNAMIC_DISPATCH(reverse_##Lane)(lanes, count);                                                  \
-    }
-#define ZEB_REPLACE(Lane)                                                                                    \
-    HWY_EXPORT(replace_equal_##Lane);                                                                        \
-    std::size_t replace_equal(Lane *lanes, std::size_t count, Lane value, Lane replacement) noexcept         \
-    {                                                                                                        \
-        return HWY_DYNAMIC_DISPATCH(replace_equal_##Lane)(lanes, count, value, replacement);                 \
-    }
-#else
-#define ZEB_FILL(Lane)                                                                                       \
-    void fill(Lane *lanes, std::size_t count, Lane value) noexcept { std::fill_n(lanes, count, value); }
-#define ZEB_REVERSE(Lane)                                                                                    \
-    void reverse(Lane *lanes, std::size_t count) noexcept { std::reverse(lanes, lanes + count); }
-#define ZEB_REPLACE(Lane)                                                                                    \
-    std::size_t replace_equal(Lane *lanes, std::size_t count, Lane value, Lane replacement) noexcept         \
-    {                                                                                                        \
-        return plain::replace_equal(lanes, count, value, replacement, Own_Equality{});                       \
-    }
-#endif
-
-ZEB_FILL(uint32_t)
-ZEB_FILL(uint64_t)
-ZEB_REVERSE(uint8_t)
-ZEB_REVERSE(uint32_t)
-ZEB_REVERSE(uint64_t)
-ZEB_REPLACE(uint8_t)
-ZEB_REPLACE(uint32_t)
-ZEB_REPLACE(uint64_t)
-ZEB_REPLACE(float)
-ZEB_REPLACE(double)
+template const Store_Kernels<std::uint8_t> &stores() noexcept;
+template const Store_Kernels<std::uint32_t> &stores() noexcept;
+template const Store_Kernels<std::uint64_t> &stores() noexcept;
+template const Store_Kernels<float> &stores() noexcept;
+template const Store_Kernels<double> &stores() noexcept;
 
 } // namespace zeb::engine::kernels
 #endif

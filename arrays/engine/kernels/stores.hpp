@@ -2,30 +2,25 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 
 namespace zeb::engine::kernels
 {
 
-/// Stores the value into every lane.
-void fill(std::uint8_t *lanes, std::size_t count, std::uint8_t value) noexcept;
-void fill(std::uint32_t *lanes, std::size_t count, std::uint32_t value) noexcept;
-void fill(std::uint64_t *lanes, std::size_t count, std::uint64_t value) noexcept;
+template <class Lane>
+struct Store_Kernels {
+    /// Stores the value into every lane.
+    void (*fill)(Lane *lanes, std::size_t count, Lane value);
 
-/// Reverses the order of all lanes.
-void reverse(std::uint8_t *lanes, std::size_t count) noexcept;
-void reverse(std::uint32_t *lanes, std::size_t count) noexcept;
-void reverse(std::uint64_t *lanes, std::size_t count) noexcept;
+    /// Reverses the order of all lanes.
+    void (*reverse)(Lane *lanes, std::size_t count);
 
-/// Writes the replacement over every lane that is `==` the value, and over nothing else; answers how
-/// many. Lanes that do not match are not written, so they may lie in memory that cannot be.
-std::size_t replace_equal(std::uint8_t *lanes, std::size_t count, std::uint8_t value,
-                          std::uint8_t replacement) noexcept;
-std::size_t replace_equal(std::uint32_t *lanes, std::size_t count, std::uint32_t value,
-                          std::uint32_t replacement) noexcept;
-std::size_t replace_equal(std::uint64_t *lanes, std::size_t count, std::uint64_t value,
-                          std::uint64_t replacement) noexcept;
-std::size_t replace_equal(float *lanes, std::size_t count, float value, float replacement) noexcept;
-std::size_t replace_equal(double *lanes, std::size_t count, double value, double replacement) noexcept;
+    /// Writes the replacement over every lane that is `==` the value; returns how many. Lanes that do not
+    /// match are not written, so they may lie in read-only memory.
+    std::size_t (*replace_equal)(Lane *lanes, std::size_t count, Lane value, Lane replacement);
+};
+
+/// The kernels for the processor in use; for unsigned integers of 8, 32 and 64 bits, float and double.
+template <class Lane>
+const Store_Kernels<Lane> &stores() noexcept;
 
 } // namespace zeb::engine::kernels

@@ -1,4 +1,4 @@
-/// Which processor generations the vector kernels are made for. Included before the vector library.
+/// The processor generations that the vector kernels are compiled for. Included before the vector library.
 #pragma once
 
 // Kernels keep a mask of lanes in 64 bits, which vectors of open length do not promise.

@@ -1,6 +1,5 @@
 # The tests that every family of arrays is put through.
 zeb_class_templates(TESTS
-  tests/arrays/templates/ZEB_T_Algorithms_test.mm
   tests/arrays/templates/ZEB_T_Differential_test.mm
   tests/arrays/templates/ZEB_T_Samples.hpp
   tests/arrays/templates/ZEB_T_Storage_test.mm)

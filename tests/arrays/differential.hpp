@@ -65,6 +65,9 @@ struct Input {
     uint32_t key, other;
     uint32_t from, to;
     Numbers run, replacement;
+    uint32_t own_from, own_to; ///< a part of the elements
+    bool key_is_own;           ///< the key is the element at `own_from` itself
+    uint32_t seed, room, dropped;
     Numbers indexes;
     bool inserts;
     Comparison comparison;
@@ -92,7 +95,10 @@ public:
             reference::sort(in.elements, nullptr, [&](const uint32_t *later, const uint32_t *earlier) {
                 return samples.precedes(*later, *earlier);
             });
-        in.key = length != 0 && random() % 2 == 0 ? in.elements[random() % length] : sample();
+        in.own_from = length == 0 ? 0 : random() % length;
+        in.own_to = in.own_from + (length == 0 ? 0 : random() % (length - in.own_from + 1));
+        in.key_is_own = length != 0 && random() % 2 == 0;
+        in.key = in.key_is_own ? in.elements[in.own_from] : sample();
         in.other = sample();
         in.from = random() % (length + (needs == an_element ? 0 : 2));
         in.to = random() % 8 == 0 ? UINT32_MAX : random() % (length + 2);
@@ -102,6 +108,9 @@ public:
         draw_run(in, needs == a_likeness, sample);
         in.replacement = numbers(random() % 5, sample);
         in.inserts = random() % 4 != 0;
+        in.seed = random() % 3 == 0 ? random() % 20 : 16;
+        in.room = random() % 3 == 0 ? random() % 70 : 0;
+        in.dropped = random() % 3 == 0 ? random() % 9 : 0;
         in.comparison = {static_cast<Comparison::Manner>(random() % 3), static_cast<uint32_t>(random())};
         return in;
     }
@@ -163,11 +172,16 @@ struct Plain {
     const Samples &samples;
     const Input &in;
     bool is_link;
+    uint32_t capacity;
+    bool has_plain_elements;
     Numbers all = in.elements;
     uint32_t count = static_cast<uint32_t>(all.size());
     Numbers indexes = in.indexes;
     Comparison comparison = in.comparison;
     uint32_t reports = 0;
+    bool stores = false;     ///< what was given has gone in
+    bool was_link = is_link; ///< it became an owner when this is all that is left
+    uint32_t known = count;  ///< elements past these are undefined
 
     auto own()
     {
@@ -206,8 +220,7 @@ struct Plain {
             return ZEB_NOT_FOUND;
         if (is_link)
             return refused(ZEB_NOT_FOUND);
-        all.insert(all.begin() + place.index, in.key);
-        ++count;
+        insert_one(place.index);
         return place.index;
     }
 
@@ -222,8 +235,115 @@ struct Plain {
         if (is_link)
             return refused(0);
         const uint32_t replaced = reference::replace_occurrences(all, in.run, in.replacement, samples.equal);
-        count = static_cast<uint32_t>(all.size());
+        if (replaced != 0 && in.replacement.size() > in.run.size()) {
+            capacity = has_plain_elements ? 0 : capacity; // plain elements get a new block
+            make_room(all.size());
+        }
+        settle();
         return replaced;
+    }
+
+    uint32_t key()
+    {
+        stores = true;
+        return in.key;
+    }
+    Numbers own_run() const { return {all.begin() + in.own_from, all.begin() + in.own_to}; }
+
+    void settle() { known = count = static_cast<uint32_t>(all.size()); }
+
+    void make_room(uint64_t needed)
+    {
+        if (capacity > needed)
+            return;
+        capacity = std::max({capacity, in.seed, 1u});
+        while (capacity <= needed)
+            capacity *= 2;
+    }
+
+    /// A single element grows by one step only.
+    void insert_one(uint32_t at)
+    {
+        if (capacity <= count)
+            capacity = capacity < std::max(in.seed, 1u) ? std::max(in.seed, 1u) : 2 * capacity;
+        all.insert(all.begin() + std::min(at, count), key());
+        settle();
+    }
+
+    void insert(uint32_t at, const Numbers &others)
+    {
+        if (is_link) {
+            ++reports;
+        } else if (!others.empty()) {
+            make_room(all.size() + others.size());
+            all.insert(all.begin() + std::min(at, count), others.begin(), others.end());
+            stores = true;
+            settle();
+        }
+    }
+
+    void append(const Numbers &others)
+    {
+        if (!others.empty())
+            insert(count, others);
+    }
+
+    void replace_element(const Numbers &others)
+    {
+        if (is_link) {
+            ++reports;
+        } else if (in.from < count) {
+            if (!others.empty())
+                make_room(count + others.size() - 1);
+            all.erase(all.begin() + in.from);
+            all.insert(all.begin() + in.from, others.begin(), others.end());
+            stores = true;
+            settle();
+        }
+    }
+
+    void become(const Numbers &others)
+    {
+        if (is_link)
+            capacity = 0;
+        is_link = false;
+        stores = true;
+        all = others;
+        settle();
+    }
+
+    void assign(const Numbers &others)
+    {
+        become(others);
+        make_room(count);
+    }
+
+    void copy(const Numbers &others)
+    {
+        become(others);
+        capacity = std::max(count, in.room);
+    }
+
+    /// A changed count; elements that are gained are undefined.
+    void resize(uint64_t length)
+    {
+        if (is_link)
+            return void(++reports);
+        make_room(length);
+        count = static_cast<uint32_t>(length);
+        known = std::min(known, count);
+    }
+
+    void make_room_unless_link(uint64_t needed) { is_link ? void(++reports) : make_room(needed); }
+
+    void trim()
+    {
+        if (is_link)
+            return void(++reports);
+        uint32_t proper = std::max(in.seed, 1u);
+        while (proper < count)
+            proper *= 2;
+        capacity = std::min(capacity, proper);
     }
 
     void change_range(bool replaces)
@@ -232,7 +352,7 @@ struct Plain {
             ++reports;
         } else if (in.from < count) {
             if (replaces)
-                all[in.from] = in.key;
+                all[in.from] = key();
             close_gap(in.from + replaces, std::min(in.to, count - 1) + 1);
         }
     }
@@ -241,7 +361,7 @@ struct Plain {
     {
         for (uint32_t i = end; i < count; ++i)
             all[start + i - end] = all[i];
-        count -= end - start;
+        known = count -= end - start;
     }
 
     /// Whether the indexes can be applied; one outside is reported.

@@ -2,20 +2,14 @@
 
 #include "tests/support/captured.hpp"
 #include "tests/support/comma_locale.hpp"
+#include "tests/support/strings.hpp"
 
 #include <gtest/gtest.h>
 
-using support::standard_error_of;
-using support::standard_output_of;
+using namespace support;
 
 namespace
 {
-
-ZEB_String *text(const char *characters)
-{
-    return [[[ZEB_String alloc] init_as_copy_of_chars:characters
-                                                count:static_cast<uint32_t>(strlen(characters))] autorelease];
-}
 
 ZEB_Int_Array *ints(uint32_t count)
 {

@@ -2,27 +2,14 @@
 
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
+#include "tests/support/strings.hpp"
 
 #include <gtest/gtest.h>
 
-using support::fix_line;
-using support::standard_error_of;
+using namespace support;
 
 namespace
 {
-
-ZEB_String *text(const std::string &characters)
-{
-    return [[[ZEB_String alloc] init_as_copy_of_chars:characters.data()
-                                                count:static_cast<uint32_t>(characters.size())] autorelease];
-}
-
-ZEB_Byte_Array *bytes(const std::string &characters)
-{
-    return
-        [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
-                                                 count:static_cast<uint32_t>(characters.size())] autorelease];
-}
 
 const std::string contents = std::string(40000, 'x') + "tail";
 

@@ -10,23 +10,6 @@
 
 using namespace support;
 
-namespace
-{
-
-ZEB_Byte_Array *bytes(const std::string &characters)
-{
-    return
-        [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
-                                                 count:static_cast<uint32_t>(characters.size())] autorelease];
-}
-
-std::string text_of_bytes(ZEB_Byte_Vector *vector)
-{
-    return {reinterpret_cast<const char *>([vector byte_data]), [vector count]};
-}
-
-} // namespace
-
 class File_Contents : public testing::Test
 {
 protected:
@@ -45,10 +28,10 @@ TEST_F(File_Contents, are_written_and_read_as_they_are_or_compressed)
         [file refresh_status];
         ZEB_Byte_Array *const back = bytes("what was there goes");
         [file read_contents:back];
-        EXPECT_EQ(text_of_bytes(back), contents);
+        EXPECT_EQ(text_of(back), contents);
         [back clear];
         [file load_contents:back];
-        EXPECT_EQ(text_of_bytes(back), contents);
+        EXPECT_EQ(text_of(back), contents);
     }
 }
 
@@ -88,7 +71,7 @@ TEST_F(File_Contents, a_file_that_shrank_is_told_and_reads_as_zero_behind_its_en
         standard_error_of([&] { [file read_contents:target]; }),
         "Warning: Discrepancy in actual length read 6 v.s. content size 12 while reading contents of file: " +
             path + "\n");
-    EXPECT_EQ(text_of_bytes(target), std::string("six by") + std::string(6, '\0'));
+    EXPECT_EQ(text_of(target), std::string("six by") + std::string(6, '\0'));
     EXPECT_EQ([file last_error], ENODATA);
 }
 

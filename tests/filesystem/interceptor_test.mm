@@ -110,45 +110,29 @@ const std::string suffix("~\0", 2);
 
 } // namespace
 
-TEST(Interceptor, code_0_refuses)
+TEST(Interceptor, is_obeyed_by_its_code)
 {
-    const Outcome outcome = outcome_of(0);
-    EXPECT_EQ(outcome.refreshed + outcome.written + outcome.backstored + outcome.acted, 0u);
-    EXPECT_EQ(outcome.contents, "old");
-    EXPECT_EQ(outcome.read, "k");
-    EXPECT_EQ(outcome.path, "");
-}
-
-TEST(Interceptor, code_2_acts_in_the_entry_s_place)
-{
-    const Outcome outcome = outcome_of(2);
-    EXPECT_EQ(outcome.refreshed, 1u);
-    EXPECT_EQ(outcome.written, 1u);
-    EXPECT_EQ(outcome.contents, "old");
-    EXPECT_EQ(outcome.read, "k");
-    EXPECT_EQ(outcome.acted, 1u);
-    EXPECT_EQ(outcome.backstored, 1u);
-    EXPECT_EQ(outcome.path, suffix);
-}
-
-TEST(Interceptor, code_3_acts_and_lets_the_entry_act_but_for_refresh_and_read)
-{
-    const Outcome outcome = outcome_of(3);
-    EXPECT_EQ(outcome.refreshed, 1u);
-    EXPECT_EQ(outcome.contents, "new");
-    EXPECT_EQ(outcome.read, "k");
-    EXPECT_EQ(outcome.acted, 1u);
-    EXPECT_EQ(outcome.backstored, 1u);
-    EXPECT_EQ(outcome.path, suffix);
-}
-
-TEST(Interceptor, any_other_code_lets_the_entry_act)
-{
-    const Outcome outcome = outcome_of(1);
-    EXPECT_EQ(outcome.contents, "new");
-    EXPECT_EQ(outcome.read, "new");
-    EXPECT_EQ(outcome.acted, 0u);
-    EXPECT_EQ(outcome.path, suffix);
+    // 2 acts in the entry's place; 3 acts, and the entry too but for refreshing and reading; others let it
+    // act.
+    const struct {
+        uint32_t decision, refreshed, backstored, acted;
+        const char *contents, *read;
+        std::string path;
+    } rows[] = {{0, 0, 0, 0, "old", "k", ""},
+                {2, 1, 1, 1, "old", "k", suffix},
+                {3, 1, 1, 1, "new", "k", suffix},
+                {1, 1, 1, 0, "new", "new", suffix}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.decision);
+        const Outcome outcome = outcome_of(row.decision);
+        EXPECT_EQ(outcome.refreshed, row.refreshed);
+        EXPECT_EQ(outcome.written, row.refreshed);
+        EXPECT_EQ(outcome.contents, row.contents);
+        EXPECT_EQ(outcome.read, row.read);
+        EXPECT_EQ(outcome.acted, row.acted);
+        EXPECT_EQ(outcome.backstored, row.backstored);
+        EXPECT_EQ(outcome.path, row.path);
+    }
 }
 
 TEST(Interceptor, that_lacks_an_operation_lets_the_entry_act)

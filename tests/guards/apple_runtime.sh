@@ -2,16 +2,12 @@
 # Every class file passes under the rules of Apple's runtime.  apple_runtime.sh SOURCE BUILD
 set -u
 source=$1 build=$2
-gcc_headers=$(g++ -print-file-name=include)
-failed=0
+guards=$(dirname "$0")
 stamp=$build/apple_runtime.passed
-"$(dirname "$0")/unchanged_since.sh" "$stamp" "$source" "$build/generated" && exit 0
-for file in $(find "$source" -name '*.mm' -not -path '*/templates/*' -not -path '*/build/*' -not -path '*/tests/*' -not -path '*/benchmarks/*') \
-            $(find "$build/generated" -name '*.mm' -not -path '*/tests/*'); do
-    clang++ -fsyntax-only -std=c++20 -Wall -fobjc-runtime=macosx-10.11 -DGNUSTEP -DGNUSTEP_BASE_LIBRARY=1 \
-        -DZEB_BUILDING_FRAMEWORK -fexceptions -fobjc-exceptions -isystem /usr/include/GNUstep \
-        -idirafter "$gcc_headers" "-I$source" "-I$build/generated" "-I$build/include" "$file" ||
-        { echo "not for Apple's runtime: $file"; failed=1; }
-done
-[ $failed -eq 0 ] && touch "$stamp"
-exit $failed
+"$guards/unchanged_since.sh" "$stamp" "$source" "$build/generated" && exit 0
+{ find "$source" \( -name templates -o -name build -o -name tests -o -name benchmarks \) -prune -o -name '*.mm' -print
+  find "$build/generated" -name tests -prune -o -name '*.mm' -print | "$guards/one_of_each_kind.sh"; } |
+    xargs -P "$(nproc)" -n 1 clang++ -fsyntax-only -std=c++20 -Wall -fobjc-runtime=macosx-10.11 -DGNUSTEP \
+        -DGNUSTEP_BASE_LIBRARY=1 -DZEB_BUILDING_FRAMEWORK -fexceptions -fobjc-exceptions \
+        -isystem /usr/include/GNUstep -idirafter "$(g++ -print-file-name=include)" \
+        "-I$source" "-I$build/generated" "-I$build/include" && touch "$stamp"

@@ -5,7 +5,8 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
-#include <cstring>
+#include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace reference
@@ -14,21 +15,8 @@ namespace reference
 template <class Element>
 using Vector = std::vector<Element>;
 
-struct Equal {
-    template <class Element>
-    bool operator()(Element left, Element right) const
-    {
-        return left == right;
-    }
-};
-
-struct Less {
-    template <class Element>
-    bool operator()(Element left, Element right) const
-    {
-        return left < right;
-    }
-};
+using Equal = std::equal_to<>;
+using Less = std::less<>;
 
 /// How the families order their elements where no function is given.
 template <class Element>
@@ -44,43 +32,29 @@ ZEB_Comparison own_comparison(const Element *key, const Element *element)
 template <class Element, class Equality = Equal>
 uint32_t first_index_of(const Vector<Element> &elements, Element value, Equality equal = {})
 {
-    for (uint32_t i = 0; i < elements.size(); ++i)
-        if (equal(elements[i], value))
-            return i;
-    return ZEB_NOT_FOUND;
+    const auto found = std::find_if(elements.begin(), elements.end(),
+                                    [&](const Element &element) { return equal(element, value); });
+    return found == elements.end() ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - elements.begin());
 }
 
 template <class Element, class Equality = Equal>
 uint32_t last_index_of(const Vector<Element> &elements, Element value, Equality equal = {})
 {
-    for (uint32_t i = static_cast<uint32_t>(elements.size()); i > 0; --i)
-        if (equal(elements[i - 1], value))
-            return i - 1;
-    return ZEB_NOT_FOUND;
+    const Vector<Element> reversed(elements.rbegin(), elements.rend());
+    const uint32_t found = first_index_of(reversed, value, equal);
+    return found == ZEB_NOT_FOUND ? found : static_cast<uint32_t>(elements.size()) - 1 - found;
 }
 
-template <class Element, class Equality = Equal>
-bool matches_at(const Vector<Element> &elements, uint32_t start, const Vector<Element> &pattern,
-                Equality equal = {})
-{
-    for (uint32_t i = 0; i < pattern.size(); ++i)
-        if (!equal(elements[start + i], pattern[i]))
-            return false;
-    return true;
-}
-
+/// The last start is none: an occurrence at the very end is not found.
 template <class Element, class Equality = Equal>
 uint32_t first_index_of_subsequence(const Vector<Element> &elements, const Vector<Element> &pattern,
                                     Equality equal = {})
 {
-    const uint32_t count = static_cast<uint32_t>(elements.size());
-    const uint32_t m = static_cast<uint32_t>(pattern.size());
-    if (m > count || m == 0)
+    if (pattern.empty() || pattern.size() > elements.size())
         return ZEB_NOT_FOUND;
-    for (uint32_t start = 0; start < count - m; ++start)
-        if (matches_at(elements, start, pattern, equal))
-            return start;
-    return ZEB_NOT_FOUND;
+    const auto found =
+        std::search(elements.begin(), elements.end() - 1, pattern.begin(), pattern.end(), equal);
+    return found == elements.end() - 1 ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - elements.begin());
 }
 
 /// What an ordered search answers, whether it warned, and whether it would insert at the index.
@@ -90,185 +64,115 @@ struct Ordered {
     bool inserts = false;
 };
 
+/// Where a search ended: the last probe, the bounds that were left, and the last answer.
+struct Search_End {
+    uint32_t probe, low, high;
+    ZEB_Comparison compared;
+};
+
+/// Probes until an answer is neither less nor greater, or the bounds meet.
+template <class Element, class Compare>
+Search_End search(const Vector<Element> &elements, Element key, Compare compare)
+{
+    const auto count = static_cast<uint32_t>(elements.size());
+    Search_End end{count / 2, 0, count - 1, 0};
+    for (;; end.probe = end.low + (end.high - end.low + 1) / 2) {
+        end.compared = compare(&key, &elements[end.probe]);
+        if (end.compared == ZEB_COMPARED_GREATER && end.probe != end.high)
+            end.low = end.probe + 1;
+        else if (end.compared == ZEB_COMPARED_LESS && end.probe != end.low)
+            end.high = end.probe - 1;
+        else
+            return end;
+    }
+}
+
 template <class Element, class Compare>
 Ordered ordered_find(const Vector<Element> &elements, Element key, Compare compare)
 {
-    Ordered answer;
-    const uint32_t count = static_cast<uint32_t>(elements.size());
-    if (count == 0)
-        return answer;
-    uint32_t probe = count / 2;
-    if (count == 1) {
-        const ZEB_Comparison compared = compare(&key, &elements[0]);
-        if (compared == 1)
-            answer.index = 0;
-        else if (compared == 0)
-            answer.warned = true;
-        return answer;
-    }
-    uint32_t low = 0, high = count - 1;
-    for (;;) {
-        const ZEB_Comparison compared = compare(&key, &elements[probe]);
-        if (compared == 3) {
-            if (probe == high)
-                return answer;
-            low = probe + 1;
-        } else if (compared == 2) {
-            if (probe == low)
-                return answer;
-            high = probe - 1;
-        } else {
-            answer.index = probe;
-            return answer;
-        }
-        probe = low + (high - low + 1) / 2;
-    }
+    if (elements.empty())
+        return {};
+    const Search_End end = search(elements, key, compare);
+    if (end.compared == ZEB_COMPARED_GREATER || end.compared == ZEB_COMPARED_LESS)
+        return {};
+    // A lone element has to be equal; of several, any that ends the search is the answer.
+    if (elements.size() == 1 && end.compared != ZEB_COMPARED_EQUAL)
+        return {ZEB_NOT_FOUND, end.compared == 0, false};
+    return {end.probe, false, false};
 }
 
 template <class Element, class Compare>
 Ordered ordered_find_nearest(const Vector<Element> &elements, Element key, Compare compare)
 {
-    Ordered answer;
-    const uint32_t count = static_cast<uint32_t>(elements.size());
-    if (count == 0)
-        return answer;
-    uint32_t probe = count / 2;
-    if (count == 1) {
-        const ZEB_Comparison compared = compare(&key, &elements[0]);
-        answer.index = 0;
-        answer.warned = compared != 1 && compared != 2 && compared != 3;
-        return answer;
-    }
-    uint32_t low = 0, high = count - 1;
-    for (;;) {
-        const ZEB_Comparison compared = compare(&key, &elements[probe]);
-        if (compared == 3) {
-            if (probe == high) {
-                answer.index = high;
-                return answer;
-            }
-            low = probe + 1;
-        } else if (compared == 2) {
-            if (probe == low) {
-                answer.index = low;
-                return answer;
-            }
-            high = probe - 1;
-        } else {
-            answer.index = probe;
-            return answer;
-        }
-        probe = low + (high - low + 1) / 2;
-    }
+    if (elements.empty())
+        return {};
+    const Search_End end = search(elements, key, compare);
+    return {end.probe, elements.size() == 1 && (end.compared < 1 || end.compared > 3), false};
 }
 
 template <class Element, class Compare>
 Ordered ordered_insert(const Vector<Element> &elements, Element key, Compare compare)
 {
-    Ordered answer;
-    const uint32_t count = static_cast<uint32_t>(elements.size());
-    answer.inserts = true;
-    answer.index = 0;
-    if (count == 0)
-        return answer;
-    uint32_t low = 0, high = count - 1, probe = count / 2;
-    for (;;) {
-        const ZEB_Comparison compared = compare(&key, &elements[probe]);
-        if (compared == 3) {
-            answer.index = high + 1;
-            if (probe == high)
-                return answer;
-            low = probe + 1;
-        } else if (compared == 2) {
-            answer.index = low;
-            if (probe == low)
-                return answer;
-            high = probe - 1;
-        } else {
-            answer.index = probe;
-            answer.inserts = false;
-            answer.warned = count == 1 && compared != 1;
-            return answer;
-        }
-        probe = low + (high - low + 1) / 2;
-    }
+    if (elements.empty())
+        return {0, false, true};
+    const Search_End end = search(elements, key, compare);
+    if (end.compared == ZEB_COMPARED_GREATER)
+        return {end.high + 1, false, true};
+    if (end.compared == ZEB_COMPARED_LESS)
+        return {end.low, false, true};
+    return {end.probe, elements.size() == 1 && end.compared != ZEB_COMPARED_EQUAL, false};
 }
 
 template <class Element, class Order = Less>
 Element minimum(const Vector<Element> &elements, Order less = {})
 {
-    if (elements.empty())
-        return Element{};
-    Element least = elements[0];
-    for (Element element : elements)
-        if (less(element, least))
-            least = element;
-    return least;
+    return elements.empty() ? Element{} : *std::min_element(elements.begin(), elements.end(), less);
 }
 
 template <class Element, class Order = Less>
 Element maximum(const Vector<Element> &elements, Order less = {})
 {
-    if (elements.empty())
-        return Element{};
-    Element greatest = elements[0];
-    for (Element element : elements)
-        if (less(greatest, element))
-            greatest = element;
-    return greatest;
+    return elements.empty() ? Element{} : *std::max_element(elements.begin(), elements.end(), less);
 }
 
 template <class Element, class Equality = Equal>
 uint32_t replace_equal(Vector<Element> &elements, Element value, Element replacement, Equality equal = {})
 {
-    uint32_t replaced = 0;
-    for (Element &element : elements) {
-        if (equal(element, value)) {
-            element = replacement;
-            ++replaced;
-        }
-    }
-    return replaced;
+    const auto is_value = [&](const Element &element) { return equal(element, value); };
+    const auto replaced = std::count_if(elements.begin(), elements.end(), is_value);
+    std::replace_if(elements.begin(), elements.end(), is_value, replacement);
+    return static_cast<uint32_t>(replaced);
 }
 
 /// Answers the new count; the elements beyond it are left where they were.
 template <class Element, class Equality = Equal>
 uint32_t remove_equal(Vector<Element> &elements, Element value, Equality equal = {})
 {
-    uint32_t kept = 0;
-    for (uint32_t i = 0; i < elements.size(); ++i)
-        if (!equal(elements[i], value))
-            elements[kept++] = elements[i];
-    return kept;
+    const auto end = std::remove_if(elements.begin(), elements.end(),
+                                    [&](const Element &element) { return equal(element, value); });
+    return static_cast<uint32_t>(end - elements.begin());
 }
 
 template <class Element, class Equality = Equal>
 uint32_t replace_occurrences(Vector<Element> &elements, const Vector<Element> &pattern,
                              const Vector<Element> &replacement, Equality equal = {})
 {
-    Vector<Element> result;
     uint32_t replaced = 0;
-    uint32_t i = 0;
-    while (i < elements.size()) {
-        const bool fits = !pattern.empty() && pattern.size() <= elements.size() - i;
-        if (fits && matches_at(elements, i, pattern, equal)) {
-            result.insert(result.end(), replacement.begin(), replacement.end());
-            i += static_cast<uint32_t>(pattern.size());
-            ++replaced;
-        } else {
-            result.push_back(elements[i++]);
-        }
+    for (auto at = elements.begin(); !pattern.empty(); ++replaced) {
+        at = std::search(at, elements.end(), pattern.begin(), pattern.end(), equal);
+        if (at == elements.end())
+            break;
+        at = elements.erase(at, at + static_cast<std::ptrdiff_t>(pattern.size()));
+        at = elements.insert(at, replacement.begin(), replacement.end()) +
+             static_cast<std::ptrdiff_t>(replacement.size());
     }
-    elements = result;
     return replaced;
 }
 
 template <class Element>
 void swap(Vector<Element> &elements, uint32_t i, uint32_t j)
 {
-    const Element kept = elements[i];
-    elements[i] = elements[j];
-    elements[j] = kept;
+    std::swap(elements[i], elements[j]);
 }
 
 template <class Element>
@@ -341,22 +245,10 @@ void sort(Vector<Element> &elements, Vector<uint32_t> *permutation, Precedes pre
     }
 }
 
-template <class Element>
-bool same_memory(const Vector<Element> &left, const Vector<Element> &right)
-{
-    return left.size() == right.size() &&
-           (left.empty() || std::memcmp(left.data(), right.data(), left.size() * sizeof(Element)) == 0);
-}
-
 template <class Element, class Equality = Equal>
 bool same_values(const Vector<Element> &left, const Vector<Element> &right, Equality equal = {})
 {
-    if (left.size() != right.size())
-        return false;
-    for (size_t i = 0; i < left.size(); ++i)
-        if (!equal(left[i], right[i]))
-            return false;
-    return true;
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), equal);
 }
 
 } // namespace reference

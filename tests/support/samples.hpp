@@ -27,7 +27,7 @@ struct Sample<void *> {
 
 template <>
 struct Sample<id> {
-    static id at(uint32_t i) { return [NSString stringWithFormat:@"object %u", i]; }
+    static id at(uint32_t i) { return [NSString stringWithFormat:@"an object with the number %u", i]; }
 };
 
 template <>
@@ -121,6 +121,31 @@ Element as_it_is(Element element)
     else
         return element;
 }
+
+/// References: those to an element, one more, one less; only the family of references has any.
+template <class Element>
+uint32_t references_to(Element)
+{
+    return 0;
+}
+inline uint32_t references_to(id object) { return static_cast<uint32_t>([object retainCount]); }
+template <class Element>
+void take(Element)
+{
+}
+inline void take(id object) { [object retain]; }
+template <class Element>
+void let_go(Element)
+{
+}
+inline void let_go(id object) { [object release]; }
+
+/// The mode of ownership, of a family that has one.
+template <class Array>
+void set_mode(Array *, uint32_t)
+{
+}
+inline void set_mode(ZEB_Object_Array *array, uint32_t mode) { [array set_ownership_mode:mode]; }
 
 /// Keeps elements that are objects alive for good.
 template <class Element>

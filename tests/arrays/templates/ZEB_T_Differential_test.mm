@@ -1,8 +1,9 @@
-/// Every algorithm of TT_PHRASE, on owners and links, by the own order and by a caller's comparison, against
-/// its plainest form.
+/// Every operation of TT_PHRASE, on owners and links, by the own order and by a caller's comparison, in every
+/// mode of ownership, against its plainest form; and again with each allocation failing in turn.
 #include "tests/arrays/ZEB_T_Samples.hpp"
 #include "tests/arrays/differential.hpp"
 #include "tests/support/captured.hpp"
+#include "tests/support/memory.hpp"
 
 #include <gtest/gtest.h>
 
@@ -40,17 +41,36 @@ enum class Place { array, vector, link_to_array, link_of_vector };
 /// Samples that stand around what a link views.
 const Numbers before_link = {0, 1}, after_link = {2, 3};
 
+/// The modes of ownership that the family knows, and an array's.
+constexpr std::initializer_list<uint32_t> modes = {ZEB_OWNERSHIP_RETAINS, ZEB_OWNERSHIP_BORROWS,
+                                                   ZEB_OWNERSHIP_ADOPTS};
+constexpr bool counts_references = std::is_same_v<Element, id>;
+
+/// How many references there are to each sample.
+Numbers references()
+{
+    Numbers counts;
+    for (const Element &element : samples())
+        counts.push_back(support::references_to(element));
+    return counts;
+}
+
 /// What an operation is done to, with the owner of what a link views.
 struct Ours {
-    Ours(const Input &input, Place place) : in(input), is_link(place >= Place::link_to_array)
+    Ours(const Input &input, Place place, uint32_t mode)
+        : in(input), mode(mode), is_link(place >= Place::link_to_array)
     {
-        Numbers all = in.elements;
-        if (is_link) {
-            all.insert(all.begin(), before_link.begin(), before_link.end());
-            all.insert(all.end(), after_link.begin(), after_link.end());
-        }
-        owner = array_of(all);
-        const ZEB_Index_Range viewed{2, static_cast<uint32_t>(in.elements.size()) + 1};
+        [ZEB_T_Array set_growth_seed:in.seed];
+        owner = [ZEB_T_Array array_with_capacity:is_link ? 0 : in.room];
+        support::set_mode(owner, mode);
+        if (is_link)
+            append(before_link);
+        append(in.elements);
+        append(is_link ? after_link : Numbers(in.dropped));
+        const auto length = static_cast<uint32_t>(in.elements.size());
+        const ZEB_Index_Range viewed{2, length + 1};
+        if (!is_link)
+            [owner set_count:length];
         if (place == Place::array)
             vector = array = owner;
         else if (place == Place::vector)
@@ -60,6 +80,26 @@ struct Ours {
                                                                             range:viewed] autorelease];
         else
             vector = [[[ZEB_T_Vector alloc] init_as_link_to_TT_word_vector:owner range:viewed] autorelease];
+        key = in.key_is_own ? [vector TT_word_at_index:in.own_from] : samples()[in.key];
+        own = [ZEB_T_Array link_to_TT_words:[vector TT_word_data] + in.own_from
+                                      count:in.own_to - in.own_from];
+    }
+
+    /// The element as this mode wants it to be given: with a reference to be taken over in mode 1.
+    Element give(Element element)
+    {
+        if (mode == ZEB_OWNERSHIP_ADOPTS) {
+            given.push_back(number_of(element));
+            support::take(element);
+        }
+        return element;
+    }
+
+    Element const *give_run()
+    {
+        for (const Element &element : zeb::elements(run))
+            give(element);
+        return [run TT_word_data];
     }
 
     /// What a link's owner holds outside of the link; plain elements stay where they were dropped.
@@ -73,13 +113,26 @@ struct Ours {
     }
 
     const Input &in;
+    uint32_t mode;
     bool is_link;
-    Element key = samples()[in.key], other = samples()[in.other];
+    Element other = samples()[in.other], key;
     ZEB_Index_Range range{in.from, in.to};
     ZEB_UInt_Array *indexes = indexes_of(in.indexes);
+    ZEB_T_Array *run = array_of(in.run), *replacement = array_of(in.replacement), *own = nil;
+    uint32_t run_count = static_cast<uint32_t>(in.run.size());
+    const Numbers counted = references();
+    Numbers given;
     ZEB_T_Vector *vector = nil;
     ZEB_T_Array *array = nil;
     ZEB_T_Array *owner = nil;
+
+private:
+    void append(const Numbers &numbers)
+    {
+        for (const uint32_t number : numbers)
+            [owner append_TT_word:give(samples()[number])];
+        given.clear();
+    }
 };
 
 using Ours_Does = uint64_t (*)(Ours &);
@@ -97,14 +150,22 @@ uint64_t answer_of(Side &side)
     }
 }
 
+enum Memory_Use { grows, works_without_memory };
+
 /// Holds operations against their plain forms, and sees that each report was a line.
 class Differential
 {
 public:
+    explicit Differential(Memory_Use use = grows) : use(use) {}
     ~Differential()
     {
+        [ZEB_T_Array set_growth_seed:16];
         const std::string told = captured.text();
         EXPECT_EQ(static_cast<uint32_t>(std::count(told.begin(), told.end(), '\n')), reports);
+        size_t failed = 0;
+        for (size_t at = 0; (at = told.find("Runtime error in ", at)) != told.npos; ++at)
+            ++failed;
+        EXPECT_EQ(failed, failures);
     }
 
     /// An operation of vectors.
@@ -123,49 +184,117 @@ public:
             hold_at(place, needs, answer_of<Operation, Ours>, answer_of<Reference, Plain>);
     }
 
+    size_t failed_allocations() const { return failures; }
+
 private:
     void hold_at(Place place, Needs needs, Ours_Does operation, Plain_Does reference)
     {
-        for (int turn = 0; turn < 60 && !testing::Test::HasFatalFailure(); ++turn)
-            hold_once(inputs.draw(needs), place, operation, reference);
+        for (const uint32_t mode : modes) {
+            for (int turn = 0; turn < 60 && !testing::Test::HasFatalFailure(); ++turn) {
+                const Input in = inputs.draw(needs);
+                hold_once(in, place, mode, operation, reference, -1);
+                for (int calls = 0; turn % 4 == 0; ++calls)
+                    if (!hold_once(in, place, mode, operation, reference, calls))
+                        break;
+            }
+            if (!counts_references)
+                return;
+        }
     }
 
-    void hold_once(const Input &in, Place place, Ours_Does operation, Plain_Does reference)
+    /// Whether an allocation failed, the one after so many.
+    bool hold_once(const Input &in, Place place, uint32_t mode, Ours_Does operation, Plain_Does reference,
+                   int calls)
     {
+        const long blocks = support::memory.blocks;
         NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
-        Ours ours(in, place);
-        Plain plain{facts(), in, ours.is_link};
+        Ours ours(in, place, mode);
+        Plain before{facts(), in, ours.is_link, [ours.array capacity], !support::is_object<Element>};
+        Plain plain = before, *held = &plain;
         Comparison asked = in.comparison;
         comparison = &asked;
         compared = ours.vector;
-        const uint32_t before = [[ZEB_Error_Stream shared_error_stream] warning_count];
+        const uint32_t warnings = [[ZEB_Error_Stream shared_error_stream] warning_count];
+        NSAutoreleasePool *const inner = [[NSAutoreleasePool alloc] init];
+        support::memory.calls_until_failure = calls;
         const uint64_t answer = operation(ours);
-        const uint32_t reported = [[ZEB_Error_Stream shared_error_stream] warning_count] - before;
-        ASSERT_EQ(answer, reference(plain));
-        ASSERT_EQ(reported, plain.reports);
-        ASSERT_TRUE(asked.asked == plain.comparison.asked);
-        expect_same_elements(ours, plain);
+        const bool failed = calls >= 0 && support::memory.calls_until_failure < 0;
+        support::memory.calls_until_failure = -1;
+        [inner drain];
+        const uint32_t reported = [[ZEB_Error_Stream shared_error_stream] warning_count] - warnings;
         reports += reported;
+        const uint64_t expected = reference(plain);
+        if (failed && use == grows && reported == plain.reports + 1) {
+            ++failures;
+            // An object that could not be made leaves the block that had grown for it.
+            held = &before;
+            if (support::is_held<Element>)
+                before.capacity = std::max(before.capacity, [ours.array capacity]);
+        } else {
+            expect_same(answer == expected && reported == plain.reports &&
+                        asked.asked == plain.comparison.asked);
+        }
+        EXPECT_EQ([ours.array capacity], ours.array == nil ? 0 : held->capacity);
+        expect_same_elements(ours, *held);
+        if (counts_references)
+            expect_references(ours, held->stores);
         [pool drain];
+        EXPECT_EQ(support::memory.blocks, blocks);
+        return failed && !testing::Test::HasFailure();
     }
+
+    static void expect_same(bool is_same) { ASSERT_TRUE(is_same); }
 
     static void expect_same_elements(const Ours &ours, const Plain &plain)
     {
-        const auto end = plain.all.begin() + plain.count;
-        ASSERT_EQ(numbers_of(ours.vector), Numbers(plain.all.begin(), end));
+        const auto known = plain.all.begin() + std::min(plain.known, plain.count);
+        ASSERT_EQ([ours.vector count], plain.count);
+        Numbers found = numbers_of(ours.vector);
+        if (counts_references) {
+            const auto gained = found.begin() + (known - plain.all.begin());
+            ASSERT_EQ(std::count(gained, found.end(), facts().nothing), found.end() - gained);
+        }
+        found.resize(static_cast<size_t>(known - plain.all.begin()));
+        ASSERT_EQ(found, Numbers(plain.all.begin(), known));
         const std::span<const uint32_t> went = zeb::elements(ours.indexes);
         ASSERT_EQ(Numbers(went.begin(), went.end()), plain.indexes);
         if (!ours.is_link)
             return;
         Numbers beyond = before_link;
+        if (!plain.is_link) {
+            beyond.insert(beyond.end(), ours.in.elements.begin(), ours.in.elements.end());
+            beyond.insert(beyond.end(), after_link.begin(), after_link.end());
+            ASSERT_EQ([ours.vector link_marker], 0u);
+            ASSERT_EQ(numbers_of(ours.owner), beyond);
+            return;
+        }
+        const auto end = plain.all.begin() + std::min<size_t>(plain.count, plain.all.size());
         if (!support::is_object<Element>)
             beyond.insert(beyond.end(), end, plain.all.end());
         beyond.insert(beyond.end(), after_link.begin(), after_link.end());
         ASSERT_EQ(ours.beyond(), beyond);
     }
 
+    /// Each reference that an array holds, and each that it was given and has not taken over, is one.
+    static void expect_references(const Ours &ours, bool stored)
+    {
+        Numbers expected = ours.counted;
+        const bool copied = ours.vector != ours.owner && [ours.vector link_marker] == 0;
+        for (ZEB_T_Vector *holder = ours.owner; holder != nil;
+             holder = copied && holder == ours.owner ? ours.vector : static_cast<ZEB_T_Vector *>(nil))
+            for (const uint32_t number : numbers_of(holder))
+                expected[number] += ours.mode != ZEB_OWNERSHIP_BORROWS && number != facts().nothing;
+        for (const uint32_t number : stored ? Numbers() : ours.given)
+            expected[number] += number != facts().nothing;
+        ASSERT_EQ(references(), expected);
+        for (const uint32_t number : stored ? Numbers() : ours.given)
+            support::let_go(samples()[number]);
+    }
+
     Inputs inputs{facts()};
+    Memory_Use use;
     uint32_t reports = 0;
+    size_t failures = 0;
     support::Captured_Output captured{stderr};
 };
 
@@ -173,7 +302,7 @@ private:
 
 TEST(ZEB_T_Differential, searches_find_what_the_plain_scan_finds)
 {
-    Differential hold;
+    Differential hold(works_without_memory);
     hold(
         anything, [](Ours &o) { return [o.vector index_of_TT_word:o.key]; },
         [](Plain &p) { return reference::first_index_of(p.all, p.in.key, p.samples.equal); });
@@ -181,11 +310,7 @@ TEST(ZEB_T_Differential, searches_find_what_the_plain_scan_finds)
         anything, [](Ours &o) { return [o.vector last_index_of_TT_word:o.key]; },
         [](Plain &p) { return reference::last_index_of(p.all, p.in.key, p.samples.equal); });
     hold(
-        anything,
-        [](Ours &o) {
-            return [o.vector index_of_TT_words:[array_of(o.in.run) TT_word_data]
-                                         count:static_cast<uint32_t>(o.in.run.size())];
-        },
+        anything, [](Ours &o) { return [o.vector index_of_TT_words:[o.run TT_word_data] count:o.run_count]; },
         [](Plain &p) { return reference::first_index_of_subsequence(p.all, p.in.run, p.samples.equal); });
     const auto least = [](Plain &p) {
         return p.count == 0 ? p.samples.nothing : reference::minimum(p.all, p.samples.precedes);
@@ -206,10 +331,10 @@ TEST(ZEB_T_Differential, searches_find_what_the_plain_scan_finds)
         },
         [](Plain &p) { return uint64_t{decltype(least)()(p)} << 32 | decltype(greatest)()(p); });
     hold(
-        a_likeness, [](Ours &o) { return [o.vector is_equal_to_vector:array_of(o.in.run)]; },
+        a_likeness, [](Ours &o) { return [o.vector is_equal_to_vector:o.run]; },
         [](Plain &p) { return p.all == p.in.run; });
     hold(
-        a_likeness, [](Ours &o) { return [o.vector is_equal_to_collection:array_of(o.in.run)]; },
+        a_likeness, [](Ours &o) { return [o.vector is_equal_to_collection:o.run]; },
         [](Plain &p) { return reference::same_values(p.all, p.in.run, p.samples.equal); });
 }
 
@@ -229,12 +354,12 @@ TEST(ZEB_T_Differential, ordered_operations_ask_and_end_as_told)
         order, [](Ours &o) { return [o.vector nearest_ordered_index_of_TT_word:o.key comparison:compare]; },
         [](Plain &p) { return p.told(reference::ordered_find_nearest(p.all, p.in.key, p.asked())); });
     hold.arrays(
-        order, [](Ours &o) { return [o.array ordered_insert_TT_word:o.key inserts:o.in.inserts]; },
+        order, [](Ours &o) { return [o.array ordered_insert_TT_word:o.give(o.key) inserts:o.in.inserts]; },
         [](Plain &p) { return p.insert(p.own()); });
     hold.arrays(
         order,
         [](Ours &o) {
-            return [o.array ordered_insert_TT_word:o.key comparison:compare inserts:o.in.inserts];
+            return [o.array ordered_insert_TT_word:o.give(o.key) comparison:compare inserts:o.in.inserts];
         },
         [](Plain &p) { return p.insert(p.asked()); });
 }
@@ -243,29 +368,121 @@ TEST(ZEB_T_Differential, elements_are_stored_and_replaced)
 {
     Differential hold;
     hold(
-        an_element, [](Ours &o) { [o.vector set_TT_word:o.key at_index:o.in.from]; },
-        [](Plain &p) { p.all[p.in.from] = p.in.key; });
+        an_element, [](Ours &o) { [o.vector set_TT_word:o.give(o.key) at_index:o.in.from]; },
+        [](Plain &p) { p.all[p.in.from] = p.key(); });
     hold(
-        an_element, [](Ours &o) { [o.vector set_TT_word:o.key at_index_from_end:o.in.from]; },
-        [](Plain &p) { p.all[p.count - 1 - p.in.from] = p.in.key; });
+        an_element, [](Ours &o) { [o.vector set_TT_word:o.give(o.key) at_index_from_end:o.in.from]; },
+        [](Plain &p) { p.all[p.count - 1 - p.in.from] = p.key(); });
     hold(
-        anything, [](Ours &o) { [o.vector fill_with_TT_word:o.key]; },
-        [](Plain &p) { p.all.assign(p.count, p.in.key); });
-    hold(
-        anything, [](Ours &o) { [o.vector fill_range:o.range with_TT_word:o.key]; },
+        anything, [](Ours &o) { [o.vector fill_with_TT_word:o.give(o.key)]; },
         [](Plain &p) {
-            for (uint32_t i = p.in.from; i <= p.in.to && i < p.count; ++i)
-                p.all[i] = p.in.key;
+            if (p.count != 0)
+                p.all.assign(p.count, p.key());
         });
     hold(
-        anything, [](Ours &o) { return [o.vector replace_every_TT_word:o.key with:o.other]; },
-        [](Plain &p) { return reference::replace_equal(p.all, p.in.key, p.in.other, p.samples.equal); });
+        anything, [](Ours &o) { [o.vector fill_range:o.range with_TT_word:o.give(o.key)]; },
+        [](Plain &p) {
+            for (uint32_t i = p.in.from; i <= p.in.to && i < p.count; ++i)
+                p.all[i] = p.key();
+        });
+    hold(
+        anything, [](Ours &o) { return [o.vector replace_every_TT_word:o.key with:o.give(o.other)]; },
+        [](Plain &p) {
+            const uint32_t replaced = reference::replace_equal(p.all, p.in.key, p.in.other, p.samples.equal);
+            p.stores = replaced != 0;
+            return replaced;
+        });
+    hold.arrays(
+        anything, [](Ours &o) { return [o.array replace_occurrences:o.run replacement:o.replacement]; },
+        [](Plain &p) { return p.replace_occurrences(); });
+}
+
+TEST(ZEB_T_Differential, elements_go_in)
+{
+    Differential hold;
+    hold.arrays(
+        anything, [](Ours &o) { [o.array append_TT_word:o.give(o.key)]; },
+        [](Plain &p) { p.is_link ? void(++p.reports) : p.insert_one(p.count); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array insert_TT_word:o.give(o.key) at_index:o.in.to]; },
+        [](Plain &p) { p.is_link ? void(++p.reports) : p.insert_one(p.in.to); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array copy_TT_word:o.give(o.key)]; },
+        [](Plain &p) { p.is_link ? void(++p.reports) : p.assign({p.key()}); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array append_array:o.run]; }, [](Plain &p) { p.append(p.in.run); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array append_array:o.own]; }, [](Plain &p) { p.append(p.own_run()); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array append_TT_words:o.give_run() count:o.run_count]; },
+        [](Plain &p) { p.append(p.in.run); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array insert_array:o.run at_index:o.in.to]; },
+        [](Plain &p) { p.insert(p.in.to, p.in.run); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array insert_array:o.own at_index:o.in.to]; },
+        [](Plain &p) { p.insert(p.in.to, p.own_run()); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array replace_element_at_index:o.in.from with_array:o.run]; },
+        [](Plain &p) { p.replace_element(p.in.run); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array replace_element_at_index:o.in.from with_array:o.own]; },
+        [](Plain &p) { p.replace_element(p.own_run()); });
     hold.arrays(
         anything,
         [](Ours &o) {
-            return [o.array replace_occurrences:array_of(o.in.run) replacement:array_of(o.in.replacement)];
+            [o.array replace_element_at_index:o.in.from with_TT_words:o.give_run() count:o.run_count];
         },
-        [](Plain &p) { return p.replace_occurrences(); });
+        [](Plain &p) { p.replace_element(p.in.run); });
+}
+
+TEST(ZEB_T_Differential, contents_are_taken_over)
+{
+    Differential hold;
+    hold.arrays(
+        anything, [](Ours &o) { [o.array set_contents_of_array:o.run]; },
+        [](Plain &p) { p.assign(p.in.run); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array set_contents_of_array:o.own]; },
+        [](Plain &p) { p.assign(p.own_run()); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array set_TT_words:o.give_run() count:o.run_count]; },
+        [](Plain &p) { p.assign(p.in.run); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array copy_vector:o.run capacity:o.in.room]; },
+        [](Plain &p) { p.copy(p.in.run); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array copy_vector:o.own capacity:o.in.room]; },
+        [](Plain &p) { p.copy(p.own_run()); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array copy_TT_words:o.give_run() count:o.run_count capacity:o.in.room]; },
+        [](Plain &p) { p.copy(p.in.run); });
+    EXPECT_GT(hold.failed_allocations(), 20u);
+}
+
+TEST(ZEB_T_Differential, lengths_and_capacities_change)
+{
+    Differential hold;
+    hold.arrays(
+        anything, [](Ours &o) { [o.array set_length:o.in.from]; }, [](Plain &p) { p.resize(p.in.from); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array extend_length_by:o.in.room]; },
+        [](Plain &p) { p.resize(p.count + p.in.room); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array ensure_room_for:o.in.room]; },
+        [](Plain &p) { p.make_room_unless_link(p.count + p.in.room); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array ensure_capacity_greater_than:o.in.room]; },
+        [](Plain &p) { p.make_room_unless_link(p.in.room); });
+    hold.arrays(
+        anything, [](Ours &o) { [o.array trim_allocation]; }, [](Plain &p) { p.trim(); });
+    hold(
+        an_element, [](Ours &o) { [o.vector set_count:o.in.from]; }, [](Plain &p) { p.count = p.in.from; });
+    hold(
+        anything, [](Ours &o) { [o.vector decrease_count:o.in.from]; },
+        [](Plain &p) { p.count -= std::min(p.count, p.in.from); });
+    hold(
+        anything, [](Ours &o) { [o.vector clear]; }, [](Plain &p) { p.count = 0; });
 }
 
 TEST(ZEB_T_Differential, elements_are_removed)
@@ -283,7 +500,7 @@ TEST(ZEB_T_Differential, elements_are_removed)
     hold(
         anything, [](Ours &o) { [o.vector remove_range:o.range]; }, [](Plain &p) { p.change_range(false); });
     hold(
-        anything, [](Ours &o) { [o.vector replace_range:o.range with_TT_word:o.key]; },
+        anything, [](Ours &o) { [o.vector replace_range:o.range with_TT_word:o.give(o.key)]; },
         [](Plain &p) { p.change_range(true); });
 }
 
@@ -323,7 +540,7 @@ TEST(ZEB_T_Differential, elements_change_places)
 
 TEST(ZEB_T_Differential, sorts_move_elements_and_indexes_as_told)
 {
-    Differential hold;
+    Differential hold(works_without_memory);
     hold(
         anything, [](Ours &o) { [o.vector sort]; },
         [](Plain &p) { reference::sort(p.all, nullptr, p.precedes(p.own())); });

@@ -1,0 +1,28 @@
+#include "tests/support/memory.hpp"
+
+#include "arrays/engine/allocator.hpp"
+
+#include <cstdlib>
+
+using support::memory;
+
+namespace zeb::engine
+{
+
+void *reallocate(void *block, std::size_t size) noexcept
+{
+    const bool fails = memory.calls_until_failure >= 0 && memory.calls_until_failure-- == 0;
+    if (fails || memory.is_out)
+        return nullptr;
+    void *const moved = std::realloc(block, size);
+    memory.blocks += block == nullptr && moved != nullptr;
+    return moved;
+}
+
+void release(void *block) noexcept
+{
+    memory.blocks -= block != nullptr;
+    std::free(block);
+}
+
+} // namespace zeb::engine

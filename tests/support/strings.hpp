@@ -1,0 +1,31 @@
+/// The framework's strings and byte arrays, to and from those of the standard library.
+#pragma once
+
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#include <string>
+
+namespace support
+{
+
+inline ZEB_String *text(const std::string &characters)
+{
+    return [[[ZEB_String alloc] init_as_copy_of_chars:characters.data()
+                                                count:static_cast<uint32_t>(characters.size())] autorelease];
+}
+
+inline std::string text_of(ZEB_Char_Vector *string) { return {[string char_data], [string count]}; }
+
+inline ZEB_Byte_Array *bytes(const std::string &characters)
+{
+    return
+        [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:reinterpret_cast<const uint8_t *>(characters.data())
+                                                 count:static_cast<uint32_t>(characters.size())] autorelease];
+}
+
+inline std::string text_of(ZEB_Byte_Vector *vector)
+{
+    return {reinterpret_cast<const char *>([vector byte_data]), [vector count]};
+}
+
+} // namespace support

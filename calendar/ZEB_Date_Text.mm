@@ -25,7 +25,7 @@ template <class Take>
 void with_strftime_text(ZEB_Date *date, const char *format, Take take)
 {
     char text[engine::strftime_limit];
-    const char *const used = engine::or_first(format, engine::first_date_format);
+    const char *const used = engine::or_default(format, engine::default_date_format);
     const std::size_t length = engine::format_with_strftime(text, used, value_of(date));
     if (length != 0)
         take(text, static_cast<uint32_t>(length));

@@ -44,20 +44,20 @@ NSAutoreleasePool *new_pool()
 
 /// Writes the pieces of a diagnostic to a stream, under an autorelease pool of its own. A diagnostic raised
 /// meanwhile, by a subclass that handles the text, is written directly to standard error.
-void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
+void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
 {
-    static bool is_putting = false;
-    if (is_putting) {
+    static bool is_writing = false;
+    if (is_writing) {
         for (const ZEB_Char_Span piece : pieces)
             fwrite(piece.char_c_array, 1, piece.length, stderr);
         return;
     }
-    is_putting = true;
+    is_writing = true;
     NSAutoreleasePool *const pool = new_pool();
     for (const ZEB_Char_Span piece : pieces)
         engine::put(stream, piece);
     [pool drain];
-    is_putting = false;
+    is_writing = false;
 }
 
 } // namespace
@@ -132,8 +132,8 @@ void put_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
     if (verbose == 0)
         return;
     const ZEB_Char_Span before_note = note.length != 0 ? engine::span_of(". ") : engine::span_of(".");
-    put_line(self,
-             {lead, name_of(selector), class_lead, class_name_of(object), before_note, note, line_break});
+    write_line(self,
+               {lead, name_of(selector), class_lead, class_name_of(object), before_note, note, line_break});
 }
 
 - (void)need_to_overload:(SEL)selector object:(id)object note:(ZEB_Char_Span)note

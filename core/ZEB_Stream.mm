@@ -11,7 +11,7 @@
 namespace
 {
 
-void put_unimplemented(const char *line)
+void print_not_implemented(const char *line)
 {
     fputs(line, stdout);
     fputc('\n', stdout);
@@ -19,7 +19,7 @@ void put_unimplemented(const char *line)
 
 /// Sends an object one of the messages by which it writes itself; an object that does not respond writes
 /// nothing.
-void send_hook(id object, SEL hook, ZEB_Stream *stream)
+void send_if_responds(id object, SEL hook, ZEB_Stream *stream)
 {
     if ([object respondsToSelector:hook])
         [object performSelector:hook withObject:stream];
@@ -77,18 +77,18 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
     self = [super init];
     if (self == nil)
         return nil;
-    char_format = engine::first_char_format;
-    int_format = engine::first_int_format;
-    unsigned_format = engine::first_unsigned_format;
-    float_format = engine::first_float_format;
-    double_format = engine::first_double_format;
-    character_code_format = engine::first_character_code_format;
-    unsigned_long_format = engine::first_unsigned_long_format;
-    hex_format = engine::first_hex_format;
-    date_format = engine::first_date_format;
-    list_open_delimiter = engine::first_open_delimiter;
-    list_close_delimiter = engine::first_close_delimiter;
-    list_separator = engine::first_separator;
+    char_format = engine::default_char_format;
+    int_format = engine::default_int_format;
+    unsigned_format = engine::default_unsigned_format;
+    float_format = engine::default_float_format;
+    double_format = engine::default_double_format;
+    character_code_format = engine::default_character_code_format;
+    unsigned_long_format = engine::default_unsigned_long_format;
+    hex_format = engine::default_hex_format;
+    date_format = engine::default_date_format;
+    list_open_delimiter = engine::default_open_delimiter;
+    list_close_delimiter = engine::default_close_delimiter;
+    list_separator = engine::default_separator;
     scratch_string = [[ZEB_String alloc] init_with_capacity:0];
     return self;
 }
@@ -131,7 +131,7 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 
 - (void)write_object:(id)object
 {
-    send_hook(object, @selector(send_to_stream:), self);
+    send_if_responds(object, @selector(send_to_stream:), self);
 }
 
 - (void)write_object_with_format:(id)object format:(const char *)format
@@ -147,12 +147,12 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 
 - (void)write_object_text:(id)object
 {
-    send_hook(object, @selector(send_text_to_stream:), self);
+    send_if_responds(object, @selector(send_text_to_stream:), self);
 }
 
 - (void)write_object_contents:(id)object
 {
-    send_hook(object, @selector(send_contents_to_stream:), self);
+    send_if_responds(object, @selector(send_contents_to_stream:), self);
 }
 
 - (void)ZEB_send_delimited_list:(ZEB_Collection *)list
@@ -173,13 +173,13 @@ void send_hook(id object, SEL hook, ZEB_Stream *stream)
 - (void)ZEB_receive_delimited_list:(ZEB_Collection *)list
 {
     (void)list;
-    put_unimplemented("Need to implement ZEB_receive_delimited_list:");
+    print_not_implemented("Need to implement ZEB_receive_delimited_list:");
 }
 
 - (void)ZEB_receive_list:(ZEB_Collection *)list
 {
     (void)list;
-    put_unimplemented("Need to implement ZEB_receive_list:");
+    print_not_implemented("Need to implement ZEB_receive_list:");
 }
 
 @end

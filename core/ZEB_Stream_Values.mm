@@ -36,7 +36,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 - (void)write_string_with_format:(ZEB_String *)string format:(const char *)format
 {
     const engine::C_Text text([string char_data], [string count]);
-    put_value(self, engine::or_first(format, "%s"), text.c_string());
+    put_value(self, engine::or_default(format, "%s"), text.c_string());
 }
 
 - (void)write_double:(double)value
@@ -46,7 +46,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_double_with_format:(double)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_double_format), value);
+    put_value(self, engine::or_default(format, engine::default_double_format), value);
 }
 
 - (void)write_int:(int32_t)value
@@ -56,7 +56,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_int_with_format:(int32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_int_format), value);
+    put_value(self, engine::or_default(format, engine::default_int_format), value);
 }
 
 - (void)write_unsigned:(uint32_t)value
@@ -66,7 +66,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_unsigned_with_format:(uint32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_unsigned_format), value);
+    put_value(self, engine::or_default(format, engine::default_unsigned_format), value);
 }
 
 - (void)write_float:(float)value
@@ -76,7 +76,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_float_with_format:(float)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_float_format), static_cast<double>(value));
+    put_value(self, engine::or_default(format, engine::default_float_format), static_cast<double>(value));
 }
 
 - (void)write_char:(int)value
@@ -86,7 +86,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_char_with_format:(int)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_char_format), value);
+    put_value(self, engine::or_default(format, engine::default_char_format), value);
 }
 
 - (void)write_character_code:(uint32_t)value
@@ -96,7 +96,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_character_code_with_format:(uint32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_character_code_format), value);
+    put_value(self, engine::or_default(format, engine::default_character_code_format), value);
 }
 
 - (void)write_hex:(uint32_t)value
@@ -106,7 +106,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_hex_with_format:(uint32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_hex_format), value);
+    put_value(self, engine::or_default(format, engine::default_hex_format), value);
 }
 
 - (void)write_unsigned_long:(uint64_t)value
@@ -116,7 +116,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_unsigned_long_with_format:(uint64_t)value format:(const char *)format
 {
-    put_value(self, engine::or_first(format, engine::first_unsigned_long_format), value);
+    put_value(self, engine::or_default(format, engine::default_unsigned_long_format), value);
 }
 
 - (double)read_double
@@ -126,7 +126,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (double)read_double_with_format:(const char *)format
 {
-    const engine::Double_Scan_Format widened(engine::or_first(format, engine::first_double_format));
+    const engine::Double_Scan_Format widened(engine::or_default(format, engine::default_double_format));
     double value = 0;
     take_value(self, widened.c_string(), &value);
     return value;
@@ -140,7 +140,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 - (int32_t)read_int_with_format:(const char *)format
 {
     int32_t value = 0;
-    take_value(self, engine::or_first(format, engine::first_int_format), &value);
+    take_value(self, engine::or_default(format, engine::default_int_format), &value);
     return value;
 }
 
@@ -152,7 +152,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 - (uint32_t)read_unsigned_with_format:(const char *)format
 {
     uint32_t value = 0;
-    take_value(self, engine::or_first(format, engine::first_unsigned_format), &value);
+    take_value(self, engine::or_default(format, engine::default_unsigned_format), &value);
     return value;
 }
 
@@ -164,7 +164,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 - (float)read_float_with_format:(const char *)format
 {
     float value = 0;
-    take_value(self, engine::or_first(format, engine::first_float_format), &value);
+    take_value(self, engine::or_default(format, engine::default_float_format), &value);
     return value;
 }
 
@@ -176,7 +176,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 - (int)read_char_with_format:(const char *)format
 {
     signed char value = 0;
-    take_value(self, engine::or_first(format, engine::first_char_format), &value);
+    take_value(self, engine::or_default(format, engine::default_char_format), &value);
     return value;
 }
 

@@ -13,7 +13,7 @@ namespace zeb::engine
 {
 
 /// Returns the storage of an object that an array made.
-struct Storage_Of_Held {
+struct Storage_Of_Object {
     auto operator()(ZEB_String *string) const { return storage_of_array(string); }
     auto operator()(ZEB_Wide_String *string) const { return storage_of_array(string); }
     auto operator()(ZEB_Byte_Array *bytes) const { return storage_of_array(bytes); }
@@ -33,7 +33,7 @@ void encode(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer buffer
 template <class Policy>
 void encode(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer, Fix_Report report)
 {
-    encode_held(vector, buffer, Storage_Of_Held(), report);
+    encode_held(vector, buffer, Storage_Of_Object(), report);
 }
 
 template <class Policy>
@@ -51,7 +51,7 @@ uint32_t decode(Array_Storage<Plain_Elements<Element>> array, Record_Source sour
 template <class Policy>
 uint32_t decode(Array_Storage<Held_Objects<Policy>> array, Record_Source source, Fix_Report report)
 {
-    return decode_held(array, source, Storage_Of_Held(), report);
+    return decode_held(array, source, Storage_Of_Object(), report);
 }
 
 template <class Policy>

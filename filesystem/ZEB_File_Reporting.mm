@@ -33,11 +33,12 @@ ZEB_Char_Span visible_path(ZEB_String *path)
 }
 
 Platform_Path::Platform_Path(ZEB_String *path, const char *suffix)
-    : text([path char_data], is_whole_path([path char_data], [path count]) ? visible_path(path).length : 0,
-           is_whole_path([path char_data], [path count]) ? suffix : ""),
+    : text([path char_data],
+           has_no_inner_null([path char_data], [path count]) ? visible_path(path).length : 0,
+           has_no_inner_null([path char_data], [path count]) ? suffix : ""),
       fault(0)
 {
-    if (!is_whole_path([path char_data], [path count]))
+    if (!has_no_inner_null([path char_data], [path count]))
         fault = EINVAL;
     else if (*text.c_string() == '\0' && visible_path(path).length != 0)
         fault = ENOMEM;

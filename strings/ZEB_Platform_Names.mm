@@ -25,7 +25,7 @@ ZEB_String *string_of(NSString *name)
 }
 
 /// Returns an NSString over the vector's own characters, which must outlive it; nil for an empty name.
-NSString *borrowed_name(ZEB_Char_Vector *name)
+NSString *name_without_copy(ZEB_Char_Vector *name)
 {
     if ([name count] == 0)
         return nil;
@@ -47,7 +47,7 @@ ZEB_String *ZC_string_from_selector_name(SEL selector) { return string_of(name_o
 
 Class ZC_class_from_string(ZEB_Char_Vector *name)
 {
-    NSString *const text = borrowed_name(name);
+    NSString *const text = name_without_copy(name);
     const Class found = text != nil ? NSClassFromString(text) : Nil;
     [text release];
     return found;
@@ -55,7 +55,7 @@ Class ZC_class_from_string(ZEB_Char_Vector *name)
 
 SEL ZC_selector_from_string(ZEB_Char_Vector *name)
 {
-    NSString *const text = borrowed_name(name);
+    NSString *const text = name_without_copy(name);
     const SEL found = text != nil ? NSSelectorFromString(text) : NULL;
     [text release];
     return found;

@@ -170,13 +170,13 @@ std::span<uint32_t> indexes_of(ZEB_UInt_Array *indexes) { return {[indexes uint_
 
 - (void)apply_permutation:(ZEB_UInt_Array *)indexes
 {
-    engine::permute(storage_of_vector(self), indexes_of(indexes), engine::Permutation_Way::forward,
+    engine::permute(storage_of_vector(self), indexes_of(indexes), engine::Permutation_Direction::forward,
                     engine::Fix_Report{self, _cmd});
 }
 
 - (void)apply_inverse_permutation:(ZEB_UInt_Array *)indexes
 {
-    engine::permute(storage_of_vector(self), indexes_of(indexes), engine::Permutation_Way::inverse,
+    engine::permute(storage_of_vector(self), indexes_of(indexes), engine::Permutation_Direction::inverse,
                     engine::Fix_Report{self, _cmd});
 }
 

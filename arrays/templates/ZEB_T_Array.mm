@@ -77,9 +77,9 @@ Elements elements_of(ZEB_T_Vector *vector)
 {
     self = [super init_unlinked];
     if (self != nil)
-        capacity = engine::start(storage_of_vector(self), length,
-                                 engine::grown_capacity(0, length, engine::ZEB_T_growth_seed),
-                                 engine::Fix_Report{self, _cmd});
+        capacity = engine::allocate_storage(storage_of_vector(self), length,
+                                            engine::grown_capacity(0, length, engine::ZEB_T_growth_seed),
+                                            engine::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -104,7 +104,7 @@ Elements elements_of(ZEB_T_Vector *vector)
     self = [super init_unlinked];
     if (self != nil) {
         engine::set_foreign_settings(self);
-        capacity = engine::start_as_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n,
+        capacity = engine::allocate_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n,
                                          engine::grown_capacity(0, n, engine::ZEB_T_growth_seed),
                                          engine::Fix_Report{self, _cmd});
     }

@@ -13,7 +13,7 @@
 {
     (void)buffer;
     (void)room;
-    return engine::hand_over_once(*state, data, count);
+    return engine::enumerate_all_at_once(*state, data, count);
 }
 
 @end

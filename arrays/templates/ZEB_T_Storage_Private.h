@@ -24,9 +24,9 @@ inline Vector_Storage<ZEB_T_Kind> storage_of_vector(ZEB_T_Vector *vector)
     return {vector->data, vector->count, vector->link_marker, ZEB_T_Kind{TT_KIND_STATE}};
 }
 
-inline Array_Storage<ZEB_T_Kind> storage_of_array(ZEB_T_Array *vector)
+inline Array_Storage<ZEB_T_Kind> storage_of_array(ZEB_T_Array *array)
 {
-    return {storage_of_vector(vector), vector->capacity, ZEB_T_growth_seed};
+    return {storage_of_vector(array), array->capacity, ZEB_T_growth_seed};
 }
 
 } // namespace zeb::engine

@@ -52,8 +52,8 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil)
-        engine::start(storage_of_vector(self), default_length, default_length,
-                      engine::Fix_Report{self, _cmd});
+        engine::allocate_storage(storage_of_vector(self), default_length, default_length,
+                                 engine::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -66,7 +66,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil)
-        engine::start(storage_of_vector(self), 0, capacity, engine::Fix_Report{self, _cmd});
+        engine::allocate_storage(storage_of_vector(self), 0, capacity, engine::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -74,7 +74,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 {
     self = [super init];
     if (self != nil)
-        engine::start(storage_of_vector(self), length, length, engine::Fix_Report{self, _cmd});
+        engine::allocate_storage(storage_of_vector(self), length, length, engine::Fix_Report{self, _cmd});
     return self;
 }
 
@@ -104,7 +104,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
     self = [super init];
     if (self != nil) {
         engine::set_foreign_settings(self);
-        engine::start_as_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n, n,
+        engine::allocate_copy(storage_of_vector(self), engine::Source::of_the_caller, elements, n, n,
                               engine::Fix_Report{self, _cmd});
     }
     return self;
@@ -115,7 +115,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
     self = [super init];
     if (self != nil && other != nil) {
         engine::take_settings(self, other);
-        engine::start_as_copy(storage_of_vector(self), engine::Source::of_another_array, other->data,
+        engine::allocate_copy(storage_of_vector(self), engine::Source::of_another_array, other->data,
                               other->count, other->count, engine::Fix_Report{self, _cmd});
     }
     return self;
@@ -123,7 +123,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 - (void)dealloc
 {
-    engine::finish(storage_of_vector(self));
+    engine::release_storage(storage_of_vector(self));
     [super dealloc];
 }
 

@@ -51,12 +51,12 @@ bool is_at_or_before(const Date_Time &a, const Date_Time &b) noexcept;
 /// Returns a hash that agrees with equality, for hash tables in memory.
 inline std::uint64_t hash_of(const ZEB_Time_Value &time) noexcept
 {
-    return stir(stir(0, time.second), time.nanosecond);
+    return mix(mix(0, time.second), time.nanosecond);
 }
 
 inline std::uint64_t hash_of(const Date_Time &value) noexcept
 {
-    return stir(hash_of(value.time), static_cast<std::uint32_t>(value.julian_day));
+    return mix(hash_of(value.time), static_cast<std::uint32_t>(value.julian_day));
 }
 
 } // namespace zeb::engine

@@ -13,7 +13,7 @@ namespace
 constexpr std::uint64_t seconds_per_whole_day = 86400;
 
 /// Returns the date as struct tm, with normalised fields; with the fields unchanged if the year does not fit.
-std::tm platform_fields(const Date_Time &value) noexcept
+std::tm tm_of(const Date_Time &value) noexcept
 {
     const std::uint64_t second = value.time.second % seconds_per_whole_day;
     const std::int64_t day = day_from_civil_date(value.date) +
@@ -33,7 +33,7 @@ std::tm platform_fields(const Date_Time &value) noexcept
 }
 
 /// Sets the zone fields to the local zone at that local time; the hour does not change.
-void complete_zone(std::tm &fields) noexcept
+void set_zone_fields(std::tm &fields) noexcept
 {
     std::tm local = fields;
     local.tm_isdst = -1; // determined by mktime
@@ -75,8 +75,8 @@ Date_Time current_local_date_time() noexcept
 std::size_t format_with_strftime(char (&text)[strftime_limit], const char *format,
                                  const Date_Time &value) noexcept
 {
-    std::tm fields = platform_fields(value);
-    complete_zone(fields);
+    std::tm fields = tm_of(value);
+    set_zone_fields(fields);
     return std::strftime(text, sizeof text, format, &fields);
 }
 

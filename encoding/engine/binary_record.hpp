@@ -32,8 +32,8 @@ bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elemen
         return false;
     }
     const std::uint64_t length = std::uint64_t{buffer.count} + record_count_size + size;
-    const Own_Values<char> source({}, {static_cast<const char *>(elements), size}, buffer.data,
-                                  buffer.capacity);
+    const Unaliased_Values<char> source({}, {static_cast<const char *>(elements), size}, buffer.data,
+                                        buffer.capacity);
     if (!source.is_valid()) {
         report(notes::reallocate_failed);
         return false;
@@ -131,16 +131,16 @@ bool may_decode(Array_Storage<Kind> array, std::uint32_t size, Report report) no
 
 /// Returns the note for an array that cannot grow.
 template <class Kind>
-Char_Span failure_of_room(Array_Storage<Kind> array) noexcept
+Char_Span growth_failure_note(Array_Storage<Kind> array) noexcept
 {
     return array.data == nullptr ? notes::allocate_failed : notes::reallocate_failed;
 }
 
 /// Grows an array for the elements of a record. Reports and returns false if allocation fails.
 template <class Kind, class Report>
-bool make_record_room(Array_Storage<Kind> array, std::uint32_t count, Report report) noexcept
+bool grow_for_record(Array_Storage<Kind> array, std::uint32_t count, Report report) noexcept
 {
-    const Char_Span failure = failure_of_room(array);
+    const Char_Span failure = growth_failure_note(array);
     return (count == 0 || grow(array, count, report, failure)) &&
            (count <= array.count || open_up_to(array, count, report, failure));
 }
@@ -155,7 +155,7 @@ std::uint32_t decode_plain(Array_Storage<Plain_Elements<Element>> array, Record_
     if (!may_decode(array, size, report))
         return 0;
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
-    if (!make_record_room(array, count, report))
+    if (!grow_for_record(array, count, report))
         return 0;
     array.count = count;
     copy_elements(array.data, source.bytes + record_count_size, array.count, source.needs_swap);
@@ -164,8 +164,8 @@ std::uint32_t decode_plain(Array_Storage<Plain_Elements<Element>> array, Record_
 
 /// Grows each object for its own record. Reports and returns false if allocation fails.
 template <class Policy, class Storage_Of, class Report>
-bool make_nested_room(Array_Storage<Held_Objects<Policy>> array, Record_Source source, Storage_Of storage_of,
-                      Report report) noexcept
+bool grow_for_nested_records(Array_Storage<Held_Objects<Policy>> array, Record_Source source,
+                             Storage_Of storage_of, Report report) noexcept
 {
     std::uint32_t consumed = record_count_size;
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
@@ -174,7 +174,7 @@ bool make_nested_room(Array_Storage<Held_Objects<Policy>> array, Record_Source s
         const Record_Source nested = behind(source, consumed);
         const std::uint32_t size = record_size(nested, sizeof(*object.data));
         if (!may_decode(object, size, report) ||
-            !make_record_room(object, read_count(nested.bytes, nested.needs_swap), report))
+            !grow_for_record(object, read_count(nested.bytes, nested.needs_swap), report))
             return false;
         consumed += size;
     }
@@ -192,7 +192,7 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
         return 0;
     for (std::uint32_t i = 0; i < array.kind.made(); ++i) {
         const auto object = storage_of(array.data[i]);
-        const Own_Values<char> aside({}, {source.bytes, size}, object.data, object.block_size());
+        const Unaliased_Values<char> aside({}, {source.bytes, size}, object.data, object.block_size());
         if (!aside.is_valid()) {
             report(notes::allocate_failed);
             return 0;
@@ -201,7 +201,7 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
             return decode_held(array, {aside.elements().data(), size, source.needs_swap}, storage_of, report);
     }
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
-    if (!make_record_room(array, count, report) || !make_nested_room(array, source, storage_of, report))
+    if (!grow_for_record(array, count, report) || !grow_for_nested_records(array, source, storage_of, report))
         return 0;
     array.count = count;
     std::uint32_t consumed = record_count_size;
@@ -219,7 +219,7 @@ std::uint32_t decode_references(Array_Storage<Counted_References<Policy>> array,
     if (!may_decode(array, record_size(source, 0), report))
         return 0;
     if (read_count(source.bytes, source.needs_swap) == 0)
-        resize_within_room(array, 0, report, failure_of_room(array));
+        resize_within_room(array, 0, report, growth_failure_note(array));
     else
         report_references();
     return record_count_size;

@@ -45,7 +45,7 @@ std::int32_t run_zlib(Byte_Run source, Array_Storage<Plain_Elements<Element>> ar
         report(notes::append_array_through_link);
         return -1;
     }
-    const Own_Values<char> bytes({}, {source.bytes, source.length}, array.data, array.capacity);
+    const Unaliased_Values<char> bytes({}, {source.bytes, source.length}, array.data, array.capacity);
     if (!bytes.is_valid()) {
         report(notes::reallocate_failed);
         return zlib_out_of_memory;

@@ -20,7 +20,7 @@ static_assert(zlib_out_of_memory == Z_MEM_ERROR);
 
 void report_line(const char *line) noexcept { std::fputs(line, stderr); }
 
-void give_input(z_stream &stream, const char *bytes, std::uint32_t length) noexcept
+void set_input(z_stream &stream, const char *bytes, std::uint32_t length) noexcept
 {
     // zlib only reads its input; its interface predates const.
     stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(bytes));
@@ -79,13 +79,13 @@ std::int32_t inflate_pass(z_stream &stream, Zlib_Output output, std::uint64_t ou
 std::int32_t inflate_to_end(z_stream &stream, const char *bytes, std::uint32_t length,
                             Zlib_Output output) noexcept
 {
-    give_input(stream, bytes, length);
+    set_input(stream, bytes, length);
     std::int32_t verdict = inflate_pass(stream, output, UINT64_MAX);
     const std::uint64_t output_limit = stream.total_out + greatest_refed_output;
     std::uint64_t refed_input = 0;
     for (std::uint32_t pass = 1;
          verdict == no_verdict && pass < greatest_pass_count && refed_input < greatest_refed_input; ++pass) {
-        give_input(stream, bytes, length);
+        set_input(stream, bytes, length);
         refed_input += length;
         verdict = inflate_pass(stream, output, output_limit);
     }
@@ -102,7 +102,7 @@ std::int32_t compress(const char *bytes, std::uint32_t length, Zlib_Output outpu
     const int started = deflateInit(&stream, Z_DEFAULT_COMPRESSION);
     if (started != Z_OK)
         return started;
-    give_input(stream, bytes, length);
+    set_input(stream, bytes, length);
     const int status = deflate_to_end(stream, output);
     const std::uint32_t left = stream.avail_in;
     deflateEnd(&stream);

@@ -11,7 +11,7 @@ namespace
 {
 
 // Some platforms transfer less than 2 GiB per call.
-constexpr std::size_t greatest_piece = std::size_t{1} << 30;
+constexpr std::size_t max_transfer = std::size_t{1} << 30;
 
 constexpr mode_t mode_of_new_files = 0666;
 
@@ -33,7 +33,7 @@ int move_all(std::size_t size, std::size_t &count, Move move) noexcept
     count = 0;
     while (count < size) {
         const ssize_t moved =
-            uninterrupted([&] { return move(count, std::min(size - count, greatest_piece)); });
+            uninterrupted([&] { return move(count, std::min(size - count, max_transfer)); });
         if (moved < 0)
             return errno;
         if (moved == 0)

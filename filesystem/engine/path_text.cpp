@@ -10,7 +10,7 @@ std::uint32_t visible_path_length(const char *path, std::uint32_t length) noexce
     return length != 0 && path[length - 1] == '\0' ? length - 1 : length;
 }
 
-bool is_whole_path(const char *path, std::uint32_t length) noexcept
+bool has_no_inner_null(const char *path, std::uint32_t length) noexcept
 {
     const std::uint32_t visible = visible_path_length(path, length);
     return visible == 0 || std::memchr(path, '\0', visible) == nullptr;

@@ -10,6 +10,6 @@ namespace zeb::engine
 std::uint32_t visible_path_length(const char *path, std::uint32_t length) noexcept;
 
 /// Whether the visible text holds no null, which would truncate the path in a platform call.
-bool is_whole_path(const char *path, std::uint32_t length) noexcept;
+bool has_no_inner_null(const char *path, std::uint32_t length) noexcept;
 
 } // namespace zeb::engine

@@ -12,7 +12,7 @@ namespace zeb::engine
 namespace
 {
 
-constexpr std::uint32_t most_decimals = 13;
+constexpr std::uint32_t max_decimals = 13;
 
 /// Indexed by the number of decimals.
 constexpr std::uint64_t integer_powers[] = {1,
@@ -44,7 +44,7 @@ constexpr Fixed_Style fraction_style{false, false, false};
 
 /// Writes what has no fixed-point text; x is not 0.
 template <int significant_digits>
-char *put_unfit(char *out, double x) noexcept
+char *put_without_fixed_form(char *out, double x) noexcept
 {
     if (std::isinf(x) || std::isnan(x)) {
         std::memcpy(out, std::isnan(x) ? "NaN" : "Inf", 3);
@@ -65,11 +65,11 @@ char *put_scaled(char *out, std::uint64_t scaled, std::uint32_t decimals, Fixed_
 template <int significant_digits>
 char *write_fixed_in_style(char *buffer, std::uint32_t decimals, double x, Fixed_Style style) noexcept
 {
-    decimals = std::min(decimals, most_decimals);
+    decimals = std::min(decimals, max_decimals);
     char *out = buffer;
     const double rounded = std::fabs(x) * static_cast<double>(integer_powers[decimals]) + 0.5;
     if (!(rounded < 0x1p63)) {
-        out = put_unfit<significant_digits>(out, style.with_sign ? x : std::fabs(x));
+        out = put_without_fixed_form<significant_digits>(out, style.with_sign ? x : std::fabs(x));
     } else {
         const std::uint64_t scaled = static_cast<std::uint64_t>(rounded);
         if (scaled != 0 || style.with_zero_value) {

@@ -66,7 +66,7 @@ std::uint32_t scan_natural(const char *chars, std::uint32_t length, int base, Un
 
 /// Whether the text starts with digits or a point after an optional '-', and not with white space, '+', a
 /// word or a hexadecimal number.
-bool starts_plainly(const char *chars, std::uint32_t size) noexcept
+bool is_plain_decimal(const char *chars, std::uint32_t size) noexcept
 {
     const std::uint32_t first = size > 0 && chars[0] == '-';
     if (first >= size || !(is_ascii_digit(chars[first]) || chars[first] == '.'))
@@ -75,10 +75,10 @@ bool starts_plainly(const char *chars, std::uint32_t size) noexcept
 }
 
 template <class Real>
-std::uint32_t scan_plain(const char *chars, std::uint32_t length, Real &result) noexcept
+std::uint32_t scan_fast(const char *chars, std::uint32_t length, Real &result) noexcept
 {
     const std::uint32_t size = std::min(length, longest_number);
-    if (!starts_plainly(chars, size))
+    if (!is_plain_decimal(chars, size))
         return 0;
     Real value;
     const auto answer = fast_float::from_chars(chars, chars + size, value);
@@ -91,7 +91,7 @@ std::uint32_t scan_plain(const char *chars, std::uint32_t length, Real &result) 
 #else
 
 template <class Real>
-std::uint32_t scan_plain(const char *, std::uint32_t, Real &) noexcept
+std::uint32_t scan_fast(const char *, std::uint32_t, Real &) noexcept
 {
     return 0;
 }
@@ -102,7 +102,7 @@ std::uint32_t scan_plain(const char *, std::uint32_t, Real &) noexcept
 
 std::uint32_t scan_double(const char *chars, std::uint32_t length, double &result) noexcept
 {
-    if (const std::uint32_t consumed = scan_plain(chars, length, result))
+    if (const std::uint32_t consumed = scan_fast(chars, length, result))
         return consumed;
     return scan_with_c_library(chars, length, result,
                                [](const char *text, char **end) { return strtod_l(text, end, c_locale()); });
@@ -110,7 +110,7 @@ std::uint32_t scan_double(const char *chars, std::uint32_t length, double &resul
 
 std::uint32_t scan_float(const char *chars, std::uint32_t length, float &result) noexcept
 {
-    if (const std::uint32_t consumed = scan_plain(chars, length, result))
+    if (const std::uint32_t consumed = scan_fast(chars, length, result))
         return consumed;
     return scan_with_c_library(chars, length, result,
                                [](const char *text, char **end) { return strtof_l(text, end, c_locale()); });

@@ -9,8 +9,8 @@ namespace zeb::engine
 
 std::uint32_t put_padded_fixed(char *out, std::uint32_t size, std::uint32_t decimals, double x) noexcept
 {
-    constexpr std::uint32_t most_decimals = 64; // more never fit, and up to here the count is a valid int
-    if (decimals > most_decimals)
+    constexpr std::uint32_t max_decimals = 64; // more never fit, and up to here the count is a valid int
+    if (decimals > max_decimals)
         return 0;
     const C_Locale_Scope in_c_locale;
     const int printed = std::snprintf(out, size, "%-20.*f", static_cast<int>(decimals), x);

@@ -23,7 +23,7 @@ struct Power_Form {
 bool is_eulers_number(double base) noexcept { return std::fabs(base - eulers_number) < 1e-12; }
 
 /// Splits a magnitude into mantissa and exponent. Returns false if the base or a step is not finite.
-bool take_apart(const Scientific_Rules &rules, double magnitude, Power_Form &form) noexcept
+bool split(const Scientific_Rules &rules, double magnitude, Power_Form &form) noexcept
 {
     if (rules.base == 0 || !std::isfinite(rules.base))
         return false;
@@ -88,10 +88,10 @@ struct Scientific_Text {
     char *end = nullptr;
 };
 
-bool put_together(Scientific_Text &result, const Scientific_Rules &rules, double x) noexcept
+bool assemble(Scientific_Text &result, const Scientific_Rules &rules, double x) noexcept
 {
     Power_Form form;
-    if (!take_apart(rules, std::fabs(x), form))
+    if (!split(rules, std::fabs(x), form))
         return false;
     char *const base = put_mantissa(result.text, rules.precision, form.mantissa, x < 0);
     result.exponent = base ? put_base(base, rules.base) : nullptr;
@@ -123,7 +123,7 @@ char *write_scientific(char *buffer, const Scientific_Rules &rules, double x, st
         return finish(buffer, std::isnan(x) ? "NaN" : "Inf", 3);
 
     Scientific_Text made;
-    if (!put_together(made, rules, x))
+    if (!assemble(made, rules, x))
         return finish(buffer, "Err", 3);
     exponent_range = {static_cast<std::uint32_t>(made.exponent - made.text),
                       static_cast<std::uint32_t>(made.end - made.text) - 1};

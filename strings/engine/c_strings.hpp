@@ -40,7 +40,7 @@ template <class Element, class Report>
 void end_with_characters(Text_Storage<Element> string, std::uint32_t at, const char *bytes,
                          std::uint32_t length, Report report) noexcept
 {
-    const Own_Values<char> source({}, {bytes, length}, string.data, string.capacity * sizeof(Element));
+    const Unaliased_Values<char> source({}, {bytes, length}, string.data, string.capacity * sizeof(Element));
     if (!source.is_valid())
         return report(notes::reallocate_failed);
     if (!grow_text(string, std::uint64_t{at} + length, report))

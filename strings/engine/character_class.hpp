@@ -31,16 +31,16 @@ public:
     }
 
     /// Whether the 26 letters fold among themselves as in ASCII.
-    bool folds_ascii_letters_plainly() const noexcept
+    bool folds_like_ascii() const noexcept
     {
-        return are_upper('A') && become_a_to_z('A') && become_a_to_z('a');
+        return are_upper('A') && lower_to_a_to_z('A') && lower_to_a_to_z('a');
     }
 
 private:
 #if defined(__GLIBC__)
     // Reads the tables behind the library's functions, because comparisons need them for every character.
     bool is_upper(int code) const noexcept { return (classes[code] & _ISupper) != 0; }
-    int to_lower(int code) const noexcept { return small_letters[code]; }
+    int to_lower(int code) const noexcept { return lower_table[code]; }
     bool are_upper(int first) const noexcept
     {
         std::uint64_t common = ~std::uint64_t{0};
@@ -52,16 +52,16 @@ private:
         constexpr std::uint64_t wanted = std::uint64_t{_ISupper} * 0x0001000100010001;
         return (common & wanted) == wanted;
     }
-    bool become_a_to_z(int first) const noexcept
+    bool lower_to_a_to_z(int first) const noexcept
     {
         static constexpr __int32_t letters[] = {'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h', 'i',
                                                 'j', 'k', 'l', 'm', 'n', 'o', 'p', 'q', 'r',
                                                 's', 't', 'u', 'v', 'w', 'x', 'y', 'z'};
-        return std::memcmp(small_letters + first, letters, sizeof letters) == 0;
+        return std::memcmp(lower_table + first, letters, sizeof letters) == 0;
     }
 
     const unsigned short *classes = *__ctype_b_loc();
-    const __int32_t *small_letters = *__ctype_tolower_loc();
+    const __int32_t *lower_table = *__ctype_tolower_loc();
 #else
     bool is_upper(int code) const noexcept { return std::isupper(code) != 0; }
     int to_lower(int code) const noexcept { return std::tolower(code); }
@@ -74,7 +74,7 @@ private:
                 return false;
         return true;
     }
-    bool become_a_to_z(int first) const noexcept
+    bool lower_to_a_to_z(int first) const noexcept
     {
         for (int i = 0; i < 26; ++i)
             if (to_lower(first + i) != 'a' + i)

@@ -28,7 +28,7 @@ constexpr Character_Set set_of(Char_Span characters)
 }
 
 constexpr Character_Set number_characters = set_of(span_of("+-.0123456789EFGefg"));
-constexpr Character_Set small_number_characters = set_of(span_of("+-.0123456789efg"));
+constexpr Character_Set lower_number_characters = set_of(span_of("+-.0123456789efg"));
 
 bool is_in(const Character_Set &set, char character) { return set[static_cast<unsigned char>(character)]; }
 
@@ -107,7 +107,7 @@ std::uint32_t index_of_number_end(Text text) noexcept
 
 std::uint32_t index_of_last_non_number(Text text) noexcept
 {
-    return last_index_in(small_number_characters, false, text);
+    return last_index_in(lower_number_characters, false, text);
 }
 
 } // namespace zeb::engine

@@ -14,7 +14,7 @@ namespace
 using Text = std::span<const char>;
 
 /// From this many bytes on, vectors are worth testing the locale for.
-constexpr std::size_t shortest_for_vectors = 32;
+constexpr std::size_t min_vector_length = 32;
 
 const std::uint8_t *bytes_of(Text text) { return reinterpret_cast<const std::uint8_t *>(text.data()); }
 
@@ -22,7 +22,7 @@ const std::uint8_t *bytes_of(Text text) { return reinterpret_cast<const std::uin
 std::size_t first_folded_difference(Text left, Text right, const Case_Folding &fold)
 {
     const std::size_t count = std::min(left.size(), right.size());
-    const bool by_vectors = count >= shortest_for_vectors && fold.folds_ascii_letters_plainly();
+    const bool by_vectors = count >= min_vector_length && fold.folds_like_ascii();
     for (std::size_t index = 0; index < count; ++index) {
         if (by_vectors)
             index += kernels::first_difference_ignoring_ascii_case(bytes_of(left) + index,

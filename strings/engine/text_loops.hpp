@@ -9,7 +9,7 @@
 namespace zeb::engine::plain
 {
 
-inline std::uint8_t small_ascii_letter(std::uint8_t byte) noexcept
+inline std::uint8_t ascii_lower_byte(std::uint8_t byte) noexcept
 {
     return byte >= 'A' && byte <= 'Z' ? static_cast<std::uint8_t>(byte | 0x20) : byte;
 }
@@ -17,7 +17,7 @@ inline std::uint8_t small_ascii_letter(std::uint8_t byte) noexcept
 inline std::size_t first_difference_ignoring_ascii_case(const std::uint8_t *left, const std::uint8_t *right,
                                                         std::size_t count, std::size_t from = 0) noexcept
 {
-    while (from < count && small_ascii_letter(left[from]) == small_ascii_letter(right[from]))
+    while (from < count && ascii_lower_byte(left[from]) == ascii_lower_byte(right[from]))
         ++from;
     return from;
 }

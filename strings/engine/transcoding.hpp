@@ -80,7 +80,7 @@ template <class Decode, class Report>
 bool write_decoded(Wide_Char_Storage string, std::span<const char> utf8, std::uint64_t length, Decode decode,
                    Report report) noexcept
 {
-    const Own_Values<char> source({}, utf8, string.data, string.capacity * sizeof(std::uint32_t));
+    const Unaliased_Values<char> source({}, utf8, string.data, string.capacity * sizeof(std::uint32_t));
     const auto write = [&](std::uint32_t *units) { return decode(source.elements(), units); };
     return source.is_valid() && write_contents(string, length, write, report);
 }

@@ -16,7 +16,7 @@ constexpr std::uint32_t first_past_16_bits = 0x10000;
 constexpr bool is_high_surrogate(std::uint32_t unit) { return unit >> 10 == 0xD800 >> 10; }
 constexpr bool is_low_surrogate(std::uint32_t unit) { return unit >> 10 == 0xDC00 >> 10; }
 constexpr bool is_surrogate(std::uint32_t unit) { return unit >> 11 == 0xD800 >> 11; }
-constexpr bool takes_a_pair(std::uint32_t unit)
+constexpr bool needs_surrogate_pair(std::uint32_t unit)
 {
     return unit >= first_past_16_bits && unit <= last_code_point;
 }
@@ -38,7 +38,7 @@ struct Decoded {
     unsigned length;
 };
 
-constexpr Decoded undecodable{0, 0};
+constexpr Decoded ill_formed{0, 0};
 
 constexpr bool is_continuation(std::uint8_t byte) { return (byte & 0xC0) == 0x80; }
 
@@ -47,21 +47,21 @@ inline Decoded decode(const std::uint8_t *at, std::size_t left)
 {
     const std::uint32_t lead = at[0];
     if (left < 2 || !is_continuation(at[1]))
-        return undecodable;
+        return ill_formed;
     std::uint32_t code = at[1] & 0x3F;
     if (lead < 0xE0)
-        return lead < 0xC2 ? undecodable : Decoded{(lead & 0x1F) << 6 | code, 2};
+        return lead < 0xC2 ? ill_formed : Decoded{(lead & 0x1F) << 6 | code, 2};
     if (left < 3 || !is_continuation(at[2]))
-        return undecodable;
+        return ill_formed;
     code = code << 6 | (at[2] & 0x3F);
     if (lead < 0xF0) {
         code |= (lead & 0x0F) << 12;
-        return code < 0x800 || is_surrogate(code) ? undecodable : Decoded{code, 3};
+        return code < 0x800 || is_surrogate(code) ? ill_formed : Decoded{code, 3};
     }
     if (left < 4 || !is_continuation(at[3]))
-        return undecodable;
+        return ill_formed;
     code = (lead & 0x07) << 18 | code << 6 | (at[3] & 0x3F);
-    return lead > 0xF4 || !takes_a_pair(code) ? undecodable : Decoded{code, 4};
+    return lead > 0xF4 || !needs_surrogate_pair(code) ? ill_formed : Decoded{code, 4};
 }
 
 constexpr std::size_t word = sizeof(std::uint64_t);
@@ -172,7 +172,7 @@ using Taken = Decoded;
 struct Take_Code_Point {
     Taken operator()(const std::uint32_t *at, std::size_t) const
     {
-        return *at > last_code_point || is_surrogate(*at) ? undecodable : Taken{*at, 1};
+        return *at > last_code_point || is_surrogate(*at) ? ill_formed : Taken{*at, 1};
     }
 };
 
@@ -183,7 +183,7 @@ struct Take_Utf16 {
         if (!is_surrogate(unit))
             return {unit, 1};
         const bool paired = is_high_surrogate(unit) && left > 1 && is_low_surrogate(at[1] & 0xFFFF);
-        return paired ? Taken{joined(unit, at[1]), 2} : undecodable;
+        return paired ? Taken{joined(unit, at[1]), 2} : ill_formed;
     }
 };
 
@@ -305,7 +305,7 @@ std::size_t join_surrogate_pairs(std::span<std::uint32_t> units) noexcept
 
 std::size_t count_of_pairs(std::span<const std::uint32_t> code_points) noexcept
 {
-    const auto counted = std::count_if(code_points.begin(), code_points.end(), takes_a_pair);
+    const auto counted = std::count_if(code_points.begin(), code_points.end(), needs_surrogate_pair);
     return static_cast<std::size_t>(counted);
 }
 
@@ -314,7 +314,7 @@ void split_to_surrogate_pairs(std::uint32_t *units, std::size_t count, std::size
     // From the end, so that no code point is overwritten before it is read.
     for (std::size_t at = count; pairs != 0; --at) {
         const std::uint32_t unit = units[at - 1];
-        if (takes_a_pair(unit))
+        if (needs_surrogate_pair(unit))
             put_pair(unit, units + at - 1 + --pairs);
         else
             units[at - 1 + pairs] = unit;

@@ -380,8 +380,8 @@ TYPED_TEST(Kernels, say_when_there_is_no_memory_to_rearrange_in)
     const std::vector<uint32_t> permutation{5, 4, 3, 2, 1, 0};
     std::vector<E> ours = elements;
     support::memory.is_out = true;
-    EXPECT_FALSE(engine::rearrange<E>(ours, permutation, engine::Permutation_Way::forward) ||
-                 engine::rearrange<E>(ours, permutation, engine::Permutation_Way::inverse) ||
+    EXPECT_FALSE(engine::rearrange<E>(ours, permutation, engine::Permutation_Direction::forward) ||
+                 engine::rearrange<E>(ours, permutation, engine::Permutation_Direction::inverse) ||
                  engine::transpose<E>(ours, 2, 3));
     support::memory.is_out = false;
     EXPECT_TRUE(same_bits(ours, elements));

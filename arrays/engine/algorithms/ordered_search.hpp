@@ -15,10 +15,10 @@ namespace zeb::engine
 /// The end of a binary search.
 struct Ordered_Probe {
     std::uint32_t index;   ///< the element compared last
-    ZEB_Comparison answer; ///< its comparison; ordered_probe_none if there was no element
+    ZEB_Comparison answer; ///< its comparison; no_comparison if there was no element
 };
 
-inline constexpr ZEB_Comparison ordered_probe_none = UINT32_MAX;
+inline constexpr ZEB_Comparison no_comparison = UINT32_MAX;
 
 /// The result of an ordered search.
 struct Ordered_Find {
@@ -132,7 +132,7 @@ Ordered_Probe ordered_probe(std::span<const Element> elements, const std::type_i
                             Compare compare) noexcept
 {
     if (elements.empty())
-        return {0, ordered_probe_none};
+        return {0, no_comparison};
     const std::uint32_t count = static_cast<std::uint32_t>(elements.size());
     if constexpr (has_order_kernel<Element, Own_Less> && std::is_same_v<Compare, Three_Way<>>)
         if (elements.size_bytes() <= ordered_detail::cached_bytes)

@@ -13,10 +13,10 @@ namespace zeb::engine
 
 /// The direction of a permutation: element i becomes the former element `permutation[i]` (forward), or
 /// element `permutation[i]` the former element i (inverse).
-enum class Permutation_Way : std::uint8_t { forward, inverse };
+enum class Permutation_Direction : std::uint8_t { forward, inverse };
 
 /// Whether every entry of the permutation is an index below `count`.
-inline bool names_elements(std::span<const std::uint32_t> permutation, std::size_t count) noexcept
+inline bool are_valid_indexes(std::span<const std::uint32_t> permutation, std::size_t count) noexcept
 {
     std::uint32_t largest = 0;
     for (const std::uint32_t entry : permutation)
@@ -29,7 +29,7 @@ inline bool names_elements(std::span<const std::uint32_t> permutation, std::size
 /// Returns false, with nothing changed, if allocation fails.
 template <class Element>
 bool rearrange(std::span<Element> elements, std::span<const std::uint32_t> permutation,
-               Permutation_Way way) noexcept
+               Permutation_Direction way) noexcept
 {
     const std::size_t used = permutation.size();
     const Scratch<Element> copy(used);
@@ -38,7 +38,7 @@ bool rearrange(std::span<Element> elements, std::span<const std::uint32_t> permu
     std::copy_n(elements.data(), used, copy.get());
     // An entry above the rearranged elements refers to one that keeps its value, so it is read in place.
     for (std::size_t i = 0; i < used; ++i)
-        if (const std::uint32_t entry = permutation[i]; way == Permutation_Way::inverse)
+        if (const std::uint32_t entry = permutation[i]; way == Permutation_Direction::inverse)
             elements[entry] = copy.get()[i];
         else
             elements[i] = entry < used ? copy.get()[entry] : elements[entry];

@@ -67,7 +67,7 @@ struct By_Comparison {
 
 /// Whether the indexes overlap the elements, so that no exchange could be made in both.
 template <class Element>
-bool lie_among(std::span<std::uint32_t> indexes, std::span<Element> elements) noexcept
+bool overlap_elements(std::span<std::uint32_t> indexes, std::span<Element> elements) noexcept
 {
     return overlaps<std::uint32_t>(indexes, elements.data(), elements.size_bytes());
 }
@@ -104,7 +104,7 @@ bool sort_with_permutation(std::span<Element> elements, std::span<std::uint32_t>
 {
     if (indexes.size() < elements.size())
         return false;
-    if (sort_detail::lie_among(indexes, elements)) {
+    if (sort_detail::overlap_elements(indexes, elements)) {
         sort(elements, less);
     } else if constexpr (has_order_kernel<Element, Less>) {
         if (sort_detail::sorts(elements.size()))
@@ -122,7 +122,7 @@ bool sort_with_permutation_by(std::span<Element> elements, std::span<std::uint32
 {
     if (indexes.size() < elements.size())
         return false;
-    if (sort_detail::lie_among(indexes, elements))
+    if (sort_detail::overlap_elements(indexes, elements))
         sort_by(elements, compare);
     else
         sort_detail::sort_by_swaps(elements, indexes.data(), sort_detail::By_Comparison<Compare>{compare});

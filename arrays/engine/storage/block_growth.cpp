@@ -34,12 +34,12 @@ std::uint64_t grown_capacity(std::uint32_t capacity, std::uint64_t needed, std::
     while (grown <= needed)
         grown *= 2;
     // The last doubling may exceed 32 bits; the greatest capacity then suffices.
-    return needed < greatest_capacity ? std::min(grown, greatest_capacity) : grown;
+    return needed < max_capacity ? std::min(grown, max_capacity) : grown;
 }
 
 bool resize_block(Block &block, std::uint64_t capacity, Block_Layout layout) noexcept
 {
-    if (capacity > greatest_capacity || capacity > SIZE_MAX / layout.element_size)
+    if (capacity > max_capacity || capacity > SIZE_MAX / layout.element_size)
         return false;
     const std::size_t size = static_cast<std::size_t>(capacity) * layout.element_size;
     void *const data = reallocate(block.data, size);
@@ -57,7 +57,7 @@ bool grow_block(Block &block, std::uint64_t needed, std::uint32_t seed, Block_La
     if (block.capacity > needed)
         return true;
     // The sum of two counts can exceed 32 bits.
-    if (needed >= greatest_capacity)
+    if (needed >= max_capacity)
         return false;
     return resize_block(block, grown_capacity(block.capacity, needed, seed), layout);
 }

@@ -21,7 +21,7 @@ struct Block_Layout {
 };
 
 /// The greatest capacity of a block. After growth an array holds at least one element less.
-inline constexpr std::uint64_t greatest_capacity = UINT32_MAX;
+inline constexpr std::uint64_t max_capacity = UINT32_MAX;
 
 /// Returns the smallest seed × 2^k that is at least `count`. Seed 0 counts as 1.
 std::uint64_t proper_capacity(std::uint32_t count, std::uint32_t seed) noexcept;
@@ -29,11 +29,11 @@ std::uint64_t proper_capacity(std::uint32_t count, std::uint32_t seed) noexcept;
 /// Returns a capacity as a 32-bit field stores it, at most the greatest.
 constexpr std::uint32_t capacity_in_32_bits(std::uint64_t capacity) noexcept
 {
-    return static_cast<std::uint32_t>(capacity < greatest_capacity ? capacity : greatest_capacity);
+    return static_cast<std::uint32_t>(capacity < max_capacity ? capacity : max_capacity);
 }
 
 /// Returns the capacity after growth: unchanged if it exceeds `needed`; else raised to the seed and doubled
-/// until it does, at most `greatest_capacity` if that exceeds `needed`. Otherwise the result does not fit in
+/// until it does, at most `max_capacity` if that exceeds `needed`. Otherwise the result does not fit in
 /// 32 bits, and such a block cannot be allocated.
 std::uint64_t grown_capacity(std::uint32_t capacity, std::uint64_t needed, std::uint32_t seed) noexcept;
 

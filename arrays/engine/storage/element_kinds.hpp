@@ -214,9 +214,9 @@ struct Held_Objects {
     bool open(Element *data, std::uint32_t, std::uint32_t to) const noexcept
     {
         // This many objects need far less than the reserve.
-        constexpr std::uint32_t objects_between_looks = 64;
+        constexpr std::uint32_t objects_per_reserve_check = 64;
         for (const std::uint32_t first = held; held < to; ++held) {
-            if ((held - first) % objects_between_looks == 0 && !has_reserve())
+            if ((held - first) % objects_per_reserve_check == 0 && !has_reserve())
                 return false;
             const Element made = Policy::make();
             if (made == Element{})

@@ -10,7 +10,7 @@ namespace zeb::engine
 /// Sets an enumeration's state to all elements on the first call and to none on the second, and returns their
 /// number. A moved block counts as a mutation.
 template <class State, class Element>
-std::size_t hand_over_once(State &state, Element *&data, std::uint32_t count) noexcept
+std::size_t enumerate_all_at_once(State &state, Element *&data, std::uint32_t count) noexcept
 {
     if (state.state != 0)
         return 0;

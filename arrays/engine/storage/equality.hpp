@@ -25,9 +25,9 @@ template <class Kind>
 std::uint64_t hash_as_vector(std::span<const typename Kind::Element> elements) noexcept
 {
     if constexpr (Kind::holds_objects) {
-        std::uint64_t hash = stir(0, elements.size());
+        std::uint64_t hash = mix(0, elements.size());
         for (const typename Kind::Element element : elements)
-            hash = stir(hash, Kind::hash(element));
+            hash = mix(hash, Kind::hash(element));
         return hash;
     } else {
         return hash_bytes(elements.data(), elements.size_bytes());

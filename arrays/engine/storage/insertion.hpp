@@ -45,7 +45,7 @@ template <class Kind, class Report>
                                               Elements_Of<Kind> elements, std::uint64_t needed,
                                               Report report) noexcept
 {
-    const Copied_Run<Kind> copy(array.kind, elements.span());
+    const Element_Copy<Kind> copy(array.kind, elements.span());
     if (!copy.is_valid()) {
         report(notes::reallocate_failed);
         return false;
@@ -141,7 +141,7 @@ void replace_element(Array_Storage<Kind> array, std::uint32_t at, Elements_Of<Ki
     // Insert after the old element first: it may be among the new ones.
     const std::uint64_t needed = std::uint64_t{array.count} + elements.count - 1;
     if (elements.count == 0 || insert_with_room(array, at + 1, elements, needed, report))
-        take_out(Vector_Storage<Kind>(array), at, 1);
+        remove_elements(Vector_Storage<Kind>(array), at, 1);
 }
 
 /// Replaces the contents with a copy of the elements. A link becomes an owner.
@@ -155,7 +155,7 @@ void set_contents(Array_Storage<Kind> array, Elements_Of<Kind> elements, Report 
         return;
     }
     if (lies_in_block(array, elements)) [[unlikely]] {
-        const Copied_Run<Kind> copy(array.kind, elements.span());
+        const Element_Copy<Kind> copy(array.kind, elements.span());
         if (!copy.is_valid())
             return report(notes::allocate_failed);
         return set_contents(array, {copy.elements().data(), elements.count, Source::of_another_array},

@@ -13,7 +13,7 @@ namespace zeb::engine
 
 /// Releases an owner's elements and its block, and empties the storage. What a link views is unchanged.
 template <class Kind>
-void finish(Vector_Storage<Kind> storage) noexcept
+void release_storage(Vector_Storage<Kind> storage) noexcept
 {
     if (storage.owns() && storage.data != nullptr) {
         storage.kind.destroy(storage.data, 0, storage.count);
@@ -37,8 +37,8 @@ Block make_block(std::uint64_t capacity, Report report) noexcept
 /// Allocates new storage for `capacity` elements, of which `count` are live and undefined, and returns its
 /// capacity; 0 if allocation fails.
 template <class Kind, class Report>
-std::uint32_t start(Vector_Storage<Kind> storage, std::uint32_t count, std::uint64_t capacity,
-                    Report report) noexcept
+std::uint32_t allocate_storage(Vector_Storage<Kind> storage, std::uint32_t count, std::uint64_t capacity,
+                               Report report) noexcept
 {
     const Block block = make_block<Kind>(capacity, report);
     storage.data = static_cast<typename Kind::Element *>(block.data);
@@ -47,7 +47,7 @@ std::uint32_t start(Vector_Storage<Kind> storage, std::uint32_t count, std::uint
         return 0;
     if (!storage.kind.open(storage.data, 0, count)) {
         report(notes::allocate_failed);
-        finish(storage);
+        release_storage(storage);
         return 0;
     }
     storage.count = count;
@@ -87,14 +87,14 @@ void assign_from(Source source, Kind kind, typename Kind::Element *slots,
 /// Makes new storage a copy of `n` elements, in a block of `capacity`, and returns its capacity; 0 if
 /// allocation fails.
 template <class Kind, class Report>
-std::uint32_t start_as_copy(Vector_Storage<Kind> storage, Source source,
+std::uint32_t allocate_copy(Vector_Storage<Kind> storage, Source source,
                             typename Kind::Element const *elements, std::uint32_t n, std::uint64_t capacity,
                             Report report) noexcept
 {
-    const std::uint32_t room = start(storage, n, capacity, report);
+    const std::uint32_t room = allocate_storage(storage, n, capacity, report);
     if (!storage.kind.prepare(storage.data, elements, storage.count)) {
         report(notes::allocate_failed);
-        finish(storage);
+        release_storage(storage);
         return 0;
     }
     assign_from(source, storage.kind, storage.data, elements, storage.count);
@@ -114,10 +114,10 @@ bool replace_with_copy(Vector_Storage<Kind> storage, Source source, typename Kin
     typename Kind::Fresh fresh{};
     const Vector_Storage<Kind> made{data, count, marker, storage.kind.fresh(fresh)};
     const std::uint64_t wanted = capacity < n ? n : capacity;
-    const std::uint32_t got = start_as_copy(made, source, elements, n, wanted, report);
+    const std::uint32_t got = allocate_copy(made, source, elements, n, wanted, report);
     if (got < wanted)
         return false;
-    finish(storage);
+    release_storage(storage);
     storage.data = data;
     storage.count = count;
     storage.link_marker = 0;

@@ -29,8 +29,8 @@ std::uint32_t replace_within_block(Array_Storage<Plain_Elements<Element>> array,
                                    Report report) noexcept
 {
     const std::size_t size = array.elements().size_bytes();
-    const Own_Values<Element> pattern({}, runs.pattern, array.data, size);
-    const Own_Values<Element> replacement({}, runs.replacement, array.data, size);
+    const Unaliased_Values<Element> pattern({}, runs.pattern, array.data, size);
+    const Unaliased_Values<Element> replacement({}, runs.replacement, array.data, size);
     if (!pattern.is_valid() || !replacement.is_valid()) {
         report(notes::allocate_failed);
         return 0;
@@ -42,7 +42,7 @@ std::uint32_t replace_within_block(Array_Storage<Plain_Elements<Element>> array,
 }
 
 /// The number of occurrence starts remembered while counting; later ones are searched for again.
-inline constexpr std::size_t most_remembered = std::size_t{1} << 20;
+inline constexpr std::size_t max_remembered_starts = std::size_t{1} << 20;
 
 /// Copies the elements to `made`, which has exactly the room of the result, with each occurrence replaced.
 /// The first occurrences start at `known`; later ones are searched for.
@@ -72,8 +72,9 @@ std::uint32_t replace_into_new_block(Array_Storage<Plain_Elements<Element>> arra
                                      Replacement_Of<Element> runs, Report report) noexcept
 {
     const std::span<const Element> elements = array.elements();
-    const Scratch<std::uint32_t> starts(std::min(elements.size() / runs.pattern.size(), most_remembered));
-    const std::size_t room = starts.get() != nullptr ? most_remembered : 0;
+    const Scratch<std::uint32_t> starts(
+        std::min(elements.size() / runs.pattern.size(), max_remembered_starts));
+    const std::size_t room = starts.get() != nullptr ? max_remembered_starts : 0;
     std::size_t known = 0;
     const std::uint64_t found =
         for_each_occurrence<Element>(elements, runs.pattern, [&](std::uint32_t start) {
@@ -183,7 +184,7 @@ std::uint32_t replace_objects(Array_Storage<Kind> array, std::span<typename Kind
     const Occurrences occurrences{{starts.get(), found},
                                   static_cast<std::uint32_t>(pattern.size()),
                                   static_cast<std::uint32_t>(replacement.size())};
-    Copied_Run<Kind> fresh(array.kind, replacement, found);
+    Element_Copy<Kind> fresh(array.kind, replacement, found);
     if (!fresh.is_valid()) {
         report(notes::allocate_failed);
         return 0;

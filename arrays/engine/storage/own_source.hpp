@@ -11,17 +11,17 @@ namespace zeb::engine
 
 /// A copy of a run of elements, or several copies one after the other, stored as the array stores its own.
 template <class Kind>
-class Copied_Run
+class Element_Copy
 {
 public:
     using Element = typename Kind::Element;
 
-    Copied_Run(Kind kind, std::span<Element const> run, std::uint32_t times = 1) noexcept
+    Element_Copy(Kind kind, std::span<Element const> run, std::uint32_t times = 1) noexcept
         : storage{data, count, marker, kind.fresh(state)}
     {
         const auto n = static_cast<std::uint32_t>(run.size());
         const auto silent = [](Char_Span) {};
-        valid = start(storage, n * times, n * times, silent) == n * times;
+        valid = allocate_storage(storage, n * times, n * times, silent) == n * times;
         for (std::uint32_t i = 0; valid && i < times; ++i) {
             valid = kind.prepare(data + i * n, run.data(), n);
             if (valid)
@@ -29,10 +29,10 @@ public:
         }
     }
 
-    ~Copied_Run() { finish(storage); }
+    ~Element_Copy() { release_storage(storage); }
 
-    Copied_Run(const Copied_Run &) = delete;
-    Copied_Run &operator=(const Copied_Run &) = delete;
+    Element_Copy(const Element_Copy &) = delete;
+    Element_Copy &operator=(const Element_Copy &) = delete;
 
     /// False if allocation failed.
     bool is_valid() const noexcept { return valid; }
@@ -54,13 +54,13 @@ private:
 /// A run of elements, read as if copied before the operation began. It is copied only if it overlaps the
 /// block that the operation changes.
 template <class Kind>
-class Own_Source
+class Unaliased_Source
 {
 public:
     using Element = typename Kind::Element;
 
     /// The operation changes the `size` bytes at `block`.
-    Own_Source(Kind kind, std::span<Element const> run, const void *block, std::size_t size) noexcept
+    Unaliased_Source(Kind kind, std::span<Element const> run, const void *block, std::size_t size) noexcept
         : overlapping(overlaps(run, block, size)), copy(kind, overlapping ? run : std::span<Element const>()),
           run(run)
     {
@@ -75,12 +75,12 @@ public:
 
 private:
     bool overlapping;
-    Copied_Run<Kind> copy;
+    Element_Copy<Kind> copy;
     std::span<Element const> run;
 };
 
 /// The same for plain elements.
 template <class Element>
-using Own_Values = Own_Source<Plain_Elements<Element>>;
+using Unaliased_Values = Unaliased_Source<Plain_Elements<Element>>;
 
 } // namespace zeb::engine

@@ -13,7 +13,7 @@ namespace zeb::engine
 
 /// Removes `n` elements at `at`; the caller has checked the range.
 template <class Kind>
-void take_out(Vector_Storage<Kind> vector, std::uint32_t at, std::uint32_t n) noexcept
+void remove_elements(Vector_Storage<Kind> vector, std::uint32_t at, std::uint32_t n) noexcept
 {
     vector.kind.close_gap(vector.data, vector.count, at, n);
     vector.count -= n;
@@ -24,7 +24,7 @@ template <class Kind>
 void remove_element(Vector_Storage<Kind> vector, std::uint32_t at) noexcept
 {
     if (at < vector.count)
-        take_out(vector, at, 1);
+        remove_elements(vector, at, 1);
 }
 
 /// Removes every element equal to `element`; the others keep their order.
@@ -59,7 +59,7 @@ void remove_range(Vector_Storage<Kind> vector, ZEB_Index_Range range, Report rep
 {
     if (is_reversed(range, report) || range.start >= vector.count)
         return;
-    take_out(vector, range.start, std::min(range.end, vector.count - 1) - range.start + 1);
+    remove_elements(vector, range.start, std::min(range.end, vector.count - 1) - range.start + 1);
 }
 
 /// Replaces the range with one element, under the same conditions.
@@ -72,7 +72,7 @@ void replace_range(Vector_Storage<Kind> vector, ZEB_Index_Range range, typename 
     if (!vector.kind.prepare(vector.data + range.start, &element, 1))
         return report(notes::allocate_failed);
     vector.kind.assign(vector.data + range.start, &element, 1);
-    take_out(vector, range.start + 1, std::min(range.end, vector.count - 1) - range.start);
+    remove_elements(vector, range.start + 1, std::min(range.end, vector.count - 1) - range.start);
 }
 
 } // namespace zeb::engine

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #if ZEB_HAS_HIGHWAY
 #include "arrays/engine/kernels/vector_targets.hpp"
@@ -30,29 +31,76 @@ std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value)
     return plain::remove_equal(lanes, count, value);
 }
 #else
-/// Stores the lanes of a mask side by side; returns how many. Up to a whole vector is written.
-template <class D, class Lane>
-HWY_INLINE std::size_t store_packed(D d, hn::Vec<D> vector, hn::Mask<D> kept, Lane *to)
+/// Whether one instruction packs lanes of this width. Wider lanes are packed as 32-bit words.
+#if HWY_ARCH_X86
+template <class Lane>
+constexpr bool packs_directly = HWY_TARGET <= (sizeof(Lane) == 1 ? HWY_AVX3_DL : HWY_AVX3);
+#else
+template <class Lane>
+constexpr bool packs_directly = false;
+#endif
+
+/// Bytes are packed by eight, mostly in vectors without a match: not too wide ones.
+template <class Lane>
+using Packed_Tag = std::conditional_t<sizeof(Lane) == 1 && !packs_directly<Lane>, hn::CappedTag<Lane, 32>,
+                                      hn::ScalableTag<Lane>>;
+
+template <class Lane>
+using Packed_Unit = std::conditional_t<sizeof(Lane) == 1, std::uint8_t, std::uint32_t>;
+
+/// Stores the bytes of a mask side by side, eight at a time by a table. The vector's first byte is `at` in
+/// the mask; offsets are counted from the whole mask, so that no step waits for the one before.
+template <class D>
+HWY_INLINE void store_packed_bytes(D d, hn::Vec<D> bytes, std::uint64_t kept, std::size_t at,
+                                   std::uint8_t *to)
 {
-    // Packed in a register: packing into memory is slow on some processors.
-    hn::StoreU(hn::Compress(vector, kept), d, to);
-    return hn::CountTrue(d, kept);
+    if constexpr (hn::MaxLanes(d) > 8) {
+        const hn::Half<D> half;
+        store_packed_bytes(half, hn::LowerHalf(half, bytes), kept, at, to);
+        store_packed_bytes(half, hn::UpperHalf(half, bytes), kept, at + hn::Lanes(half), to);
+    } else {
+        const std::uint64_t before = kept & ((std::uint64_t{1} << at) - 1);
+        const auto order = hn::LoadU(d, packed_bytes[kept >> at & 0xFF].data());
+        hn::StoreU(hn::TableLookupBytes(bytes, order), d, to + __builtin_popcountll(before));
+    }
 }
 
-/// The same for bytes, of which eight at a time are packed through a table.
+/// Packs the words of a mask, at most eight, by the same table.
 template <class D>
-HWY_INLINE std::size_t store_packed_bytes(D d, const std::uint8_t *from, hn::Mask<D> kept, std::uint8_t *to)
+HWY_INLINE hn::Vec<D> packed_words(D d, hn::Vec<D> words, std::uint64_t kept)
 {
-    const hn::Full64<std::uint8_t> eight;
-    const std::uint64_t bits = bits_of(d, kept);
-    for (std::size_t at = 0; at < hn::Lanes(d); at += 8) {
-        // Each offset is counted from the whole mask, so that no step waits for the one before.
-        const std::uint64_t below = bits & ((std::uint64_t{1} << at) - 1);
-        const auto order = hn::LoadU(eight, packed_bytes[bits >> at & 0xFF].data());
-        hn::StoreU(hn::TableLookupBytes(hn::LoadU(eight, from + at), order), eight,
-                   to + __builtin_popcountll(below));
+    const hn::Rebind<std::uint8_t, D> bytes;
+    const auto order = hn::PromoteTo(d, hn::LoadU(bytes, packed_bytes[kept].data()));
+    return hn::TableLookupLanes(words, hn::IndicesFromVec(d, order));
+}
+
+/// Stores the lanes of a vector that are not equal to the values side by side; returns how many. Up to a
+/// whole vector is written. The library's own packing by tables is slow: some compilers copy its tables each
+/// time.
+template <class D, class Lane>
+HWY_INLINE std::size_t store_unequal(D d, const Lane *from, hn::Vec<D> values, Lane *to)
+{
+    const hn::Repartition<Packed_Unit<Lane>, D> units;
+    const auto vector = hn::LoadU(d, from);
+    const auto equal = hn::Eq(vector, values);
+    const auto equal_units = hn::MaskFromVec(hn::BitCast(units, hn::VecFromMask(d, equal)));
+    if constexpr (packs_directly<Lane>) {
+        // Into a register first: packing into memory is slow on some processors.
+        hn::StoreU(hn::BitCast(d, hn::Compress(hn::BitCast(units, vector), hn::Not(equal_units))), d, to);
+        return hn::Lanes(d) - hn::CountTrue(d, equal);
+    } else {
+        const std::uint64_t all = (std::uint64_t{1} << hn::Lanes(units)) - 1;
+        const std::uint64_t kept = bits_of(units, equal_units) ^ all;
+        if constexpr (sizeof(Lane) > 1) {
+            hn::StoreU(hn::BitCast(d, packed_words(units, hn::BitCast(units, vector), kept)), d, to);
+        } else if (kept == all) {
+            hn::StoreU(vector, d, to);
+            return hn::Lanes(d); // known before the mask is counted
+        } else {
+            store_packed_bytes(d, vector, kept, 0, to);
+        }
+        return static_cast<std::size_t>(__builtin_popcountll(kept)) * hn::Lanes(d) / hn::Lanes(units);
     }
-    return static_cast<std::size_t>(__builtin_popcountll(bits));
 }
 
 /// Packs whole vectors from index `from` up to `end`, to index `kept` and up; returns the new `kept`. The
@@ -60,20 +108,10 @@ HWY_INLINE std::size_t store_packed_bytes(D d, const std::uint8_t *from, hn::Mas
 template <class Lane>
 std::size_t pack(Lane *lanes, std::size_t kept, std::size_t from, std::size_t end, Lane value)
 {
-    const hn::ScalableTag<Lane> d;
+    const Packed_Tag<Lane> d;
     const auto values = hn::Set(d, value);
-    for (; from < end; from += hn::Lanes(d)) {
-        const auto vector = hn::LoadU(d, lanes + from);
-        const auto equal = hn::Eq(vector, values);
-        if constexpr (sizeof(Lane) > 1) {
-            kept += store_packed(d, vector, hn::Not(equal), lanes + kept);
-        } else if (hn::AllFalse(d, equal)) {
-            hn::StoreU(vector, d, lanes + kept);
-            kept += hn::Lanes(d);
-        } else {
-            kept += store_packed_bytes(d, lanes + from, hn::Not(equal), lanes + kept);
-        }
-    }
+    for (; from < end; from += hn::Lanes(d))
+        kept += store_unequal(d, lanes + from, values, lanes + kept);
     return kept;
 }
 
@@ -102,7 +140,7 @@ std::size_t copy_tail(const Lane *lanes, std::size_t begin, std::size_t end, Lan
 template <class Lane>
 std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value)
 {
-    const hn::ScalableTag<Lane> d;
+    const Packed_Tag<Lane> d;
     const std::size_t N = hn::Lanes(d);
     std::size_t kept = search<Lane>().first_equal(lanes, count, value);
     if (count - kept < 2 * N)

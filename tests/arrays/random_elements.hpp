@@ -19,7 +19,7 @@
 namespace zeb_test
 {
 
-using Element_Types = testing::Types<uint8_t, char, int32_t, uint32_t, float, double, void *>;
+using Element_Types = testing::Types<uint8_t, char, int32_t, uint32_t, int64_t, float, double, void *>;
 
 /// Ways to draw elements: few values with many equals, or the whole width of the type.
 enum class Draw { Few_Values, Any_Bits };

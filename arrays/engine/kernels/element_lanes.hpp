@@ -18,7 +18,7 @@ inline constexpr bool is_pointer_element =
 
 template <class Element>
 inline constexpr bool has_lane =
-    (std::is_integral_v<Element> && (sizeof(Element) == 1 || sizeof(Element) == 4)) ||
+    (std::is_integral_v<Element> && (sizeof(Element) == 1 || sizeof(Element) == 4 || sizeof(Element) == 8)) ||
     std::is_same_v<Element, float> || std::is_same_v<Element, double> || is_pointer_element<Element>;
 
 namespace lane_detail
@@ -55,7 +55,7 @@ struct Order_Lane : Equality_Lane<Element> {
 };
 template <class Element>
 struct Order_Lane<Element, true> {
-    using Type = std::conditional_t<sizeof(Element) == 1, std::int8_t, std::int32_t>;
+    using Type = std::make_signed_t<typename Unsigned<sizeof(Element)>::Type>;
 };
 
 /// Characters are signed here, whatever the compiler's plain `char` is.

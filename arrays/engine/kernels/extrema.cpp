@@ -179,6 +179,7 @@ template const Extrema_Kernels<std::int8_t> &extrema() noexcept;
 template const Extrema_Kernels<std::uint32_t> &extrema() noexcept;
 template const Extrema_Kernels<std::int32_t> &extrema() noexcept;
 template const Extrema_Kernels<std::uint64_t> &extrema() noexcept;
+template const Extrema_Kernels<std::int64_t> &extrema() noexcept;
 template const Extrema_Kernels<float> &extrema() noexcept;
 template const Extrema_Kernels<double> &extrema() noexcept;
 

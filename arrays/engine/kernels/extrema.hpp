@@ -19,7 +19,7 @@ struct Extrema_Kernels {
     Lane_Extrema<Lane> (*minimum_and_maximum)(const Lane *lanes, std::size_t count);
 };
 
-/// The kernels for the processor in use; for 8- and 32-bit integers, std::uint64_t, float and double.
+/// The kernels for the processor in use; for 8-, 32- and 64-bit integers, float and double.
 template <class Lane>
 const Extrema_Kernels<Lane> &extrema() noexcept;
 

@@ -208,6 +208,7 @@ const Column_Kernels<Lane> &columns() noexcept
 template const Column_Kernels<std::uint32_t> &columns() noexcept;
 template const Column_Kernels<std::int32_t> &columns() noexcept;
 template const Column_Kernels<std::uint64_t> &columns() noexcept;
+template const Column_Kernels<std::int64_t> &columns() noexcept;
 template const Column_Kernels<float> &columns() noexcept;
 template const Column_Kernels<double> &columns() noexcept;
 

@@ -18,7 +18,7 @@ struct Column_Kernels {
     void (*sort_pairs)(Lane *lanes, Bits_Lane<Lane> *companions, std::size_t count);
 };
 
-/// The kernels for the processor in use; for 32-bit integers, std::uint64_t, float and double.
+/// The kernels for the processor in use; for 32- and 64-bit integers, float and double.
 template <class Lane>
 const Column_Kernels<Lane> &columns() noexcept;
 

@@ -127,7 +127,8 @@ bool sort_distinct(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexc
 }
 
 /// Orders the positions of numbers whose keys have the same upper bits by the numbers themselves.
-void order_run(const double *lanes, std::uint64_t *positions, std::size_t length) noexcept
+template <class Lane>
+void order_run(const Lane *lanes, std::uint64_t *positions, std::size_t length) noexcept
 {
     const auto before = [lanes](std::uint64_t left, std::uint64_t right) {
         return lanes[left] < lanes[right];
@@ -139,9 +140,10 @@ void order_run(const double *lanes, std::uint64_t *positions, std::size_t length
 
 /// Packs the upper bits of each number's key, less the lowest key, above its position. Returns the mask of
 /// the positions.
-std::uint64_t pack_upper_bits(const double *lanes, std::uint64_t *packed, std::size_t count) noexcept
+template <class Lane>
+std::uint64_t pack_upper_bits(const Lane *lanes, std::uint64_t *packed, std::size_t count) noexcept
 {
-    using Ordered = Ordered_Key<double>;
+    using Ordered = Ordered_Key<Lane>;
     std::uint64_t lowest = UINT64_MAX, highest = 0;
     for (std::size_t i = 0; i < count; ++i) {
         const std::uint64_t key = Ordered::key_of(lanes[i]);
@@ -157,7 +159,8 @@ std::uint64_t pack_upper_bits(const double *lanes, std::uint64_t *packed, std::s
 
 /// Makes `positions` those of the numbers in ascending order. Half as much to sort as whole keys with their
 /// positions beside them.
-void order_positions(const double *lanes, std::uint64_t *positions, std::size_t count) noexcept
+template <class Lane>
+void order_positions(const Lane *lanes, std::uint64_t *positions, std::size_t count) noexcept
 {
     const std::uint64_t mask = pack_upper_bits(lanes, positions, count);
     sort_keys(positions, count);
@@ -171,7 +174,8 @@ void order_positions(const double *lanes, std::uint64_t *positions, std::size_t 
 }
 
 /// Numbers each lane by its order, equal ones the same; `sorted` holds the lanes in that order.
-void rank(const double *sorted, const std::uint64_t *positions, std::size_t count,
+template <class Lane>
+void rank(const Lane *sorted, const std::uint64_t *positions, std::size_t count,
           std::uint32_t *ranks) noexcept
 {
     std::uint32_t here = 0;
@@ -181,13 +185,14 @@ void rank(const double *sorted, const std::uint64_t *positions, std::size_t coun
     }
 }
 
-/// Sorts numbers with zeros of one sign and without NaN. If some are equal, the Shell sort determines their
-/// indexes: it runs on their ranks, which are half as wide and compare the same. Returns false, nothing
-/// changed, if allocation fails.
-bool sort_numbers(double *lanes, std::uint32_t *indexes, std::size_t count) noexcept
+/// Sorts 64-bit lanes, numbers with zeros of one sign and without NaN. If some are equal, the Shell sort
+/// determines their indexes: it runs on their ranks, which are half as wide and compare the same. Returns
+/// false, nothing changed, if allocation fails.
+template <class Lane>
+bool sort_wide(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
     const Scratch<std::uint64_t> positions(count);
-    const Scratch<double> sorted(count);
+    const Scratch<Lane> sorted(count);
     const Scratch<std::uint32_t> ranks(count);
     const Indexes_Before before(indexes, count);
     if (positions.get() == nullptr || sorted.get() == nullptr || ranks.get() == nullptr || !before.known())
@@ -214,8 +219,8 @@ bool sort_fast(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
 {
     if (scans<Lane>().float_order(lanes, count) == Float_Order::Ambiguous)
         return false;
-    if constexpr (std::is_same_v<Lane, double>)
-        return sort_numbers(lanes, indexes, count);
+    if constexpr (sizeof(Lane) == 8)
+        return sort_wide(lanes, indexes, count);
     else
         return sort_distinct(lanes, indexes, count);
 }
@@ -275,9 +280,8 @@ void sort(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexcept
     if constexpr (sizeof(Lane) == 1) {
         sort_widened_bytes(lanes, indexes, count);
     } else {
-        if constexpr (!std::is_same_v<Lane, std::uint64_t>)
-            if (sort_fast(lanes, indexes, count))
-                return;
+        if (sort_fast(lanes, indexes, count))
+            return;
         if constexpr (sizeof(Lane) == 8)
             sort_with_widened_indexes(lanes, indexes, count);
         else
@@ -293,6 +297,7 @@ ZEB_LANE(std::int8_t)
 ZEB_LANE(std::uint32_t)
 ZEB_LANE(std::int32_t)
 ZEB_LANE(std::uint64_t)
+ZEB_LANE(std::int64_t)
 ZEB_LANE(float)
 ZEB_LANE(double)
 #undef ZEB_LANE

@@ -7,7 +7,7 @@
 namespace zeb::engine::kernels
 {
 
-/// Sorts ascending; for 8- and 32-bit integers, std::uint64_t, float and double. Floating-point lanes end
+/// Sorts ascending; for 8-, 32- and 64-bit integers, float and double. Floating-point lanes end
 /// where the Shell sort leaves them, which shows if zeros of both signs or NaN are among them.
 template <class Lane>
 void sort(Lane *lanes, std::size_t count) noexcept;

@@ -119,6 +119,7 @@ const Scan_Kernels<Lane> &scans() noexcept
 template const Scan_Kernels<std::uint32_t> &scans() noexcept;
 template const Scan_Kernels<std::int32_t> &scans() noexcept;
 template const Scan_Kernels<std::uint64_t> &scans() noexcept;
+template const Scan_Kernels<std::int64_t> &scans() noexcept;
 template const Scan_Kernels<float> &scans() noexcept;
 template const Scan_Kernels<double> &scans() noexcept;
 

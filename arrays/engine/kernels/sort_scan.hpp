@@ -26,7 +26,7 @@ struct Scan_Kernels {
     bool sorts_in_vectors;
 };
 
-/// The kernels for the processor in use; for 32-bit integers, std::uint64_t, float and double.
+/// The kernels for the processor in use; for 32- and 64-bit integers, float and double.
 template <class Lane>
 const Scan_Kernels<Lane> &scans() noexcept;
 

@@ -1,6 +1,11 @@
-# Libraries that make the engine faster where they are found; without them it answers the same.
+# Libraries that make the engine faster where they are found; without them its results are the same.
+
+option(ZEB_USE_OPTIONAL_LIBRARIES "Use Highway and fast_float where they are found" ON)
 
 add_library(zeb_optional INTERFACE)
+if(NOT ZEB_USE_OPTIONAL_LIBRARIES)
+  return()
+endif()
 
 find_path(HIGHWAY_INCLUDE_DIR hwy/contrib/sort/vqsort.h)
 find_library(HIGHWAY_LIBRARY hwy)

@@ -1,4 +1,4 @@
-/// The kernels of text as plain loops: where there are no vectors, and for what is left behind the last one.
+/// The kernels of text as plain loops: where there are no vectors, and for what remains after the last one.
 /// Each starts at the index `from`, up to which the work is done.
 #pragma once
 

@@ -87,7 +87,8 @@ Element foremost(const Element *elements, std::size_t count, Precedes precedes) 
 {
     Element best = elements[0];
     for (std::size_t index = 1; index < count; ++index)
-        best = precedes(elements[index], best) ? elements[index] : best;
+        if (precedes(elements[index], best))
+            best = elements[index];
     return best;
 }
 

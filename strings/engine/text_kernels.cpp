@@ -34,8 +34,8 @@ HWY_INLINE hn::Vec<Bytes> differences_beside_case(const std::uint8_t *left, cons
     return hn::AndNot(ignored, hn::Xor(first, hn::LoadU(d, right)));
 }
 
-/// Index of the first lane that `differences`, asked for the vector at an index, tells to differ; count when
-/// there is none. There is one vector at least.
+/// Index of the first lane that differs; count if there is none. `differences` returns the differing bits of
+/// the vector at an index. The count is at least one vector.
 template <class D, class Differences>
 HWY_INLINE std::size_t first_differing_lane(D d, std::size_t count, Differences differences)
 {
@@ -59,7 +59,7 @@ HWY_INLINE std::size_t first_differing_lane(D d, std::size_t count, Differences 
 }
 
 std::size_t first_difference_ignoring_ascii_case(const std::uint8_t *left, const std::uint8_t *right,
-                                                 std::size_t count)
+                                                 std::size_t count) noexcept
 {
     const Bytes d;
     if (count < hn::Lanes(d))
@@ -68,7 +68,8 @@ std::size_t first_difference_ignoring_ascii_case(const std::uint8_t *left, const
         d, count, [=](std::size_t at) HWY_ATTR { return differences_beside_case(left + at, right + at); });
 }
 
-std::size_t first_difference(const std::uint32_t *left, const std::uint32_t *right, std::size_t count)
+std::size_t first_difference(const std::uint32_t *left, const std::uint32_t *right,
+                             std::size_t count) noexcept
 {
     const Units d;
     if (count < hn::Lanes(d))
@@ -78,7 +79,7 @@ std::size_t first_difference(const std::uint32_t *left, const std::uint32_t *rig
     });
 }
 
-void widen_signed(const std::int8_t *bytes, std::size_t count, std::uint32_t *units)
+void widen_signed(const std::int8_t *bytes, std::size_t count, std::uint32_t *units) noexcept
 {
     const hn::RebindToSigned<Units> d;
     const hn::Rebind<std::int8_t, decltype(d)> narrow;
@@ -99,7 +100,7 @@ void widen_signed(const std::int8_t *bytes, std::size_t count, std::uint32_t *un
     plain::widen_signed(bytes, count, units, index);
 }
 
-void widen_in_place(std::uint32_t *units, std::size_t count)
+void widen_in_place(std::uint32_t *units, std::size_t count) noexcept
 {
     const Units d;
     const hn::Rebind<std::uint16_t, Units> half;
@@ -111,7 +112,7 @@ void widen_in_place(std::uint32_t *units, std::size_t count)
         hn::StoreU(hn::PromoteTo(d, hn::LoadU(half, halves + index - N)), d, units + index - N);
 }
 
-void narrow(const std::uint32_t *units, std::size_t count, std::uint16_t *narrowed)
+void narrow(const std::uint32_t *units, std::size_t count, std::uint16_t *narrowed) noexcept
 {
     const Units d;
     const hn::Rebind<std::uint16_t, Units> half;
@@ -122,7 +123,7 @@ void narrow(const std::uint32_t *units, std::size_t count, std::uint16_t *narrow
     plain::narrow(units, count, narrowed, index);
 }
 
-std::size_t widen_ascii(const std::uint8_t *bytes, std::size_t count, std::uint32_t *units)
+std::size_t widen_ascii(const std::uint8_t *bytes, std::size_t count, std::uint32_t *units) noexcept
 {
     const Bytes d;
     const hn::RebindToSigned<Bytes> ds;
@@ -140,7 +141,7 @@ std::size_t widen_ascii(const std::uint8_t *bytes, std::size_t count, std::uint3
     return plain::widen_ascii(bytes, count, units, index);
 }
 
-std::size_t narrow_ascii(const std::uint32_t *units, std::size_t count, std::uint8_t *bytes)
+std::size_t narrow_ascii(const std::uint32_t *units, std::size_t count, std::uint8_t *bytes) noexcept
 {
     const Units d;
     const hn::Rebind<std::uint8_t, Units> quarter;
@@ -163,14 +164,14 @@ std::size_t narrow_ascii(const std::uint32_t *units, std::size_t count, std::uin
     return plain::narrow_ascii(units, count, bytes, index);
 }
 
-Utf8_Starts count_utf8_starts(const std::uint8_t *bytes, std::size_t count)
+Utf8_Starts count_utf8_starts(const std::uint8_t *bytes, std::size_t count) noexcept
 {
     const hn::RebindToSigned<Bytes> d;
     const std::size_t N = hn::Lanes(d);
     Utf8_Starts starts{};
     std::size_t index = 0;
     for (; index + N <= count; index += N) {
-        // As signed bytes, continuations are the lowest, and the beginnings of four bytes the highest
+        // As signed bytes, continuation bytes are the lowest, and the first bytes of four the highest
         // below 0.
         const auto vector = hn::LoadU(d, reinterpret_cast<const std::int8_t *>(bytes + index));
         const auto start = hn::Gt(vector, hn::Set(d, static_cast<std::int8_t>(0xBF)));
@@ -183,7 +184,7 @@ Utf8_Starts count_utf8_starts(const std::uint8_t *bytes, std::size_t count)
 }
 
 template <bool of_low_halves>
-HWY_INLINE Units_Above count_above(const std::uint32_t *units, std::size_t count)
+Units_Above count_above(const std::uint32_t *units, std::size_t count) noexcept
 {
     const Units d;
     const std::size_t N = hn::Lanes(d);
@@ -207,15 +208,17 @@ HWY_INLINE Units_Above count_above(const std::uint32_t *units, std::size_t count
                          : plain::count_units_above(units, count, above, index);
 }
 
-Units_Above count_units_above(const std::uint32_t *units, std::size_t count)
-{
-    return count_above<false>(units, count);
-}
-
-Units_Above count_low_halves_above(const std::uint32_t *units, std::size_t count)
-{
-    return count_above<true>(units, count);
-}
+constexpr Text_Kernels text_table{.first_difference_ignoring_ascii_case =
+                                      first_difference_ignoring_ascii_case,
+                                  .first_difference = first_difference,
+                                  .widen_signed = widen_signed,
+                                  .widen_in_place = widen_in_place,
+                                  .narrow = narrow,
+                                  .widen_ascii = widen_ascii,
+                                  .narrow_ascii = narrow_ascii,
+                                  .count_utf8_starts = count_utf8_starts,
+                                  .count_units_above = count_above<false>,
+                                  .count_low_halves_above = count_above<true>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -223,75 +226,75 @@ HWY_AFTER_NAMESPACE();
 #endif
 
 #if !ZEB_HAS_HIGHWAY || HWY_ONCE
+#include "arrays/engine/kernels/vector_dispatch.hpp"
+
 namespace zeb::engine::kernels
 {
 
-#if ZEB_HAS_HIGHWAY
-HWY_EXPORT(first_difference_ignoring_ascii_case);
-HWY_EXPORT(first_difference);
-HWY_EXPORT(widen_signed);
-HWY_EXPORT(widen_in_place);
-HWY_EXPORT(narrow);
-HWY_EXPORT(widen_ascii);
-HWY_EXPORT(narrow_ascii);
-HWY_EXPORT(count_utf8_starts);
-HWY_EXPORT(count_units_above);
-HWY_EXPORT(count_low_halves_above);
-#define ZEB_KERNEL(name) HWY_DYNAMIC_DISPATCH(name)
-#else
-#define ZEB_KERNEL(name) plain::name
+#if !ZEB_HAS_HIGHWAY
+constexpr Text_Kernels text_table{.first_difference_ignoring_ascii_case =
+                                      ZEB_PLAIN(first_difference_ignoring_ascii_case),
+                                  .first_difference = ZEB_PLAIN(first_difference),
+                                  .widen_signed = ZEB_PLAIN(widen_signed),
+                                  .widen_in_place = ZEB_PLAIN(widen_in_place),
+                                  .narrow = ZEB_PLAIN(narrow),
+                                  .widen_ascii = ZEB_PLAIN(widen_ascii),
+                                  .narrow_ascii = ZEB_PLAIN(narrow_ascii),
+                                  .count_utf8_starts = ZEB_PLAIN(count_utf8_starts),
+                                  .count_units_above = ZEB_PLAIN(count_units_above),
+                                  .count_low_halves_above = ZEB_PLAIN(count_low_halves_above)};
 #endif
 
 std::size_t first_difference_ignoring_ascii_case(const std::uint8_t *left, const std::uint8_t *right,
                                                  std::size_t count) noexcept
 {
-    return ZEB_KERNEL(first_difference_ignoring_ascii_case)(left, right, count);
+    return ZEB_CHOSEN(text_table).first_difference_ignoring_ascii_case(left, right, count);
 }
 
 std::size_t first_difference(const std::uint32_t *left, const std::uint32_t *right,
                              std::size_t count) noexcept
 {
-    return ZEB_KERNEL(first_difference)(left, right, count);
+    return ZEB_CHOSEN(text_table).first_difference(left, right, count);
 }
 
 void widen_signed(const std::int8_t *bytes, std::size_t count, std::uint32_t *units) noexcept
 {
-    ZEB_KERNEL(widen_signed)(bytes, count, units);
+    ZEB_CHOSEN(text_table).widen_signed(bytes, count, units);
 }
 
 void widen_in_place(std::uint32_t *units, std::size_t count) noexcept
 {
-    ZEB_KERNEL(widen_in_place)(units, count);
+    ZEB_CHOSEN(text_table).widen_in_place(units, count);
 }
 
 void narrow(const std::uint32_t *units, std::size_t count, std::uint16_t *narrowed) noexcept
 {
-    ZEB_KERNEL(narrow)(units, count, narrowed);
+    ZEB_CHOSEN(text_table).narrow(units, count, narrowed);
 }
 
 std::size_t widen_ascii(const std::uint8_t *bytes, std::size_t count, std::uint32_t *units) noexcept
 {
-    return ZEB_KERNEL(widen_ascii)(bytes, count, units);
+    return ZEB_CHOSEN(text_table).widen_ascii(bytes, count, units);
 }
 
 std::size_t narrow_ascii(const std::uint32_t *units, std::size_t count, std::uint8_t *bytes) noexcept
 {
-    return ZEB_KERNEL(narrow_ascii)(units, count, bytes);
+    return ZEB_CHOSEN(text_table).narrow_ascii(units, count, bytes);
 }
 
 Utf8_Starts count_utf8_starts(const std::uint8_t *bytes, std::size_t count) noexcept
 {
-    return ZEB_KERNEL(count_utf8_starts)(bytes, count);
+    return ZEB_CHOSEN(text_table).count_utf8_starts(bytes, count);
 }
 
 Units_Above count_units_above(const std::uint32_t *units, std::size_t count) noexcept
 {
-    return ZEB_KERNEL(count_units_above)(units, count);
+    return ZEB_CHOSEN(text_table).count_units_above(units, count);
 }
 
 Units_Above count_low_halves_above(const std::uint32_t *units, std::size_t count) noexcept
 {
-    return ZEB_KERNEL(count_low_halves_above)(units, count);
+    return ZEB_CHOSEN(text_table).count_low_halves_above(units, count);
 }
 
 } // namespace zeb::engine::kernels

@@ -32,11 +32,7 @@ struct Lower {
         return hn::IfThenElse(hn::Lt(lane, best), lane, best);
 #endif
     }
-    template <class Lane>
-    static bool precedes(Lane lane, Lane best)
-    {
-        return lane < best;
-    }
+    static constexpr auto precedes = [](auto lane, auto best) { return lane < best; };
 };
 
 /// The upper of both; `best` if either is NaN.
@@ -50,11 +46,7 @@ struct Upper {
         return hn::IfThenElse(hn::Lt(best, lane), lane, best);
 #endif
     }
-    template <class Lane>
-    static bool precedes(Lane lane, Lane best)
-    {
-        return best < lane;
-    }
+    static constexpr auto precedes = [](auto lane, auto best) { return best < lane; };
 };
 
 /// The best so far, in four independent vectors.
@@ -127,7 +119,7 @@ Lane extreme(const Lane *lanes, std::size_t count)
 {
     const hn::ScalableTag<Lane> d;
     if (needs_plain_loop(lanes, count))
-        return plain::foremost(lanes, count, Better::template precedes<Lane>);
+        return plain::foremost(lanes, count, Better::precedes);
     Best<decltype(d), Better> best(d, lanes[0]);
     scan(d, lanes, count, best);
     return first_of_equals(lanes, count, best.result(d));
@@ -138,7 +130,8 @@ Lane_Extrema<Lane> both_extremes(const Lane *lanes, std::size_t count)
 {
     const hn::ScalableTag<Lane> d;
     if (needs_plain_loop(lanes, count))
-        return {extreme<Lower>(lanes, count), extreme<Upper>(lanes, count)};
+        return {plain::foremost(lanes, count, Lower::precedes),
+                plain::foremost(lanes, count, Upper::precedes)};
     Best<decltype(d), Lower> lowest(d, lanes[0]);
     Best<decltype(d), Upper> highest(d, lanes[0]);
     scan(d, lanes, count, lowest, highest);
@@ -147,8 +140,9 @@ Lane_Extrema<Lane> both_extremes(const Lane *lanes, std::size_t count)
 }
 
 template <class Lane>
-constexpr Extrema_Kernels<Lane> extrema_table{extreme<Lower, Lane>, extreme<Upper, Lane>,
-                                              both_extremes<Lane>};
+constexpr Extrema_Kernels<Lane> extrema_table{.minimum = extreme<Lower, Lane>,
+                                              .maximum = extreme<Upper, Lane>,
+                                              .minimum_and_maximum = both_extremes<Lane>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -164,7 +158,9 @@ namespace zeb::engine::kernels
 #if !ZEB_HAS_HIGHWAY
 template <class Lane>
 constexpr Extrema_Kernels<Lane> extrema_table{
-    ZEB_PLAIN(minimum), ZEB_PLAIN(maximum), [](const Lane *lanes, std::size_t count) {
+    .minimum = ZEB_PLAIN(minimum),
+    .maximum = ZEB_PLAIN(maximum),
+    .minimum_and_maximum = [](const Lane *lanes, std::size_t count) {
         return Lane_Extrema<Lane>{plain::minimum(lanes, count), plain::maximum(lanes, count)};
     }};
 #endif

@@ -142,6 +142,8 @@ std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value)
 {
     const Packed_Tag<Lane> d;
     const std::size_t N = hn::Lanes(d);
+    if (count < 2 * N)
+        return plain::remove_equal(lanes, count, value);
     std::size_t kept = search<Lane>().first_equal(lanes, count, value);
     if (count - kept < 2 * N)
         return kept + plain::remove_equal(lanes + kept, count - kept, value);
@@ -164,7 +166,7 @@ std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value)
 #endif
 
 template <class Lane>
-constexpr Removal_Kernels<Lane> removal_table{remove_equal<Lane>};
+constexpr Removal_Kernels<Lane> removal_table{.remove_equal = remove_equal<Lane>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -179,7 +181,7 @@ namespace zeb::engine::kernels
 
 #if !ZEB_HAS_HIGHWAY
 template <class Lane>
-constexpr Removal_Kernels<Lane> removal_table{ZEB_PLAIN(remove_equal)};
+constexpr Removal_Kernels<Lane> removal_table{.remove_equal = ZEB_PLAIN(remove_equal)};
 #endif
 
 template <class Lane>

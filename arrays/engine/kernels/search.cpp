@@ -253,8 +253,10 @@ bool all_equal(const Lane *left, const Lane *right, std::size_t count)
 }
 
 template <class Lane>
-constexpr Search_Kernels<Lane> search_table{first_equal<Lane>, last_equal<Lane>, find_run<Lane>,
-                                            all_equal<Lane>};
+constexpr Search_Kernels<Lane> search_table{.first_equal = first_equal<Lane>,
+                                            .last_equal = last_equal<Lane>,
+                                            .find_run = find_run<Lane>,
+                                            .all_equal = all_equal<Lane>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -269,8 +271,10 @@ namespace zeb::engine::kernels
 
 #if !ZEB_HAS_HIGHWAY
 template <class Lane>
-constexpr Search_Kernels<Lane> search_table{ZEB_PLAIN(first_equal), ZEB_PLAIN(last_equal),
-                                            ZEB_PLAIN(find_run_linearly), ZEB_PLAIN(all_equal)};
+constexpr Search_Kernels<Lane> search_table{.first_equal = ZEB_PLAIN(first_equal),
+                                            .last_equal = ZEB_PLAIN(last_equal),
+                                            .find_run = ZEB_PLAIN(find_run_linearly),
+                                            .all_equal = ZEB_PLAIN(all_equal)};
 #endif
 
 template <class Lane>

@@ -180,7 +180,8 @@ void sort_lanes(Lane *lanes, std::size_t count)
 }
 
 template <class Lane>
-constexpr Column_Kernels<Lane> column_table{sort_lanes<Lane>, sort_by_columns<Lane, Bits_Lane<Lane> *>};
+constexpr Column_Kernels<Lane> column_table{.sort = sort_lanes<Lane>,
+                                            .sort_pairs = sort_by_columns<Lane, Bits_Lane<Lane> *>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -196,8 +197,8 @@ namespace zeb::engine::kernels
 #if !ZEB_HAS_HIGHWAY
 template <class Lane>
 constexpr Column_Kernels<Lane> column_table{
-    [](Lane *lanes, std::size_t count) { shell::sort_lanes(lanes, shell::No_Companions(), count); },
-    shell::sort_lanes<Lane, Bits_Lane<Lane> *>};
+    .sort = [](Lane *lanes, std::size_t count) { shell::sort_lanes(lanes, shell::No_Companions(), count); },
+    .sort_pairs = shell::sort_lanes<Lane, Bits_Lane<Lane> *>};
 #endif
 
 template <class Lane>

@@ -83,9 +83,11 @@ Run_Order run_order(const Lane *lanes, std::size_t count)
     return is_run<true>(lanes, count) ? Run_Order::Descending : Run_Order::Mixed;
 }
 
+constexpr bool has_vectors = HWY_TARGET != HWY_SCALAR && HWY_TARGET != HWY_EMU128;
+
 template <class Lane>
-constexpr Scan_Kernels<Lane> scan_table{float_order<Lane>, run_order<Lane>,
-                                        HWY_TARGET != HWY_SCALAR &&HWY_TARGET != HWY_EMU128};
+constexpr Scan_Kernels<Lane> scan_table{
+    .float_order = float_order<Lane>, .run_order = run_order<Lane>, .sorts_in_vectors = has_vectors};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -108,7 +110,8 @@ Run_Order run_order(const Lane *lanes, std::size_t count) noexcept
 }
 
 template <class Lane>
-constexpr Scan_Kernels<Lane> scan_table{ZEB_PLAIN(float_order), run_order<Lane>, false};
+constexpr Scan_Kernels<Lane> scan_table{
+    .float_order = ZEB_PLAIN(float_order), .run_order = run_order<Lane>, .sorts_in_vectors = false};
 #endif
 
 template <class Lane>

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 
 #if ZEB_HAS_HIGHWAY
 #include "arrays/engine/kernels/vector_targets.hpp"
@@ -22,20 +21,9 @@ namespace HWY_NAMESPACE
 {
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// Above this many bytes a fill bypasses the caches, which could not keep it anyway.
-constexpr std::size_t streaming_bytes = std::size_t{16} << 20;
-
 template <class Lane>
 void fill(Lane *lanes, std::size_t count, Lane value)
 {
-    if constexpr (sizeof(Lane) == 1) {
-        if (count == 0)
-            return;
-        if (count <= streaming_bytes) {
-            std::memset(lanes, value, count);
-            return;
-        }
-    }
     const hn::ScalableTag<Lane> d;
     const std::size_t N = hn::Lanes(d);
     if (count < N || reinterpret_cast<std::uintptr_t>(lanes) % sizeof(Lane) != 0) {
@@ -208,7 +196,8 @@ std::size_t replace_equal(Lane *lanes, std::size_t count, Lane value, Lane repla
 }
 
 template <class Lane>
-constexpr Store_Kernels<Lane> store_table{fill<Lane>, reverse<Lane>, replace_equal<Lane>};
+constexpr Store_Kernels<Lane> store_table{
+    .fill = fill<Lane>, .reverse = reverse<Lane>, .replace_equal = replace_equal<Lane>};
 
 } // namespace HWY_NAMESPACE
 } // namespace zeb::engine::kernels
@@ -224,8 +213,9 @@ namespace zeb::engine::kernels
 #if !ZEB_HAS_HIGHWAY
 template <class Lane>
 constexpr Store_Kernels<Lane> store_table{
-    [](Lane *lanes, std::size_t count, Lane value) { std::fill_n(lanes, count, value); },
-    [](Lane *lanes, std::size_t count) { std::reverse(lanes, lanes + count); }, ZEB_PLAIN(replace_equal)};
+    .fill = [](Lane *lanes, std::size_t count, Lane value) { std::fill_n(lanes, count, value); },
+    .reverse = [](Lane *lanes, std::size_t count) { std::reverse(lanes, lanes + count); },
+    .replace_equal = ZEB_PLAIN(replace_equal)};
 #endif
 
 template <class Lane>

@@ -6,6 +6,9 @@
 namespace zeb::engine::kernels
 {
 
+/// Above this many bytes a fill bypasses the caches, which could not keep it anyway.
+inline constexpr std::size_t streaming_bytes = std::size_t{16} << 20;
+
 template <class Lane>
 struct Store_Kernels {
     /// Stores the value into every lane.

@@ -37,7 +37,26 @@ inline std::size_t chosen_target() noexcept
 #else
 
 #define ZEB_CHOSEN(table) (table)
-/// A table's entry that calls the plain loop of the same purpose.
-#define ZEB_PLAIN(loop) [](auto... arguments) { return plain::loop(arguments...); }
+
+namespace zeb::engine::kernels
+{
+/// Converts to a pointer to a function that calls a plain loop. A generic lambda would do, but g++ does not
+/// convert one in a template.
+template <class Loop>
+struct Plain_Entry {
+    template <bool Never_Throws, class Result, class... Arguments>
+    using Function = Result(Arguments...) noexcept(Never_Throws);
+
+    template <bool Never_Throws, class Result, class... Arguments>
+    constexpr operator Function<Never_Throws, Result, Arguments...> *() const noexcept
+    {
+        return [](Arguments... arguments) noexcept -> Result { return Loop()(arguments...); };
+    }
+};
+} // namespace zeb::engine::kernels
+
+/// A table's entry for the plain loop of the same purpose.
+#define ZEB_PLAIN(loop)                                                                                      \
+    zeb::engine::kernels::Plain_Entry<decltype([](auto... arguments) { return plain::loop(arguments...); })>()
 
 #endif

@@ -243,6 +243,28 @@ struct Plain {
         return replaced;
     }
 
+    uint32_t least() const
+    {
+        return count == 0 ? samples.nothing : reference::minimum(all, samples.precedes);
+    }
+    uint32_t greatest() const
+    {
+        return count == 0 ? samples.nothing : reference::maximum(all, samples.precedes);
+    }
+
+    void fill(uint32_t first, uint32_t last)
+    {
+        for (uint32_t i = first; i <= last && i < count; ++i)
+            all[i] = key();
+    }
+
+    uint32_t replace_every()
+    {
+        const uint32_t replaced = reference::replace_equal(all, in.key, in.other, samples.equal);
+        stores = replaced != 0;
+        return replaced;
+    }
+
     uint32_t key()
     {
         stores = true;

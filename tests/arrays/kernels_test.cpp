@@ -88,7 +88,7 @@ protected:
         const Seen span = walled.span();
         const uint32_t expected = reference::first_index_of_subsequence(elements, pattern);
         ASSERT_EQ(engine::first_index_of_subsequence<Element>(span, pattern), expected) << pattern.size();
-        ASSERT_EQ(engine::first_index_of_subsequence<Element>(span, pattern, Asked_Equality()), expected);
+        ASSERT_EQ(engine::first_index_of_subsequence<Element>(span, pattern, std::equal_to<>()), expected);
         // One element more after the end makes the last occurrence one that is found.
         Elements longer = elements;
         longer.push_back(Element{});
@@ -111,7 +111,7 @@ protected:
         ASSERT_TRUE(engine::sort_with_permutation(walled.span(), walled_marks.span()));
         ASSERT_TRUE(same_bits(walled.elements(), expected) && walled.wall_stands()) << elements.size();
         ASSERT_TRUE(walled_marks.elements() == expected_marks && walled_marks.wall_stands());
-        ASSERT_TRUE(engine::sort_with_permutation<Element>(ours, our_marks, Asked_Less()));
+        ASSERT_TRUE(engine::sort_with_permutation<Element>(ours, our_marks, std::less<>()));
         ASSERT_TRUE(same_bits(ours, expected) && our_marks == expected_marks);
         if (!marks.empty()) {
             our_marks.pop_back();
@@ -136,8 +136,8 @@ TYPED_TEST(Kernels, find_equal_elements)
             const uint32_t last = reference::last_index_of(elements, value);
             ASSERT_EQ(engine::first_index_of(span, value), first) << elements.size();
             ASSERT_EQ(engine::last_index_of(span, value), last) << elements.size();
-            ASSERT_EQ(engine::first_index_of(span, value, Asked_Equality()), first);
-            ASSERT_EQ(engine::last_index_of(span, value, Asked_Equality()), last);
+            ASSERT_EQ(engine::first_index_of(span, value, std::equal_to<>()), first);
+            ASSERT_EQ(engine::last_index_of(span, value, std::equal_to<>()), last);
         }
     });
     on_each_target([&] {
@@ -223,9 +223,9 @@ TYPED_TEST(Kernels, give_the_extremes)
         const std::span<const E> span = walled.span();
         const E low = reference::minimum(elements), high = reference::maximum(elements);
         const engine::Extrema<E> both = engine::minimum_and_maximum(span);
-        for (const E least : {engine::minimum(span), both.minimum, engine::minimum(span, Asked_Less())})
+        for (const E least : {engine::minimum(span), both.minimum, engine::minimum(span, std::less<>())})
             ASSERT_TRUE(same_bits(least, low)) << elements.size();
-        for (const E greatest : {engine::maximum(span), both.maximum, engine::maximum(span, Asked_Less())})
+        for (const E greatest : {engine::maximum(span), both.maximum, engine::maximum(span, std::less<>())})
             ASSERT_TRUE(same_bits(greatest, high)) << elements.size();
     };
     this->on_each_input([&](std::vector<E> elements, unsigned shape, size_t offset) {
@@ -255,7 +255,7 @@ TYPED_TEST(Kernels, see_one_difference_at_every_place)
             const std::span<const E> span(left);
             ASSERT_EQ(engine::same_memory<E>(span, walled.span()), same_bits(left, right));
             ASSERT_EQ(engine::same_values<E>(span, walled.span()), left == right);
-            ASSERT_EQ(engine::same_values<E>(span, walled.span(), Asked_Equality()), left == right);
+            ASSERT_EQ(engine::same_values<E>(span, walled.span(), std::equal_to<>()), left == right);
             right = left;
             if (!left.empty())
                 right[this->random() % left.size()] = this->value_of({}, shape);
@@ -311,7 +311,7 @@ TYPED_TEST(Kernels, remove_and_replace)
                 element = value;
         const auto removed = [&](auto &all) { return reference::remove_equal(all, value); };
         const auto replaced = [&](auto &all) { return reference::replace_equal(all, value, other); };
-        const Asked_Equality asked;
+        const std::equal_to<> asked; // no kernel knows it
         this->hold(
             elements, offset, [&](auto span) { return engine::remove_equal(span, value); }, removed);
         this->hold(

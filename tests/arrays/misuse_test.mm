@@ -3,6 +3,7 @@
 
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
+#include "tests/support/samples.hpp"
 
 #import <objc/runtime.h>
 
@@ -10,17 +11,11 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace
 {
-
-ZEB_UInt_Array *uints(const std::vector<uint32_t> &elements)
-{
-    return
-        [[[ZEB_UInt_Array alloc] init_as_copy_of_uints:elements.data()
-                                                 count:static_cast<uint32_t>(elements.size())] autorelease];
-}
 
 std::vector<uint32_t> elements_of(ZEB_UInt_Vector *vector)
 {
@@ -34,21 +29,21 @@ using Indexes = std::vector<uint32_t>;
 TEST(Permutation, may_be_the_array_itself_or_a_link_onto_it)
 {
     const Indexes order = {2, 0, 3, 1};
-    ZEB_UInt_Array *array = uints(order);
+    ZEB_UInt_Array *array = support::indexes_of(order);
     [array apply_permutation:array];
     EXPECT_EQ(elements_of(array), (Indexes{3, 2, 1, 0}));
-    array = uints(order);
+    array = support::indexes_of(order);
     [array apply_inverse_permutation:array];
     EXPECT_EQ(elements_of(array), (Indexes{0, 1, 2, 3}));
 
     // An entry is overwritten by 5, which names no element, before its turn comes.
-    array = uints({5, 2, 0, 1});
+    array = support::indexes_of({5, 2, 0, 1});
     ZEB_UInt_Array *const link =
         [[[ZEB_UInt_Array alloc] init_as_link_to_uint_vector:array range:ZEB_Index_Range{1, 3}] autorelease];
     [array apply_inverse_permutation:link];
     EXPECT_EQ(elements_of(array), (Indexes{2, 0, 5, 1}));
 
-    array = uints({5, 4, 9});
+    array = support::indexes_of({5, 4, 9});
     [array sort_with_permutation:array];
     EXPECT_EQ(elements_of(array), (Indexes{4, 5, 9}));
 }
@@ -78,7 +73,7 @@ TEST(Ownership, a_link_by_range_takes_the_mode_of_what_it_views_and_a_raw_link_n
     [link set_object:second at_index:0];
     EXPECT_EQ([first retainCount], 1u);
     EXPECT_EQ([second retainCount], 1u);
-    [array copy_settings_from:uints({1, 2})];
+    [array copy_settings_from:support::indexes_of({1, 2})];
     EXPECT_EQ([array ownership_mode], uint32_t { ZEB_OWNERSHIP_BORROWS });
     [first release];
     [second release];
@@ -136,15 +131,6 @@ private:
     Class metaclass;
 };
 
-/// Runs `work`, which is to report the note once and to leave the three elements.
-void expect_refused(ZEB_Collection *array, const char *selector, const char *note,
-                    const std::function<void()> &work)
-{
-    const std::string name = class_getName([array class]);
-    EXPECT_EQ(support::standard_error_of(work), support::fix_line(selector, name, note));
-    EXPECT_EQ([array count], 3u);
-}
-
 /// Arrays of objects that they make themselves, filled by a record of so many empty elements.
 template <class Array>
 void expect_refusals_without_objects(Class element_class)
@@ -155,12 +141,19 @@ void expect_refusals_without_objects(Class element_class)
                             count:sizeof empty_elements];
     Array *const array = [[[Array alloc] init] autorelease];
     [array set_length:3];
+    const std::function<void()> decode = [&] { [array ZEB_decode_binary_contents:record needs_swap:0]; },
+                                lengthen = [&] { [array set_length:40]; },
+                                extend = [&] { [array extend_length_by:40]; };
     const Scarce scarce(element_class, 5);
-    expect_refused(array, "ZEB_decode_binary_contents:needs_swap:", "Runtime error in reallocate macro",
-                   [&] { EXPECT_EQ([array ZEB_decode_binary_contents:record needs_swap:0], 0u); });
-    expect_refused(array, "set_length:", "Runtime error in allocate macro", [&] { [array set_length:40]; });
-    expect_refused(array, "extend_length_by:", "Runtime error in reallocate macro",
-                   [&] { [array extend_length_by:40]; });
+    for (const auto &[selector, failed, work] :
+         {std::tuple("ZEB_decode_binary_contents:needs_swap:", "reallocate", decode),
+          std::tuple("set_length:", "allocate", lengthen),
+          std::tuple("extend_length_by:", "reallocate", extend)}) {
+        EXPECT_EQ(support::standard_error_of(work),
+                  support::fix_line(selector, class_getName([array class]),
+                                    std::string("Runtime error in ") + failed + " macro"));
+        EXPECT_EQ([array count], 3u);
+    }
     makes_until_failure = 100;
     EXPECT_EQ([array ZEB_decode_binary_contents:record needs_swap:0], sizeof empty_elements);
     EXPECT_EQ([array count], 40u);

@@ -123,22 +123,6 @@ bool same_bits(Element left, Element right)
     return std::memcmp(&left, &right, sizeof left) == 0;
 }
 
-/// The own equality and order as functors that no vector kernel knows.
-struct Asked_Equality {
-    template <class Element>
-    bool operator()(const Element &left, const Element &right) const
-    {
-        return left == right;
-    }
-};
-struct Asked_Less {
-    template <class Element>
-    bool operator()(const Element &left, const Element &right) const
-    {
-        return left < right;
-    }
-};
-
 /// Runs the test once for each vector instruction set of this machine.
 template <class Test>
 void on_each_target(Test test)

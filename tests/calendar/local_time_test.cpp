@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <thread>
 
@@ -101,26 +102,16 @@ TEST_F(Local_Time, strftime_text_is_the_date_s_own_in_summer_and_in_gap_hours)
         {berlin, {1969, 12, 31}, 86399, "1969-12-31 23:59:59 Wed 365 CET +0100"},
         {lord_howe, {2021, 1, 1}, 0, "2021-01-01 00:00:00 Fri 001 +11 +1100"},
         {lord_howe, {2021, 7, 1}, 0, "2021-07-01 00:00:00 Thu 182 +1030 +1030"},
-    };
-    constexpr char format[] = "%Y-%m-%d %H:%M:%S %a %j %Z %z";
-    for (const auto &row : rows) {
-        set_zone(row.zone);
-        EXPECT_EQ(formatted(format, engine::make_date_time(row.date, row.second, 0)), row.text) << row.zone;
-    }
-    const struct {
-        const char *zone;
-        ZEB_Gregorian_Date date;
-        std::uint64_t second;
-        const char *text;
-    } gaps[] = {
-        // hours that the local clock leaves out
+        // Hours that the local clock leaves out.
         {new_york, {2021, 3, 14}, 9000, "2021-03-14 02:30:00"},
         {berlin, {2021, 3, 28}, 9000, "2021-03-28 02:30:00"},
         {lord_howe, {2021, 10, 3}, 8100, "2021-10-03 02:15:00"},
     };
-    for (const auto &row : gaps) {
+    constexpr char format[] = "%Y-%m-%d %H:%M:%S %a %j %Z %z";
+    for (const auto &row : rows) {
         set_zone(row.zone);
-        EXPECT_EQ(formatted("%Y-%m-%d %H:%M:%S", engine::make_date_time(row.date, row.second, 0)), row.text);
+        const std::string text = formatted(format, engine::make_date_time(row.date, row.second, 0));
+        EXPECT_EQ(text.substr(0, std::strlen(row.text)), row.text) << row.zone;
     }
 }
 

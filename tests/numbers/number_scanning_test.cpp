@@ -47,7 +47,7 @@ TEST(Real_Scanning, seeded_texts_are_read_as_the_c_library_reads_them)
 {
     std::mt19937_64 random(5);
     const std::string alphabet = "0123456789..eE+-xXpPinfaNINFTYty \t,";
-    const std::string words[] = {"inf",
+    const char *const words[] = {"inf",
                                  "-Infinity",
                                  "nan(12)",
                                  "NaN",
@@ -92,26 +92,25 @@ TEST(Integer_Scanning, seeded_texts_are_read_as_the_c_library_reads_them)
                 return function(chars, length, base, value);
             };
         };
-        const auto as_signed = [base](const std::string &t, auto *v) {
-            return reference::scan_signed(t, base, v);
+        const auto as = [](auto scan, int any_base) {
+            return [=](const std::string &t, auto *v) { return scan(t, any_base, v); };
         };
-        const auto as_unsigned = [base](const std::string &t, auto *v) {
-            return reference::scan_unsigned(t, base, v);
+        const auto as_signed = [](const std::string &t, int b, auto *v) {
+            return reference::scan_signed(t, b, v);
         };
-        const auto as_decimal = [](const std::string &t, auto *v) {
-            return reference::scan_signed(t, 10, v);
+        const auto as_unsigned = [](const std::string &t, int b, auto *v) {
+            return reference::scan_unsigned(t, b, v);
         };
-        const auto as_plain = [](const std::string &t, auto *v) {
-            return reference::scan_unsigned(t, 10, v);
-        };
-        expect_same_scan<std::int32_t>(text, ZC_assign_int_from_char_c_array, as_decimal);
-        expect_same_scan<std::uint32_t>(text, ZC_assign_unsigned_from_char_c_array, as_plain);
-        expect_same_scan<std::int32_t>(text, in_base(ZC_assign_int_with_base_from_char_c_array), as_signed);
+        expect_same_scan<std::int32_t>(text, ZC_assign_int_from_char_c_array, as(as_signed, 10));
+        expect_same_scan<std::uint32_t>(text, ZC_assign_unsigned_from_char_c_array, as(as_unsigned, 10));
+        expect_same_scan<std::int32_t>(text, in_base(ZC_assign_int_with_base_from_char_c_array),
+                                       as(as_signed, base));
         expect_same_scan<std::uint32_t>(text, in_base(ZC_assign_unsigned_with_base_from_char_c_array),
-                                        as_unsigned);
-        expect_same_scan<std::int64_t>(text, in_base(ZC_assign_int64_with_base_from_char_c_array), as_signed);
+                                        as(as_unsigned, base));
+        expect_same_scan<std::int64_t>(text, in_base(ZC_assign_int64_with_base_from_char_c_array),
+                                       as(as_signed, base));
         expect_same_scan<std::uint64_t>(text, in_base(ZC_assign_unsigned64_with_base_from_char_c_array),
-                                        as_unsigned);
+                                        as(as_unsigned, base));
         ASSERT_FALSE(HasFailure());
     }
 }

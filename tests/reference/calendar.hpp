@@ -48,37 +48,6 @@ inline ZEB_Gregorian_Date date_from_julian_day(std::int32_t julian_day)
             static_cast<std::int32_t>(day)};
 }
 
-// For instants whose day number fits in 32 bits.
-inline char *pretty_date(char *buffer, double s)
-{
-    std::int64_t days = static_cast<std::int64_t>(std::trunc(s / 86400.0));
-    if (s < 0)
-        days = days - 1;
-    const double r = s - static_cast<double>(days) * 86400.0;
-    std::int64_t day_number = days + 2440588;
-    const double hours = std::trunc(r / 3600.0);
-    const double minutes = std::trunc((r - hours * 3600.0) / 60.0);
-    const double seconds = r - minutes * 60.0 - hours * 3600.0;
-    unsigned printed_hour = static_cast<unsigned>(hours);
-    if (printed_hour == 24) {
-        printed_hour = 0;
-        day_number = day_number + 1;
-    }
-    const unsigned printed_minute = static_cast<unsigned>(minutes);
-    const ZEB_Gregorian_Date date = date_from_julian_day(static_cast<std::int32_t>(day_number));
-    if (printed_hour == 0 && printed_minute == 0 && seconds < 1e-6)
-        return buffer + std::sprintf(buffer, "%d/%d/%d", date.month, date.day, date.year);
-    const char *format = seconds < 10.0 ? "%d/%d/%d %02u:%02u:0%-#10.6f" : "%d/%d/%d %02u:%02u:%-#10.6f";
-    char *end = buffer + std::sprintf(buffer, format, date.month, date.day, date.year, printed_hour,
-                                      printed_minute, seconds);
-    while (end[-1] == ' ' || end[-1] == '0')
-        --end;
-    if (end[-1] == '.')
-        --end;
-    *end = '\0';
-    return end;
-}
-
 // Both date scanners at once.
 inline std::uint32_t assign_seconds(const char *chars, std::uint32_t length, double *result)
 {

@@ -4,23 +4,16 @@
 
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
+#include "tests/support/strings.hpp"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-using support::fix_line;
-using support::standard_error_of;
+using namespace support;
 
 namespace
 {
-
-ZEB_String *string_of(std::string_view text)
-{
-    ZEB_String *const string = [[[ZEB_String alloc] init] autorelease];
-    [string copy_c_string:text.data() length:static_cast<uint32_t>(text.size())];
-    return string;
-}
 
 ZEB_Wide_String *wide_of(std::u32string_view units)
 {
@@ -34,7 +27,7 @@ ZEB_Wide_String *wide_of(std::u32string_view units)
 
 TEST(String_Operations, platform_sorts_order_by_the_platform_s_codes)
 {
-    ZEB_String *const in_order[] = {string_of(""), string_of("ab"), string_of("b"), string_of("\xC3")};
+    ZEB_String *const in_order[] = {text(""), text("ab"), text("b"), text("\xC3")};
     NSArray *const strings =
         [NSArray arrayWithObjects:in_order[2], in_order[0], in_order[3], in_order[1], nil];
     NSArray *const sorted = [strings sortedArrayUsingSelector:@selector(platform_compare:)];
@@ -43,38 +36,38 @@ TEST(String_Operations, platform_sorts_order_by_the_platform_s_codes)
     NSArray *const wide = [NSArray arrayWithObjects:wide_of(U"b"), wide_of(U"a"), nil];
     EXPECT_EQ([[wide sortedArrayUsingSelector:@selector(platform_compare:)] objectAtIndex:0],
               [wide objectAtIndex:1]);
-    EXPECT_EQ([string_of("a") platform_compare:string_of("a")], NSOrderedSame);
-    EXPECT_EQ([string_of("a") platform_compare:(id) @"a"], NSOrderedDescending);
-    EXPECT_EQ([string_of("") platform_compare:nil], NSOrderedSame);
+    EXPECT_EQ([text("a") platform_compare:text("a")], NSOrderedSame);
+    EXPECT_EQ([text("a") platform_compare:(id) @"a"], NSOrderedDescending);
+    EXPECT_EQ([text("") platform_compare:nil], NSOrderedSame);
 }
 
 TEST(String_Operations, strings_describe_themselves_as_their_text)
 {
     ZEB_String_Array *const strings = [[[ZEB_String_Array alloc] init] autorelease];
     ZEB_Object_Array *const objects = [[[ZEB_Object_Array alloc] init] autorelease];
-    for (const char *text : {"caf\xC3\xA9", "caf\xE9", "", "{}"}) {
-        [strings append_string:string_of(text)];
-        [objects append_object:string_of(text)];
+    for (const char *word : {"caf\xC3\xA9", "caf\xE9", "", "{}"}) {
+        [strings append_string:text(word)];
+        [objects append_object:text(word)];
     }
     [objects append_object:wide_of(U"w\xE9")];
     [objects append_object:strings];
     EXPECT_STREQ([[strings description] UTF8String], "{caf\xC3\xA9, caf\xC3\xA9, , {}}");
     EXPECT_STREQ([[objects description] UTF8String],
                  "{caf\xC3\xA9, caf\xC3\xA9, , {}, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
-    EXPECT_STREQ([[string_of("caf\xE9") description] UTF8String], "caf\xC3\xA9");
+    EXPECT_STREQ([[text("caf\xE9") description] UTF8String], "caf\xC3\xA9");
     EXPECT_STREQ([[wide_of(U"text") description] UTF8String], "text");
 }
 
 TEST(String_Operations, search_and_scan)
 {
-    ZEB_String *const abc = string_of("abc");
+    ZEB_String *const abc = text("abc");
     EXPECT_EQ([abc index_of_substring:"b" length:1], 1u);
     EXPECT_EQ([abc index_of_substring:"bc" length:2], ZEB_NOT_FOUND);
     EXPECT_EQ([abc index_of_substring:"abc" length:3], ZEB_NOT_FOUND);
-    EXPECT_EQ([string_of("  -3 x") index_of_number_start], 2u);
-    EXPECT_EQ([string_of("12 apples") number_prefix_length], 2u);
-    EXPECT_EQ([string_of("x = 4.2e1  ") index_of_number_end], 8u);
-    EXPECT_EQ([string_of("12E5") index_of_last_non_number], 2u);
+    EXPECT_EQ([text("  -3 x") index_of_number_start], 2u);
+    EXPECT_EQ([text("12 apples") number_prefix_length], 2u);
+    EXPECT_EQ([text("x = 4.2e1  ") index_of_number_end], 8u);
+    EXPECT_EQ([text("12E5") index_of_last_non_number], 2u);
     EXPECT_EQ([wide_of(U"abc") index_of_char:'c'], 2u);
     EXPECT_EQ([wide_of(U"abc") index_of_char:'d'], ZEB_NOT_FOUND);
     const uint32_t b[] = {'b', 'c'};
@@ -85,13 +78,13 @@ TEST(String_Operations, search_and_scan)
 TEST(String_Operations, compare_the_three_ways)
 {
     const struct {
-        std::string_view left, right;
+        const char *left, *right;
         ZEB_Comparison plain, folded;
     } rows[] = {{"ab", "abc", 2, 2}, {"abc", "ab", 3, 3},    {"ABC", "abd", 2, 2}, {"abc", "ABC", 3, 1},
                 {"\xE9", "a", 3, 2}, {"same", "same", 1, 1}, {"", "", 1, 1}};
     for (const auto &row : rows) {
-        ZEB_String *const left = string_of(row.left);
-        ZEB_String *const right = string_of(row.right);
+        ZEB_String *const left = text(row.left);
+        ZEB_String *const right = text(row.right);
         EXPECT_EQ([left compare:right], row.plain);
         EXPECT_EQ([left is_less:right], row.plain == 2);
         EXPECT_EQ([left is_equal:right], row.plain == 1);
@@ -103,9 +96,9 @@ TEST(String_Operations, compare_the_three_ways)
     EXPECT_EQ([wide_of(U"A") is_equal:wide_of(U"A")], 1);
     EXPECT_EQ([wide_of(U"A") is_equal:wide_of(U"B")], 0);
     ZEB_String *const none = nil;
-    EXPECT_EQ([string_of("") is_equal:none], 0);
-    EXPECT_EQ([string_of("") is_equal_ignoring_case:none], 0);
-    EXPECT_EQ([string_of("a") compare:none], 3u);
+    EXPECT_EQ([text("") is_equal:none], 0);
+    EXPECT_EQ([text("") is_equal_ignoring_case:none], 0);
+    EXPECT_EQ([text("a") compare:none], 3u);
 }
 
 TEST(String_Operations, copy_and_append_8_bit_characters)
@@ -119,7 +112,7 @@ TEST(String_Operations, copy_and_append_8_bit_characters)
     EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9, 'z', 'y'}));
     [wide copy_chars:"0123456789abcdef" length:16];
     EXPECT_EQ([wide capacity], 32u);
-    ZEB_String *const narrow = string_of("0123456789abcde");
+    ZEB_String *const narrow = text("0123456789abcde");
     EXPECT_EQ([narrow capacity], 16u);
     EXPECT_EQ(zeb::view(narrow), "0123456789abcde");
     [ZEB_Wide_String set_growth_seed:3];
@@ -152,7 +145,7 @@ TEST(String_Operations, refuse_on_links_under_their_own_names)
     expect("append_chars:length:", "ZEB_Wide_String", no_append, [&] { [wide append_chars:"x" length:1]; });
     expect("set_code_points_from_utf8:", "ZEB_Wide_String",
            "Cannot update length through link, no adjustment made.",
-           [&] { EXPECT_EQ([wide set_code_points_from_utf8:string_of("x")], 0); });
+           [&] { EXPECT_EQ([wide set_code_points_from_utf8:text("x")], 0); });
     expect("split_to_surrogate_pairs", "ZEB_Wide_String",
            "Cannot update capacity through link, no adjustment made.",
            [&] { [wide split_to_surrogate_pairs]; });
@@ -162,15 +155,15 @@ TEST(String_Operations, refuse_on_links_under_their_own_names)
 
 TEST(String_Operations, turn_utf8_into_code_points_and_back)
 {
-    ZEB_String *const utf8 = string_of("a\xC3\xA9\xF0\x9F\x98\x80");
+    ZEB_String *const utf8 = text("a\xC3\xA9\xF0\x9F\x98\x80");
     ZEB_Wide_String *const wide = wide_of(U"kept");
     EXPECT_EQ([utf8 is_valid_utf8], 1);
-    EXPECT_EQ([string_of("\xC3") is_valid_utf8], 0);
-    EXPECT_EQ([wide set_code_points_from_utf8:string_of("xyz\xC3")], 0);
+    EXPECT_EQ([text("\xC3") is_valid_utf8], 0);
+    EXPECT_EQ([wide set_code_points_from_utf8:text("xyz\xC3")], 0);
     EXPECT_EQ(zeb::view(wide), U"kept");
     EXPECT_EQ([wide set_code_points_from_utf8:utf8], 1);
     EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
-    ZEB_String *const back = string_of("kept");
+    ZEB_String *const back = text("kept");
     EXPECT_EQ([wide write_code_points_as_utf8:back], 1);
     EXPECT_EQ(zeb::view(back), zeb::view(utf8));
     [wide split_to_surrogate_pairs];
@@ -184,19 +177,19 @@ TEST(String_Operations, turn_utf8_into_code_points_and_back)
 TEST(String_Operations, serve_as_keys_of_a_dictionary)
 {
     NSMutableDictionary *const table = [NSMutableDictionary dictionary];
-    ZEB_String *const key = string_of("key");
+    ZEB_String *const key = text("key");
     ZEB_Wide_String *const wide_key = wide_of(U"\U0001F511");
     [table setObject:@"narrow" forKey:(id)key];
     [table setObject:@"wide" forKey:(id)wide_key];
     [key append_c_string:"s" length:1]; // the table keeps a copy
-    EXPECT_TRUE([[table objectForKey:string_of("key")] isEqual:@"narrow"]);
+    EXPECT_TRUE([[table objectForKey:text("key")] isEqual:@"narrow"]);
     EXPECT_TRUE([[table objectForKey:wide_of(U"\U0001F511")] isEqual:@"wide"]);
-    EXPECT_EQ([table objectForKey:string_of("keys")], nil);
+    EXPECT_EQ([table objectForKey:text("keys")], nil);
 }
 
 TEST(String_Views, are_live_and_empty_without_a_string)
 {
-    ZEB_String *const string = string_of("abc");
+    ZEB_String *const string = text("abc");
     const std::string_view view = zeb::view(string);
     [string char_data][1] = 'X';
     EXPECT_EQ(view, "aXc");

@@ -96,6 +96,12 @@ inline bool precedes(ZEB_Byte_Array *left, ZEB_Byte_Array *right)
                                         [right byte_data] + [right count]);
 }
 
+inline ZEB_UInt_Array *indexes_of(const std::vector<uint32_t> &numbers)
+{
+    return [[[ZEB_UInt_Array alloc] init_as_copy_of_uints:numbers.data()
+                                                    count:static_cast<uint32_t>(numbers.size())] autorelease];
+}
+
 /// Elements that are objects, and those whose contents an array copies into objects of its own.
 template <class Element>
 constexpr bool is_object = std::is_convertible_v<Element, id> && !std::is_same_v<Element, void *>;

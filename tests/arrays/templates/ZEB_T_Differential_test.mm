@@ -117,7 +117,7 @@ struct Ours {
     bool is_link;
     Element other = samples()[in.other], key;
     ZEB_Index_Range range{in.from, in.to};
-    ZEB_UInt_Array *indexes = indexes_of(in.indexes);
+    ZEB_UInt_Array *indexes = support::indexes_of(in.indexes);
     ZEB_T_Array *run = array_of(in.run), *replacement = array_of(in.replacement), *own = nil;
     uint32_t run_count = static_cast<uint32_t>(in.run.size());
     const Numbers counted = references();
@@ -138,17 +138,18 @@ private:
 using Ours_Does = uint64_t (*)(Ours &);
 using Plain_Does = uint64_t (*)(Plain &);
 
-/// An operation's answer, 0 for one that has none.
-template <class Operation, class Side>
+/// What a side does answers, 0 where the operation has no answer.
+template <bool has_answer, class Does, class Side>
 uint64_t answer_of(Side &side)
 {
-    if constexpr (std::is_void_v<decltype(Operation()(side))>) {
-        Operation()(side);
-        return 0;
-    } else {
-        return Operation()(side);
-    }
+    if constexpr (has_answer)
+        return Does()(side);
+    Does()(side);
+    return 0;
 }
+
+template <class Operation>
+constexpr bool has_answer = !std::is_void_v<decltype(Operation()(std::declval<Ours &>()))>;
 
 enum Memory_Use { grows, works_without_memory };
 
@@ -173,7 +174,8 @@ public:
     void operator()(Needs needs, Operation, Reference)
     {
         for (const Place place : {Place::array, Place::vector, Place::link_to_array, Place::link_of_vector})
-            hold_at(place, needs, answer_of<Operation, Ours>, answer_of<Reference, Plain>);
+            hold_at(place, needs, answer_of<has_answer<Operation>, Operation, Ours>,
+                    answer_of<has_answer<Operation>, Reference, Plain>);
     }
 
     /// An operation of growable arrays.
@@ -181,7 +183,8 @@ public:
     void arrays(Needs needs, Operation, Reference)
     {
         for (const Place place : {Place::array, Place::link_to_array})
-            hold_at(place, needs, answer_of<Operation, Ours>, answer_of<Reference, Plain>);
+            hold_at(place, needs, answer_of<has_answer<Operation>, Operation, Ours>,
+                    answer_of<has_answer<Operation>, Reference, Plain>);
     }
 
     size_t failed_allocations() const { return failures; }
@@ -298,259 +301,155 @@ private:
     support::Captured_Output captured{stderr};
 };
 
+uint64_t extremes_of(ZEB_T_Vector *vector)
+{
+    Element low = Element(), high = Element();
+    [vector get_minimum_TT_word:&low maximum:&high];
+    return uint64_t{number_of(low)} << 32 | number_of(high);
+}
+
 } // namespace
+
+// A row: what the operation needs of its input, the operation on `o`, and its plain form on `p`.
+#define HOLD(needs, ours, plain)                                                                             \
+    hold(                                                                                                    \
+        needs, [](Ours &o) { return ours; }, [](Plain &p) { return plain; })
+#define HOLD_ARRAYS(needs, ours, plain)                                                                      \
+    hold.arrays(                                                                                             \
+        needs, [](Ours &o) { return ours; }, [](Plain &p) { return plain; })
 
 TEST(ZEB_T_Differential, searches_find_what_the_plain_scan_finds)
 {
     Differential hold(works_without_memory);
-    hold(
-        anything, [](Ours &o) { return [o.vector index_of_TT_word:o.key]; },
-        [](Plain &p) { return reference::first_index_of(p.all, p.in.key, p.samples.equal); });
-    hold(
-        anything, [](Ours &o) { return [o.vector last_index_of_TT_word:o.key]; },
-        [](Plain &p) { return reference::last_index_of(p.all, p.in.key, p.samples.equal); });
-    hold(
-        anything, [](Ours &o) { return [o.vector index_of_TT_words:[o.run TT_word_data] count:o.run_count]; },
-        [](Plain &p) { return reference::first_index_of_subsequence(p.all, p.in.run, p.samples.equal); });
-    const auto least = [](Plain &p) {
-        return p.count == 0 ? p.samples.nothing : reference::minimum(p.all, p.samples.precedes);
-    };
-    const auto greatest = [](Plain &p) {
-        return p.count == 0 ? p.samples.nothing : reference::maximum(p.all, p.samples.precedes);
-    };
-    hold(
-        anything, [](Ours &o) { return number_of([o.vector minimum_TT_word]); }, least);
-    hold(
-        anything, [](Ours &o) { return number_of([o.vector maximum_TT_word]); }, greatest);
-    hold(
-        anything,
-        [](Ours &o) {
-            Element low = Element(), high = Element();
-            [o.vector get_minimum_TT_word:&low maximum:&high];
-            return uint64_t{number_of(low)} << 32 | number_of(high);
-        },
-        [](Plain &p) { return uint64_t{decltype(least)()(p)} << 32 | decltype(greatest)()(p); });
-    hold(
-        a_likeness, [](Ours &o) { return [o.vector is_equal_to_vector:o.run]; },
-        [](Plain &p) { return p.all == p.in.run; });
-    hold(
-        a_likeness, [](Ours &o) { return [o.vector is_equal_to_collection:o.run]; },
-        [](Plain &p) { return reference::same_values(p.all, p.in.run, p.samples.equal); });
+    HOLD(anything, [o.vector index_of_TT_word:o.key],
+         reference::first_index_of(p.all, p.in.key, p.samples.equal));
+    HOLD(anything, [o.vector last_index_of_TT_word:o.key],
+         reference::last_index_of(p.all, p.in.key, p.samples.equal));
+    HOLD(anything, [o.vector index_of_TT_words:[o.run TT_word_data] count:o.run_count],
+         reference::first_index_of_subsequence(p.all, p.in.run, p.samples.equal));
+    HOLD(anything, number_of([o.vector minimum_TT_word]), p.least());
+    HOLD(anything, number_of([o.vector maximum_TT_word]), p.greatest());
+    HOLD(anything, extremes_of(o.vector), uint64_t{p.least()} << 32 | p.greatest());
+    HOLD(a_likeness, [o.vector is_equal_to_vector:o.run], p.all == p.in.run);
+    HOLD(a_likeness, [o.vector is_equal_to_collection:o.run],
+         reference::same_values(p.all, p.in.run, p.samples.equal));
 }
 
 TEST(ZEB_T_Differential, ordered_operations_ask_and_end_as_told)
 {
     Differential hold;
-    hold(
-        order, [](Ours &o) { return [o.vector ordered_index_of_TT_word:o.key]; },
-        [](Plain &p) { return p.told(reference::ordered_find(p.all, p.in.key, p.own())); });
-    hold(
-        order, [](Ours &o) { return [o.vector ordered_index_of_TT_word:o.key comparison:compare]; },
-        [](Plain &p) { return p.told(reference::ordered_find(p.all, p.in.key, p.asked())); });
-    hold(
-        order, [](Ours &o) { return [o.vector nearest_ordered_index_of_TT_word:o.key]; },
-        [](Plain &p) { return p.told(reference::ordered_find_nearest(p.all, p.in.key, p.own())); });
-    hold(
-        order, [](Ours &o) { return [o.vector nearest_ordered_index_of_TT_word:o.key comparison:compare]; },
-        [](Plain &p) { return p.told(reference::ordered_find_nearest(p.all, p.in.key, p.asked())); });
-    hold.arrays(
-        order, [](Ours &o) { return [o.array ordered_insert_TT_word:o.give(o.key) inserts:o.in.inserts]; },
-        [](Plain &p) { return p.insert(p.own()); });
-    hold.arrays(
-        order,
-        [](Ours &o) {
-            return [o.array ordered_insert_TT_word:o.give(o.key) comparison:compare inserts:o.in.inserts];
-        },
-        [](Plain &p) { return p.insert(p.asked()); });
+    HOLD(order, [o.vector ordered_index_of_TT_word:o.key],
+         p.told(reference::ordered_find(p.all, p.in.key, p.own())));
+    HOLD(order, [o.vector ordered_index_of_TT_word:o.key comparison:compare],
+         p.told(reference::ordered_find(p.all, p.in.key, p.asked())));
+    HOLD(order, [o.vector nearest_ordered_index_of_TT_word:o.key],
+         p.told(reference::ordered_find_nearest(p.all, p.in.key, p.own())));
+    HOLD(order, [o.vector nearest_ordered_index_of_TT_word:o.key comparison:compare],
+         p.told(reference::ordered_find_nearest(p.all, p.in.key, p.asked())));
+    HOLD_ARRAYS(order, [o.array ordered_insert_TT_word:o.give(o.key) inserts:o.in.inserts],
+                p.insert(p.own()));
+    HOLD_ARRAYS(order, [o.array ordered_insert_TT_word:o.give(o.key) comparison:compare inserts:o.in.inserts],
+                p.insert(p.asked()));
 }
 
 TEST(ZEB_T_Differential, elements_are_stored_and_replaced)
 {
     Differential hold;
-    hold(
-        an_element, [](Ours &o) { [o.vector set_TT_word:o.give(o.key) at_index:o.in.from]; },
-        [](Plain &p) { p.all[p.in.from] = p.key(); });
-    hold(
-        an_element, [](Ours &o) { [o.vector set_TT_word:o.give(o.key) at_index_from_end:o.in.from]; },
-        [](Plain &p) { p.all[p.count - 1 - p.in.from] = p.key(); });
-    hold(
-        anything, [](Ours &o) { [o.vector fill_with_TT_word:o.give(o.key)]; },
-        [](Plain &p) {
-            if (p.count != 0)
-                p.all.assign(p.count, p.key());
-        });
-    hold(
-        anything, [](Ours &o) { [o.vector fill_range:o.range with_TT_word:o.give(o.key)]; },
-        [](Plain &p) {
-            for (uint32_t i = p.in.from; i <= p.in.to && i < p.count; ++i)
-                p.all[i] = p.key();
-        });
-    hold(
-        anything, [](Ours &o) { return [o.vector replace_every_TT_word:o.key with:o.give(o.other)]; },
-        [](Plain &p) {
-            const uint32_t replaced = reference::replace_equal(p.all, p.in.key, p.in.other, p.samples.equal);
-            p.stores = replaced != 0;
-            return replaced;
-        });
-    hold.arrays(
-        anything, [](Ours &o) { return [o.array replace_occurrences:o.run replacement:o.replacement]; },
-        [](Plain &p) { return p.replace_occurrences(); });
+    HOLD(an_element, [o.vector set_TT_word:o.give(o.key) at_index:o.in.from], p.all[p.in.from] = p.key());
+    HOLD(an_element, [o.vector set_TT_word:o.give(o.key) at_index_from_end:o.in.from],
+         p.all[p.count - 1 - p.in.from] = p.key());
+    HOLD(anything, [o.vector fill_with_TT_word:o.give(o.key)], p.fill(0, UINT32_MAX));
+    HOLD(anything, [o.vector fill_range:o.range with_TT_word:o.give(o.key)], p.fill(p.in.from, p.in.to));
+    HOLD(anything, [o.vector replace_every_TT_word:o.key with:o.give(o.other)], p.replace_every());
+    HOLD_ARRAYS(anything, [o.array replace_occurrences:o.run replacement:o.replacement],
+                p.replace_occurrences());
 }
 
 TEST(ZEB_T_Differential, elements_go_in)
 {
     Differential hold;
-    hold.arrays(
-        anything, [](Ours &o) { [o.array append_TT_word:o.give(o.key)]; },
-        [](Plain &p) { p.is_link ? void(++p.reports) : p.insert_one(p.count); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array insert_TT_word:o.give(o.key) at_index:o.in.to]; },
-        [](Plain &p) { p.is_link ? void(++p.reports) : p.insert_one(p.in.to); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array copy_TT_word:o.give(o.key)]; },
-        [](Plain &p) { p.is_link ? void(++p.reports) : p.assign({p.key()}); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array append_array:o.run]; }, [](Plain &p) { p.append(p.in.run); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array append_array:o.own]; }, [](Plain &p) { p.append(p.own_run()); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array append_TT_words:o.give_run() count:o.run_count]; },
-        [](Plain &p) { p.append(p.in.run); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array insert_array:o.run at_index:o.in.to]; },
-        [](Plain &p) { p.insert(p.in.to, p.in.run); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array insert_array:o.own at_index:o.in.to]; },
-        [](Plain &p) { p.insert(p.in.to, p.own_run()); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array replace_element_at_index:o.in.from with_array:o.run]; },
-        [](Plain &p) { p.replace_element(p.in.run); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array replace_element_at_index:o.in.from with_array:o.own]; },
-        [](Plain &p) { p.replace_element(p.own_run()); });
-    hold.arrays(
-        anything,
-        [](Ours &o) {
-            [o.array replace_element_at_index:o.in.from with_TT_words:o.give_run() count:o.run_count];
-        },
-        [](Plain &p) { p.replace_element(p.in.run); });
+    HOLD_ARRAYS(anything, [o.array append_TT_word:o.give(o.key)],
+                p.is_link ? void(++p.reports) : p.insert_one(p.count));
+    HOLD_ARRAYS(anything, [o.array insert_TT_word:o.give(o.key) at_index:o.in.to],
+                p.is_link ? void(++p.reports) : p.insert_one(p.in.to));
+    HOLD_ARRAYS(anything, [o.array copy_TT_word:o.give(o.key)],
+                p.is_link ? void(++p.reports) : p.assign({p.key()}));
+    HOLD_ARRAYS(anything, [o.array append_array:o.run], p.append(p.in.run));
+    HOLD_ARRAYS(anything, [o.array append_array:o.own], p.append(p.own_run()));
+    HOLD_ARRAYS(anything, [o.array append_TT_words:o.give_run() count:o.run_count], p.append(p.in.run));
+    HOLD_ARRAYS(anything, [o.array insert_array:o.run at_index:o.in.to], p.insert(p.in.to, p.in.run));
+    HOLD_ARRAYS(anything, [o.array insert_array:o.own at_index:o.in.to], p.insert(p.in.to, p.own_run()));
+    HOLD_ARRAYS(anything, [o.array replace_element_at_index:o.in.from with_array:o.run],
+                p.replace_element(p.in.run));
+    HOLD_ARRAYS(anything, [o.array replace_element_at_index:o.in.from with_array:o.own],
+                p.replace_element(p.own_run()));
+    HOLD_ARRAYS(anything,
+                [o.array replace_element_at_index:o.in.from with_TT_words:o.give_run() count:o.run_count],
+                p.replace_element(p.in.run));
 }
 
 TEST(ZEB_T_Differential, contents_are_taken_over)
 {
     Differential hold;
-    hold.arrays(
-        anything, [](Ours &o) { [o.array set_contents_of_array:o.run]; },
-        [](Plain &p) { p.assign(p.in.run); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array set_contents_of_array:o.own]; },
-        [](Plain &p) { p.assign(p.own_run()); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array set_TT_words:o.give_run() count:o.run_count]; },
-        [](Plain &p) { p.assign(p.in.run); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array copy_vector:o.run capacity:o.in.room]; },
-        [](Plain &p) { p.copy(p.in.run); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array copy_vector:o.own capacity:o.in.room]; },
-        [](Plain &p) { p.copy(p.own_run()); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array copy_TT_words:o.give_run() count:o.run_count capacity:o.in.room]; },
-        [](Plain &p) { p.copy(p.in.run); });
+    HOLD_ARRAYS(anything, [o.array set_contents_of_array:o.run], p.assign(p.in.run));
+    HOLD_ARRAYS(anything, [o.array set_contents_of_array:o.own], p.assign(p.own_run()));
+    HOLD_ARRAYS(anything, [o.array set_TT_words:o.give_run() count:o.run_count], p.assign(p.in.run));
+    HOLD_ARRAYS(anything, [o.array copy_vector:o.run capacity:o.in.room], p.copy(p.in.run));
+    HOLD_ARRAYS(anything, [o.array copy_vector:o.own capacity:o.in.room], p.copy(p.own_run()));
+    HOLD_ARRAYS(anything, [o.array copy_TT_words:o.give_run() count:o.run_count capacity:o.in.room],
+                p.copy(p.in.run));
     EXPECT_GT(hold.failed_allocations(), 20u);
 }
 
 TEST(ZEB_T_Differential, lengths_and_capacities_change)
 {
     Differential hold;
-    hold.arrays(
-        anything, [](Ours &o) { [o.array set_length:o.in.from]; }, [](Plain &p) { p.resize(p.in.from); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array extend_length_by:o.in.room]; },
-        [](Plain &p) { p.resize(p.count + p.in.room); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array ensure_room_for:o.in.room]; },
-        [](Plain &p) { p.make_room_unless_link(p.count + p.in.room); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array ensure_capacity_greater_than:o.in.room]; },
-        [](Plain &p) { p.make_room_unless_link(p.in.room); });
-    hold.arrays(
-        anything, [](Ours &o) { [o.array trim_allocation]; }, [](Plain &p) { p.trim(); });
-    hold(
-        an_element, [](Ours &o) { [o.vector set_count:o.in.from]; }, [](Plain &p) { p.count = p.in.from; });
-    hold(
-        anything, [](Ours &o) { [o.vector decrease_count:o.in.from]; },
-        [](Plain &p) { p.count -= std::min(p.count, p.in.from); });
-    hold(
-        anything, [](Ours &o) { [o.vector clear]; }, [](Plain &p) { p.count = 0; });
+    HOLD_ARRAYS(anything, [o.array set_length:o.in.from], p.resize(p.in.from));
+    HOLD_ARRAYS(anything, [o.array extend_length_by:o.in.room], p.resize(p.count + p.in.room));
+    HOLD_ARRAYS(anything, [o.array ensure_room_for:o.in.room], p.make_room_unless_link(p.count + p.in.room));
+    HOLD_ARRAYS(anything, [o.array ensure_capacity_greater_than:o.in.room],
+                p.make_room_unless_link(p.in.room));
+    HOLD_ARRAYS(anything, [o.array trim_allocation], p.trim());
+    HOLD(an_element, [o.vector set_count:o.in.from], p.count = p.in.from);
+    HOLD(anything, [o.vector decrease_count:o.in.from], p.count -= std::min(p.count, p.in.from));
+    HOLD(anything, [o.vector clear], p.count = 0);
 }
 
 TEST(ZEB_T_Differential, elements_are_removed)
 {
     Differential hold;
-    hold(
-        anything, [](Ours &o) { [o.vector remove_every_TT_word:o.key]; },
-        [](Plain &p) { p.count = reference::remove_equal(p.all, p.in.key, p.samples.equal); });
-    hold(
-        anything, [](Ours &o) { [o.vector remove_element_at_index:o.in.from]; },
-        [](Plain &p) {
-            if (p.in.from < p.count)
-                p.close_gap(p.in.from, p.in.from + 1);
-        });
-    hold(
-        anything, [](Ours &o) { [o.vector remove_range:o.range]; }, [](Plain &p) { p.change_range(false); });
-    hold(
-        anything, [](Ours &o) { [o.vector replace_range:o.range with_TT_word:o.give(o.key)]; },
-        [](Plain &p) { p.change_range(true); });
+    HOLD(anything, [o.vector remove_every_TT_word:o.key],
+         p.count = reference::remove_equal(p.all, p.in.key, p.samples.equal));
+    HOLD(anything, [o.vector remove_element_at_index:o.in.from],
+         p.in.from < p.count ? p.close_gap(p.in.from, p.in.from + 1) : void());
+    HOLD(anything, [o.vector remove_range:o.range], p.change_range(false));
+    HOLD(anything, [o.vector replace_range:o.range with_TT_word:o.give(o.key)], p.change_range(true));
 }
 
 TEST(ZEB_T_Differential, elements_change_places)
 {
     Differential hold;
-    hold(
-        anything, [](Ours &o) { [o.vector swap_element_at_index:o.in.from with_index:o.in.to]; },
-        [](Plain &p) {
-            if (p.both_inside())
-                reference::swap(p.all, p.in.from, p.in.to);
-        });
-    hold(
-        anything, [](Ours &o) { [o.vector move_element_from_index:o.in.from to_index:o.in.to]; },
-        [](Plain &p) {
-            if (p.both_inside())
-                reference::move(p.all, p.in.from, p.in.to);
-        });
-    hold(
-        anything, [](Ours &o) { [o.vector reverse]; }, [](Plain &p) { reference::reverse(p.all); });
-    hold(
-        a_shape, [](Ours &o) { [o.vector transpose_rows:o.in.from columns:o.in.to]; },
-        [](Plain &p) { reference::transpose(p.all, p.in.from, p.in.to); });
-    hold(
-        a_permutation, [](Ours &o) { [o.vector apply_permutation:o.indexes]; },
-        [](Plain &p) {
-            if (p.may_permute())
-                reference::apply_permutation(p.all, p.indexes);
-        });
-    hold(
-        a_permutation, [](Ours &o) { [o.vector apply_inverse_permutation:o.indexes]; },
-        [](Plain &p) {
-            if (p.may_permute())
-                reference::apply_inverse_permutation(p.all, p.indexes);
-        });
+    HOLD(anything, [o.vector swap_element_at_index:o.in.from with_index:o.in.to],
+         p.both_inside() ? reference::swap(p.all, p.in.from, p.in.to) : void());
+    HOLD(anything, [o.vector move_element_from_index:o.in.from to_index:o.in.to],
+         p.both_inside() ? reference::move(p.all, p.in.from, p.in.to) : void());
+    HOLD(anything, [o.vector reverse], reference::reverse(p.all));
+    HOLD(a_shape, [o.vector transpose_rows:o.in.from columns:o.in.to],
+         reference::transpose(p.all, p.in.from, p.in.to));
+    HOLD(a_permutation, [o.vector apply_permutation:o.indexes],
+         p.may_permute() ? reference::apply_permutation(p.all, p.indexes) : void());
+    HOLD(a_permutation, [o.vector apply_inverse_permutation:o.indexes],
+         p.may_permute() ? reference::apply_inverse_permutation(p.all, p.indexes) : void());
 }
 
 TEST(ZEB_T_Differential, sorts_move_elements_and_indexes_as_told)
 {
     Differential hold(works_without_memory);
-    hold(
-        anything, [](Ours &o) { [o.vector sort]; },
-        [](Plain &p) { reference::sort(p.all, nullptr, p.precedes(p.own())); });
-    hold(
-        anything, [](Ours &o) { [o.vector sort_TT_words_with_comparison:compare]; },
-        [](Plain &p) { reference::sort(p.all, nullptr, p.precedes(p.asked())); });
-    hold(
-        anything, [](Ours &o) { [o.vector sort_with_permutation:o.indexes]; },
-        [](Plain &p) { reference::sort(p.all, &p.indexes, p.precedes(p.own())); });
-    hold(
-        anything, [](Ours &o) { [o.vector sort_TT_words_with_comparison:compare permutation:o.indexes]; },
-        [](Plain &p) { reference::sort(p.all, &p.indexes, p.precedes(p.asked())); });
+    HOLD(anything, [o.vector sort], reference::sort(p.all, nullptr, p.precedes(p.own())));
+    HOLD(anything, [o.vector sort_TT_words_with_comparison:compare],
+         reference::sort(p.all, nullptr, p.precedes(p.asked())));
+    HOLD(anything, [o.vector sort_with_permutation:o.indexes],
+         reference::sort(p.all, &p.indexes, p.precedes(p.own())));
+    HOLD(anything, [o.vector sort_TT_words_with_comparison:compare permutation:o.indexes],
+         reference::sort(p.all, &p.indexes, p.precedes(p.asked())));
 }

@@ -48,10 +48,4 @@ ZEB_T_Array *array_of(const Numbers &numbers)
     return made;
 }
 
-ZEB_UInt_Array *indexes_of(const Numbers &numbers)
-{
-    return [[[ZEB_UInt_Array alloc] init_as_copy_of_uints:numbers.data()
-                                                    count:static_cast<uint32_t>(numbers.size())] autorelease];
-}
-
 } // namespace

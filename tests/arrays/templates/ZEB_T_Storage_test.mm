@@ -182,7 +182,7 @@ TEST(ZEB_T_Storage, odd_answers_ranges_and_permutations_are_told)
          {"replace_range:with_TT_word:", less,
           [&] { [array replace_range:reversed with_TT_word:sample(1)]; }},
          {"apply_permutation:", "Permutation names an element outside the array, no change made.", [&] {
-              [array apply_permutation:indexes_of({0, 3, 1})];
+              [array apply_permutation:support::indexes_of({0, 3, 1})];
           }}});
 }
 

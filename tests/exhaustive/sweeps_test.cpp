@@ -1,15 +1,17 @@
-#include "tests/exhaustive/sweeps.hpp"
+// Comparisons of the engine with its plain transcriptions over numbered inputs, each a function of its
+// number. Built as the program `exhaustive` they take all of them, in parts, of which --gtest_filter picks
+// some and GTEST_TOTAL_SHARDS makes shares for several processes; else a slice of each.
 
 #include "calendar/ZEB_Calendar_Functions.h"
 #include "numbers/ZEB_Number_Functions.h"
 #include "tests/reference/calendar.hpp"
 #include "tests/reference/number_text.hpp"
 
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <cstring>
 
-namespace sweeps
-{
 namespace
 {
 
@@ -135,28 +137,46 @@ std::string double_text(std::uint64_t index)
     return std::string(text) + ", expected " + expected;
 }
 
+struct Sweep {
+    const char *name;
+    std::uint64_t inputs;
+    // The difference at one input, as text; empty when there is none.
+    std::string (*difference)(std::uint64_t index);
+};
+
+const Sweep all_sweeps[] = {
+    {"date_of_day", all_32_bit_values, date_of_day},
+    {"day_of_date", swept_days *swept_months *swept_years, day_of_date},
+    {"unsigned_text", all_32_bit_values, unsigned_text},
+    {"float_text", all_32_bit_values, float_text},
+    {"double_text", 128000000, double_text},
+};
+
+#ifdef ZEB_SWEEP_ALL
+constexpr std::uint64_t parts = 64, slice = 0;
+#else
+constexpr std::uint64_t parts = 1, slice = 400000;
+#endif
+
+class Sweeps : public testing::TestWithParam<std::tuple<Sweep, std::uint64_t>>
+{
+};
+
 } // namespace
 
-const std::vector<Sweep> &all_sweeps()
+TEST_P(Sweeps, agree_with_the_transcription)
 {
-    static const std::vector<Sweep> sweeps{
-        {"date_of_day", all_32_bit_values, date_of_day},
-        {"day_of_date", swept_days * swept_months * swept_years, day_of_date},
-        {"unsigned_text", all_32_bit_values, unsigned_text},
-        {"float_text", all_32_bit_values, float_text},
-        {"double_text", 128000000, double_text},
-    };
-    return sweeps;
+    const auto &[sweep, part] = GetParam();
+    // Odd, so that no kind of input is passed over.
+    const std::uint64_t step = slice != 0 ? sweep.inputs / slice | 1 : parts;
+    for (std::uint64_t index = part; index < sweep.inputs; index += step)
+        ASSERT_EQ(sweep.difference(index), "") << "input " << index;
+    for (std::uint64_t index = sweep.inputs - 1000; index < sweep.inputs; ++index)
+        ASSERT_EQ(sweep.difference(index), "") << "input " << index;
 }
 
-std::string first_difference(const Sweep &sweep, std::uint64_t first, std::uint64_t last)
-{
-    for (std::uint64_t index = first; index < last; ++index) {
-        std::string difference = sweep.difference(index);
-        if (!difference.empty())
-            return difference;
-    }
-    return "";
-}
-
-} // namespace sweeps
+INSTANTIATE_TEST_SUITE_P(
+    All, Sweeps, testing::Combine(testing::ValuesIn(all_sweeps), testing::Range(std::uint64_t{0}, parts)),
+    [](const auto &row) {
+        return std::get<0>(row.param).name + std::string("_part_") + std::to_string(std::get<1>(row.param));
+    });

@@ -1,0 +1,66 @@
+/// The records of TT_PHRASE, there and back, in both byte orders, cut short, and through a link.
+#include "tests/arrays/ZEB_T_Samples.hpp"
+#include "tests/support/captured.hpp"
+#include "tests/support/diagnostic.hpp"
+
+#include <gtest/gtest.h>
+
+using namespace support;
+
+namespace
+{
+
+/// The record of a machine of the other byte order: every value behind the count reversed.
+ZEB_String *swapped(ZEB_String *record)
+{
+    ZEB_String *const made = [record duplicate];
+    char *const data = [made char_data];
+    std::reverse(data, data + 4);
+    for (uint32_t at = 4; at < [made count]; at += sizeof(Element))
+        std::reverse(data + at, data + at + sizeof(Element));
+    return made;
+}
+
+} // namespace
+
+TEST(ZEB_T_Round_Trip, comes_back_the_same_or_not_at_all)
+{
+    Numbers all(samples().size() + 21);
+    for (uint32_t i = 0; i < all.size(); ++i)
+        all[i] = i % static_cast<uint32_t>(samples().size());
+    ZEB_T_Array *const source = array_of(all);
+    ZEB_String *const record = [ZEB_String array_with_capacity:0];
+    [source ZEB_encode_binary_contents:record];
+    if (std::is_same_v<Element, id>) {
+        EXPECT_EQ([record count], 0u); // references leave no trace
+        return;
+    }
+    const auto decode = [&](ZEB_T_Array *array, ZEB_String *from, int swaps) {
+        return [array ZEB_decode_binary_contents:from needs_swap:swaps];
+    };
+    const char selector[] = "ZEB_decode_binary_contents:needs_swap:";
+    ZEB_T_Array *const back = array_of({9});
+    EXPECT_EQ(decode(back, record, 0), [record count]);
+    EXPECT_EQ(numbers_of(back), all);
+    EXPECT_EQ([back capacity], 64u);
+    if (!is_object<Element>) {
+        ZEB_T_Array *const from_afar = array_of({9});
+        EXPECT_EQ(decode(from_afar, swapped(record), 1), [record count]);
+        EXPECT_EQ(numbers_of(from_afar), all);
+    }
+    for (const uint32_t length : {0u, 3u, 4u, 5u, [record count] - 1}) {
+        ZEB_String *const part = [ZEB_String link_to_chars:[record char_data] count:length];
+        EXPECT_EQ(standard_error_of([&] { EXPECT_EQ(decode(back, part, 0), 0u); }),
+                  fix_line(selector, "ZEB_T_Array", "Binary contents are truncated, no decode performed."));
+        EXPECT_EQ(numbers_of(back), all);
+        EXPECT_EQ([back capacity], 64u);
+    }
+    ZEB_T_Array *const link = [ZEB_T_Array link_to_TT_words:[back TT_word_data] count:[back count]];
+    EXPECT_EQ(standard_error_of([&] { decode(link, record, 0); }),
+              fix_line(selector, "ZEB_T_Array",
+                       "Cannot decode binary contents through link, no decode performed."));
+    ZEB_String *const nothing = [ZEB_String array_with_capacity:0];
+    [array_of({}) ZEB_encode_binary_contents:nothing];
+    EXPECT_EQ(decode(back, nothing, 0), 4u);
+    EXPECT_EQ([back count], 0u);
+}

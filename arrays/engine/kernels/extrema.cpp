@@ -1,7 +1,6 @@
 #include "arrays/engine/kernels/extrema.hpp"
 
 #include "arrays/engine/kernels/plain_loops.hpp"
-#include "arrays/engine/kernels/search.hpp"
 
 #include <cstdint>
 #include <type_traits>
@@ -32,7 +31,11 @@ struct Lower {
         return hn::IfThenElse(hn::Lt(lane, best), lane, best);
 #endif
     }
-    static constexpr auto precedes = [](auto lane, auto best) { return lane < best; };
+    template <class Lane>
+    static bool precedes(Lane lane, Lane best)
+    {
+        return lane < best;
+    }
 };
 
 /// The upper of both; `best` if either is NaN.
@@ -46,7 +49,11 @@ struct Upper {
         return hn::IfThenElse(hn::Lt(best, lane), lane, best);
 #endif
     }
-    static constexpr auto precedes = [](auto lane, auto best) { return best < lane; };
+    template <class Lane>
+    static bool precedes(Lane lane, Lane best)
+    {
+        return best < lane;
+    }
 };
 
 /// The best so far, in four independent vectors.
@@ -104,7 +111,17 @@ Lane first_of_equals(const Lane *lanes, std::size_t count, Lane best)
 {
     if constexpr (std::is_floating_point_v<Lane>)
         if (best == 0)
-            return lanes[search<Lane>().first_equal(lanes, count, best)];
+            return lanes[first_equal(lanes, count, best)];
+    return best;
+}
+
+/// Compiled for each target, which turns it into vector code too.
+template <class Better, class Lane>
+Lane foremost(const Lane *lanes, std::size_t count)
+{
+    Lane best = lanes[0];
+    for (std::size_t i = 1; i < count; ++i)
+        best = Better::precedes(lanes[i], best) ? lanes[i] : best;
     return best;
 }
 
@@ -119,7 +136,7 @@ Lane extreme(const Lane *lanes, std::size_t count)
 {
     const hn::ScalableTag<Lane> d;
     if (needs_plain_loop(lanes, count))
-        return plain::foremost(lanes, count, Better::precedes);
+        return foremost<Better>(lanes, count);
     Best<decltype(d), Better> best(d, lanes[0]);
     scan(d, lanes, count, best);
     return first_of_equals(lanes, count, best.result(d));
@@ -130,8 +147,7 @@ Lane_Extrema<Lane> both_extremes(const Lane *lanes, std::size_t count)
 {
     const hn::ScalableTag<Lane> d;
     if (needs_plain_loop(lanes, count))
-        return {plain::foremost(lanes, count, Lower::precedes),
-                plain::foremost(lanes, count, Upper::precedes)};
+        return {foremost<Lower>(lanes, count), foremost<Upper>(lanes, count)};
     Best<decltype(d), Lower> lowest(d, lanes[0]);
     Best<decltype(d), Upper> highest(d, lanes[0]);
     scan(d, lanes, count, lowest, highest);

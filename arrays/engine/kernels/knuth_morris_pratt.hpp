@@ -42,10 +42,11 @@ std::size_t find_run_by_borders(const Element *elements, std::size_t count, cons
     return count;
 }
 
-/// The same without borders at hand. If allocation fails, the time is no longer linear.
+/// The same without borders at hand. If allocation fails, the time is no longer linear. Rare, and so kept out
+/// of line.
 template <class Element>
-std::size_t find_run_linearly(const Element *elements, std::size_t count, const Element *pattern,
-                              std::size_t length) noexcept
+[[gnu::noinline]] std::size_t find_run_linearly(const Element *elements, std::size_t count,
+                                                const Element *pattern, std::size_t length) noexcept
 {
     const Scratch<std::uint32_t> borders(length);
     if (borders.get() == nullptr)

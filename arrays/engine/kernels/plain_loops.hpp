@@ -47,7 +47,8 @@ std::size_t find_run(const Element *elements, std::size_t count, const Element *
                      Equality equal = {}) noexcept
 {
     for (std::size_t start = 0; start + length <= count; ++start)
-        if (all_equal(elements + start, pattern, length, equal))
+        if (equal(elements[start], pattern[0]) &&
+            all_equal(elements + start + 1, pattern + 1, length - 1, equal))
             return start;
     return count;
 }
@@ -87,8 +88,7 @@ Element foremost(const Element *elements, std::size_t count, Precedes precedes) 
 {
     Element best = elements[0];
     for (std::size_t index = 1; index < count; ++index)
-        if (precedes(elements[index], best))
-            best = elements[index];
+        best = precedes(elements[index], best) ? Element(elements[index]) : best; // no branch to mispredict
     return best;
 }
 

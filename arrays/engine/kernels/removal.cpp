@@ -2,7 +2,6 @@
 
 #include "arrays/engine/kernels/packing_table.hpp"
 #include "arrays/engine/kernels/plain_loops.hpp"
-#include "arrays/engine/kernels/search.hpp"
 
 #include <cstdint>
 #include <cstring>
@@ -142,9 +141,7 @@ std::size_t remove_equal(Lane *lanes, std::size_t count, Lane value)
 {
     const Packed_Tag<Lane> d;
     const std::size_t N = hn::Lanes(d);
-    if (count < 2 * N)
-        return plain::remove_equal(lanes, count, value);
-    std::size_t kept = search<Lane>().first_equal(lanes, count, value);
+    std::size_t kept = first_equal(lanes, count, value);
     if (count - kept < 2 * N)
         return kept + plain::remove_equal(lanes + kept, count - kept, value);
     Lane tail[hn::MaxLanes(d)];

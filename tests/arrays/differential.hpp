@@ -179,9 +179,8 @@ struct Plain {
     Numbers indexes = in.indexes;
     Comparison comparison = in.comparison;
     uint32_t reports = 0;
-    bool stores = false;     ///< what was given has gone in
-    bool was_link = is_link; ///< it became an owner when this is all that is left
-    uint32_t known = count;  ///< elements past these are undefined
+    bool stores = false;    ///< what was given has gone in
+    uint32_t known = count; ///< elements past these are undefined
 
     auto own()
     {

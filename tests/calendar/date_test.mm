@@ -211,7 +211,8 @@ TEST(Date, known_days_of_daylight_saving)
         {{2025, 3, 9}, 7199, false},   {{2025, 3, 9}, 7200, true},   {{2025, 11, 2}, 3600, false},
         {{2025, 11, 3}, 0, true},      {{2025, 12, 1}, 0, false},    {{2006, 4, 2}, 7199, false},
         {{2006, 4, 2}, 7200, true},    {{2006, 10, 29}, 7199, true}, {{2006, 10, 29}, 7200, false},
-        {{2006, 3, 31}, 80000, false},
+        {{2006, 3, 31}, 80000, false}, {{1998, 10, 25}, 7199, true}, {{1998, 10, 25}, 7200, false},
+        {{2015, 3, 8}, 7199, false},   {{2015, 3, 8}, 7200, true},
     };
     for (const auto &row : rows)
         EXPECT_EQ([date_of(row.date, row.second) is_daylight_saving_time], row.daylight)

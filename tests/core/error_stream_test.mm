@@ -75,9 +75,11 @@ TEST(Error_Stream, each_diagnostic_is_one_line_and_one_count)
         diagnostic("Need to overload selector: ", "insert_byte:at_index:", "ZEB_Byte_Array", "Two words"));
     EXPECT_EQ(standard_error_of([&] { [stream need_to_implement:selector object:object note:no_note]; }),
               diagnostic("Need to implement selector: ", "insert_byte:at_index:", "ZEB_Byte_Array", ""));
-    EXPECT_EQ(standard_error_of([&] { [stream need_to_fix_algorithm:selector object:object note:note]; }),
-              diagnostic("Need to fix algorithm in selector: ", "insert_byte:at_index:", "ZEB_Byte_Array",
-                         "Two words"));
+    EXPECT_EQ(
+        standard_error_of([&] {
+            [stream need_to_fix_algorithm:selector object:object note:ZEB_Char_Span{"!?", 1}];
+        }),
+        diagnostic("Need to fix algorithm in selector: ", "insert_byte:at_index:", "ZEB_Byte_Array", "!"));
     EXPECT_EQ(standard_error_of([&] { [stream need_to_overload:NULL object:nil note:no_note]; }),
               "Need to overload selector:  for object of class: .\n");
     EXPECT_EQ([stream warning_count], before + 4);

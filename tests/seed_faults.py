@@ -5,7 +5,8 @@
 
 The rows stand in seeded_faults.tsv: room, file, text, what it becomes, and the label of the tests that should
 find it, with tabs in between ("\\n" in a text is a line break). A text has to stand in its file exactly once.
-A fault is found when those tests no longer pass; one that does not build is a faulty row. The copy and its build are kept for the next run.
+A fault is found when those tests no longer pass; one that does not build is a faulty row. The copy and its
+build are kept for the next run.
 The answer is 1 where a fault was not found, 2 for a faulty table.
 """
 

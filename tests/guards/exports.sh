@@ -5,7 +5,7 @@ set -u
 library=$1 list=$2
 headers=$(cat "$list")
 exported=$(nm -D --defined-only "$library" | awk '{print $3}' | sort)
-classes=$(grep -hE '^@interface ZEB_[A-Za-z_]+ :' $headers | sed -E 's/^@interface (ZEB_[A-Za-z_]+) .*/\1/' | sort -u)
+classes=$(grep -hE '^@interface ZEB_[A-Za-z_0-9]+ :' $headers | sed -E 's/^@interface (ZEB_[A-Za-z_0-9]+) .*/\1/' | sort -u)
 functions=$(grep -hoE '^ZEB_EXPORT [^;(]*\b[A-Za-z_0-9]+\(' $headers | sed -E 's/.*[ *]([A-Za-z_0-9]+)\($/\1/' | sort -u)
 failed=0
 for name in $functions Korvane_ZEBVersionNumber Korvane_ZEBVersionString; do

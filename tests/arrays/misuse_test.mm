@@ -127,6 +127,14 @@ public:
     }
     ~Scarce() { makes_until_failure = 1 << 30; }
 
+    /// Whether messages reach the added method; where a compiler binds `alloc` itself they do not.
+    static bool works_on(Class named)
+    {
+        const Scarce scarce(named, 2);
+        [[named alloc] release];
+        return makes_until_failure == 1;
+    }
+
 private:
     Class metaclass;
 };
@@ -163,6 +171,8 @@ void expect_refusals_without_objects(Class element_class)
 
 TEST(Held_Objects, that_the_platform_cannot_make_are_reported)
 {
+    if (!Scarce::works_on([ZEB_String class]))
+        GTEST_SKIP() << "this compiler's alloc cannot be replaced";
     expect_refusals_without_objects<ZEB_String_Array>([ZEB_String class]);
     expect_refusals_without_objects<ZEB_Wide_String_Array>([ZEB_Wide_String class]);
     expect_refusals_without_objects<ZEB_Byte_Array_Array>([ZEB_Byte_Array class]);

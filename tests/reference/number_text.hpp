@@ -52,8 +52,12 @@ inline char *unsigned_digits(char *buffer, std::uint32_t value)
     return buffer + count;
 }
 
-// For numbers whose product fits in a signed 64-bit integer.
-inline std::string fixed(unsigned d, double x)
+// For numbers whose product fits in a signed 64-bit integer; of others the result is not used.
+#if defined(__clang__)
+__attribute__((no_sanitize("float-cast-overflow")))
+#endif
+inline std::string
+fixed(unsigned d, double x)
 {
     std::uint64_t n = static_cast<std::uint64_t>(std::floor(std::fabs(x) * power_of_ten(d) + 0.5));
     if (n == 0)

@@ -47,7 +47,7 @@ protected:
             draw_elements<Element>(random, length, shape % 2 == 0 ? Draw::Any_Bits : Draw::Few_Values,
                                    shape % 8 == 6 || shape % 8 == 7);
         if (shape % 8 == 2 || shape % 8 == 3)
-            std::sort(all.begin(), all.end());
+            std::sort(all.begin(), all.end(), reference::Less());
         if (shape % 8 == 3)
             std::reverse(all.begin(), all.end());
         if (shape % 8 == 4)
@@ -111,7 +111,7 @@ protected:
         ASSERT_TRUE(engine::sort_with_permutation(walled.span(), walled_marks.span()));
         ASSERT_TRUE(same_bits(walled.elements(), expected) && walled.wall_stands()) << elements.size();
         ASSERT_TRUE(walled_marks.elements() == expected_marks && walled_marks.wall_stands());
-        ASSERT_TRUE(engine::sort_with_permutation<Element>(ours, our_marks, std::less<>()));
+        ASSERT_TRUE(engine::sort_with_permutation<Element>(ours, our_marks, reference::Less()));
         ASSERT_TRUE(same_bits(ours, expected) && our_marks == expected_marks);
         if (!marks.empty()) {
             our_marks.pop_back();
@@ -119,7 +119,9 @@ protected:
         }
     }
 
-    static constexpr auto less_at = [](const auto *later, const auto *earlier) { return *later < *earlier; };
+    static constexpr auto less_at = [](const auto *later, const auto *earlier) {
+        return reference::Less()(*later, *earlier);
+    };
     std::mt19937 random{1};
 };
 TYPED_TEST_SUITE(Kernels, Element_Types);
@@ -223,9 +225,10 @@ TYPED_TEST(Kernels, give_the_extremes)
         const std::span<const E> span = walled.span();
         const E low = reference::minimum(elements), high = reference::maximum(elements);
         const engine::Extrema<E> both = engine::minimum_and_maximum(span);
-        for (const E least : {engine::minimum(span), both.minimum, engine::minimum(span, std::less<>())})
+        for (const E least : {engine::minimum(span), both.minimum, engine::minimum(span, reference::Less())})
             ASSERT_TRUE(same_bits(least, low)) << elements.size();
-        for (const E greatest : {engine::maximum(span), both.maximum, engine::maximum(span, std::less<>())})
+        for (const E greatest :
+             {engine::maximum(span), both.maximum, engine::maximum(span, reference::Less())})
             ASSERT_TRUE(same_bits(greatest, high)) << elements.size();
     };
     this->on_each_input([&](std::vector<E> elements, unsigned shape, size_t offset) {

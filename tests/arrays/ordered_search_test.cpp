@@ -27,7 +27,7 @@ TYPED_TEST(Ordered_Search, ends_where_the_rules_end_and_asks_in_their_order)
             const Draw draw = kind % 2 == 0 ? Draw::Any_Bits : Draw::Few_Values;
             std::vector<E> elements = draw_elements<E>(random, length, draw, kind >= 2);
             if (kind < 2)
-                std::sort(elements.begin(), elements.end());
+                std::sort(elements.begin(), elements.end(), reference::Less());
             const std::span<const E> span(elements);
             for (int i = 0; i < 12; ++i) {
                 const bool present = i % 2 == 0 && length > 0;

@@ -16,7 +16,18 @@ template <class Element>
 using Vector = std::vector<Element>;
 
 using Equal = std::equal_to<>;
-using Less = std::less<>;
+/// Characters are signed bytes, whatever plain `char` is here.
+struct Less {
+    template <class Element>
+    bool operator()(const Element &left, const Element &right) const
+    {
+        return std::less<>()(left, right);
+    }
+    bool operator()(const char &left, const char &right) const
+    {
+        return static_cast<signed char>(left) < static_cast<signed char>(right);
+    }
+};
 
 /// How the families order their elements where no function is given.
 template <class Element>

@@ -10,10 +10,12 @@ set(zeb_family_columns
     TT_VECTOR_FIELDS TT_KIND_STATE TT_KIND TT_WRITE_ELEMENT)
 set(zeb_columns_that_may_be_empty TT_COLLECTION_FIELDS TT_VECTOR_FIELDS TT_KIND_STATE)
 
-set(zeb_template_lists HEADERS PRIVATE_HEADERS SOURCES OBJECT_HEADERS OBJECT_SOURCES TESTS)
+set(zeb_template_lists HEADERS PRIVATE_HEADERS SOURCES OBJECT_HEADERS OBJECT_SOURCES STRING_HEADERS STRING_SOURCES
+    TESTS)
 
 # Adds the templates of a room, by paths from its folder. The families are made from all of them; those of
-# TESTS go to the property ZEB_FAMILY_TESTS, those of OBJECT_... are for families of objects alone.
+# TESTS go to the property ZEB_FAMILY_TESTS, those of OBJECT_... are for families of objects alone, of
+# STRING_... for families of strings.
 function(zeb_class_templates)
   cmake_parse_arguments(arg "" "" "${zeb_template_lists}" ${ARGN})
   foreach(list ${zeb_template_lists})
@@ -85,6 +87,10 @@ function(zeb_family)
   if(NOT row_TT_KIND MATCHES "^Plain_Elements")
     list(APPEND HEADERS ${OBJECT_HEADERS})
     list(APPEND SOURCES ${OBJECT_SOURCES})
+  endif()
+  if(row_TT_KIND MATCHES "String_Policy")
+    list(APPEND HEADERS ${STRING_HEADERS})
+    list(APPEND SOURCES ${STRING_SOURCES})
   endif()
   foreach(template ${HEADERS})
     zeb_expand(made ${template})

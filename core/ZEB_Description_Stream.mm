@@ -68,24 +68,6 @@ void put_latin_1(ZEB_Stream *stream, std::span<const char> text)
     [scratch_string append_chars:bytes count:length];
 }
 
-- (void)put_format:(const char *)format arguments:(va_list)arguments
-{
-    va_list measured;
-    va_copy(measured, arguments);
-    const int length = vsnprintf(NULL, 0, format, measured);
-    va_end(measured);
-    if (length <= 0)
-        return;
-    const uint32_t count = [scratch_string count];
-    const uint32_t produced = static_cast<uint32_t>(length);
-    [scratch_string ensure_room_for:produced];
-    // Growth leaves the capacity above the count, so the terminating null fits.
-    if ([scratch_string capacity] - count <= produced)
-        return;
-    vsnprintf([scratch_string char_data] + count, size_t{produced} + 1, format, arguments);
-    [scratch_string set_count:count + produced];
-}
-
 - (NSString *)text
 {
     NSData *const bytes = [NSData dataWithBytes:[scratch_string char_data] length:[scratch_string count]];

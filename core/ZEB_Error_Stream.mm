@@ -1,4 +1,4 @@
-#import <Korvane_ZEB/ZEB_Error_Stream.h>
+#import "core/ZEB_Error_Stream_Private.h"
 
 #import <Korvane_ZEB/ZEB_Platform_Names.h>
 #import <Korvane_ZEB/ZEB_String.h>
@@ -12,7 +12,7 @@
 
 #import <objc/runtime.h>
 
-#include <initializer_list>
+#include <stdio.h>
 #include <string.h>
 
 namespace
@@ -44,7 +44,7 @@ NSAutoreleasePool *new_pool()
 
 /// Writes the pieces of a diagnostic to a stream, under an autorelease pool of its own. A diagnostic raised
 /// meanwhile, by a subclass that handles the text, is written directly to standard error.
-void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
+void write_line(ZEB_Stream *stream, engine::Message_Pieces pieces)
 {
     static bool is_writing = false;
     if (is_writing) {
@@ -91,9 +91,10 @@ void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
     return self;
 }
 
-- (FILE *)output_file
+- (void)put_bytes:(const char *)bytes length:(uint32_t)length
 {
-    return stderr;
+    if (length != 0)
+        fwrite(bytes, 1, length, stderr);
 }
 
 - (uint32_t)warning_count
@@ -132,8 +133,14 @@ void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
     if (verbose == 0)
         return;
     const ZEB_Char_Span before_note = note.length != 0 ? engine::span_of(". ") : engine::span_of(".");
-    write_line(self,
-               {lead, name_of(selector), class_lead, class_name_of(object), before_note, note, line_break});
+    const ZEB_Char_Span pieces[] = {lead, name_of(selector), class_lead, class_name_of(object), before_note,
+                                    note, line_break};
+    [self put_diagnostic:engine::Message_Pieces(pieces)];
+}
+
+- (void)put_diagnostic:(engine::Message_Pieces)pieces
+{
+    write_line(self, pieces);
 }
 
 - (void)need_to_overload:(SEL)selector object:(id)object note:(ZEB_Char_Span)note

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Object.h>
 
+#include <stdarg.h>
+
 @class ZEB_Collection;
 @class ZEB_String;
 
@@ -85,6 +87,41 @@ ZEB_EXPORT
     ZEB_receive_list:" and a line break to standard output, on every stream, and reads nothing. */
 - (void)ZEB_receive_delimited_list:(ZEB_Collection *)list;
 - (void)ZEB_receive_list:(ZEB_Collection *)list;
+
+@end
+
+/**
+ * Where a stream's output goes and its input comes from, for subclasses to override.
+ *
+ * All output of a stream (values, strings, objects, lists, and the diagnostics of an error stream) ends in
+ * `put_bytes:length:`, so a subclass that overrides this one operation redirects all of it; the unsigned-long
+ * writers of an error stream alone write to the shared stream. All input comes from
+ * `take_format:arguments:`. While a value is formatted or scanned the thread is in the "C" locale.
+ *
+ *     @interface Log_Stream : ZEB_Stream {
+ *         NSMutableData *log;
+ *     }
+ *     @end
+ *
+ *     @implementation Log_Stream
+ *     - (void)put_bytes:(const char *)bytes length:(uint32_t)length
+ *     {
+ *         [log appendBytes:bytes length:length];
+ *     }
+ *     @end
+ */
+@interface ZEB_Stream (Sink)
+
+/** Writes exactly `length` bytes to standard output; standard error for an error stream. A subclass may
+    receive a length of 0. */
+- (void)put_bytes:(const char *)bytes length:(uint32_t)length;
+
+/** Prints the arguments through a printf format, and puts the resulting bytes; nothing if there are none or
+    the C library fails. Values in their first format do not pass through here. */
+- (void)put_format:(const char *)format arguments:(va_list)arguments;
+
+/** Scans standard input through a scanf format and returns the number of fields stored. */
+- (int)take_format:(const char *)format arguments:(va_list)arguments;
 
 @end
 

@@ -3,10 +3,13 @@
 #import <Korvane_ZEB/ZEB_Collection.h>
 #import <Korvane_ZEB/ZEB_String.h>
 
+#include "core/engine/formatted_text.hpp"
 #include "core/engine/lists.hpp"
 #include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
 #include "core/engine/stream_formats.hpp"
+
+#include <stdio.h>
 
 namespace
 {
@@ -27,32 +30,52 @@ void send_if_responds(id object, SEL hook, ZEB_Stream *stream)
 
 } // namespace
 
+namespace zeb::engine
+{
+
+bool put_printed(ZEB_Stream *stream, std::span<char> buffer, const char *format, va_list arguments)
+{
+    const Formatted_Text text(buffer, format, arguments);
+    if (text.count() != 0)
+        [stream put_bytes:text.characters() length:text.count()];
+    return text.is_valid();
+}
+
+} // namespace zeb::engine
+
 @implementation ZEB_Stream (Sink)
-
-- (FILE *)output_file
-{
-    return stdout;
-}
-
-- (FILE *)input_file
-{
-    return stdin;
-}
 
 - (void)put_bytes:(const char *)bytes length:(uint32_t)length
 {
     if (length != 0)
-        fwrite(bytes, 1, length, [self output_file]);
+        fwrite(bytes, 1, length, stdout);
 }
 
 - (void)put_format:(const char *)format arguments:(va_list)arguments
 {
-    vfprintf([self output_file], format, arguments);
+    char buffer[engine::printing_size];
+    engine::put_printed(self, buffer, format, arguments);
 }
 
 - (int)take_format:(const char *)format arguments:(va_list)arguments
 {
-    return vfscanf([self input_file], format, arguments);
+    return vfscanf(stdin, format, arguments);
+}
+
+@end
+
+@implementation ZEB_Stream (Raw_Values)
+
+- (BOOL)put_raw:(const void *)value size:(uint32_t)size
+{
+    (void)value, (void)size;
+    return NO;
+}
+
+- (BOOL)take_raw:(void *)value size:(uint32_t)size
+{
+    (void)value, (void)size;
+    return NO;
 }
 
 @end

@@ -1,28 +1,22 @@
 /*
- * The input and output primitives of streams. Every writer ends in `put_bytes:length:` or
- * `put_format:arguments:`, so a subclass that overrides both redirects all output.
+ * What the framework's own streams override beside the public sink.
  */
 #import <Korvane_ZEB/ZEB_Stream.h>
 
+#include <stddef.h>
 #include <stdarg.h>
-#include <stdio.h>
 
-@interface ZEB_Stream (Sink)
+#include <span>
 
-/** The file that this stream's bytes and formatted values are written to: standard output. */
-- (FILE *)output_file;
+@interface ZEB_Stream (Raw_Values)
 
-/** The file that this stream's readers read: standard input. */
-- (FILE *)input_file;
+/** Writes the bytes of a value as they are in memory and returns YES, on streams that do not write values as
+    text; returns NO on all others. */
+- (BOOL)put_raw:(const void *)value size:(uint32_t)size;
 
-/** Writes exactly `length` bytes. */
-- (void)put_bytes:(const char *)bytes length:(uint32_t)length;
-
-/** Prints the arguments through a printf format. */
-- (void)put_format:(const char *)format arguments:(va_list)arguments;
-
-/** Scans through a scanf format and returns the number of fields stored. */
-- (int)take_format:(const char *)format arguments:(va_list)arguments;
+/** Reads `size` bytes into a value and returns YES, on streams that do not read values as text; returns NO on
+    all others. */
+- (BOOL)take_raw:(void *)value size:(uint32_t)size;
 
 @end
 
@@ -34,5 +28,12 @@ inline void put(ZEB_Stream *stream, ZEB_Char_Span span)
 {
     [stream put_bytes:span.char_c_array length:span.length];
 }
+
+/// The size of the buffers through which streams print.
+inline constexpr size_t printing_size = 512;
+
+/// Prints the arguments through a format, in `buffer` if it is large enough, and writes the resulting bytes to
+/// a stream, if there are any. Returns false if they cannot be printed.
+bool put_printed(ZEB_Stream *stream, std::span<char> buffer, const char *format, va_list arguments);
 
 } // namespace zeb::engine

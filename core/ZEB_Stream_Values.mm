@@ -7,11 +7,15 @@
 #include "core/engine/namespace.hpp"
 #include "core/engine/scan_format.hpp"
 #include "core/engine/stream_formats.hpp"
+#include "numbers/engine/general_text.hpp"
+#include "numbers/engine/unsigned_text.hpp"
+
+#include <string.h>
 
 namespace
 {
 
-void put_value(ZEB_Stream *stream, const char *format, ...)
+void put_formatted(ZEB_Stream *stream, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
@@ -20,7 +24,7 @@ void put_value(ZEB_Stream *stream, const char *format, ...)
     va_end(arguments);
 }
 
-void take_value(ZEB_Stream *stream, const char *format, ...)
+void take_formatted(ZEB_Stream *stream, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
@@ -29,14 +33,62 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
     va_end(arguments);
 }
 
+/// How a type's first format prints a value: the same characters as printf, without its cost.
+char *put_first_format(char *out, double value) { return engine::put_general(out, value); }
+char *put_first_format(char *out, float value)
+{
+    return engine::put_general(out, static_cast<double>(value));
+}
+char *put_first_format(char *out, int32_t value) { return engine::put_signed(out, value); }
+char *put_first_format(char *out, uint32_t value) { return engine::put_unsigned(out, value); }
+char *put_first_format(char *out, uint64_t value) { return engine::put_unsigned_64(out, value); }
+
+/// Whether a format prints as the type's first one does.
+bool is_first(const char *format, const char *first)
+{
+    return format == nullptr || strcmp(format, first) == 0;
+}
+
+/// Writes a value raw, by the type's first format, or through another format.
+template <class Value>
+void put_value(ZEB_Stream *stream, Value value, const char *format, const char *first)
+{
+    if ([stream put_raw:&value size:sizeof value])
+        return;
+    if (!is_first(format, first))
+        return put_formatted(stream, format, value);
+    char text[engine::longest_general_text];
+    const char *const end = put_first_format(text, value);
+    [stream put_bytes:text length:static_cast<uint32_t>(end - text)];
+}
+
+/// Writes a value whose first format, too, is left to printf.
+void put_printed(ZEB_Stream *stream, uint32_t value, const char *format, const char *first)
+{
+    if (![stream put_raw:&value size:sizeof value])
+        put_formatted(stream, engine::or_default(format, first), value);
+}
+
+/// Reads a value raw or through a format; 0 if there is none.
+template <class Value>
+Value take_value(ZEB_Stream *stream, const char *format, const char *first)
+{
+    Value value = 0;
+    if (![stream take_raw:&value size:sizeof value])
+        take_formatted(stream, engine::or_default(format, first), &value);
+    return value;
+}
+
 } // namespace
 
 @implementation ZEB_Stream (Values)
 
 - (void)write_string_with_format:(ZEB_String *)string format:(const char *)format
 {
+    if ([self put_raw:[string char_data] size:[string count]])
+        return;
     const engine::C_Text text([string char_data], [string count]);
-    put_value(self, engine::or_default(format, "%s"), text.c_string());
+    put_formatted(self, engine::or_default(format, "%s"), text.c_string());
 }
 
 - (void)write_double:(double)value
@@ -46,7 +98,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_double_with_format:(double)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_double_format), value);
+    put_value(self, value, format, engine::default_double_format);
 }
 
 - (void)write_int:(int32_t)value
@@ -56,7 +108,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_int_with_format:(int32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_int_format), value);
+    put_value(self, value, format, engine::default_int_format);
 }
 
 - (void)write_unsigned:(uint32_t)value
@@ -66,7 +118,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_unsigned_with_format:(uint32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_unsigned_format), value);
+    put_value(self, value, format, engine::default_unsigned_format);
 }
 
 - (void)write_float:(float)value
@@ -76,7 +128,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_float_with_format:(float)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_float_format), static_cast<double>(value));
+    put_value(self, value, format, engine::default_float_format);
 }
 
 - (void)write_char:(int)value
@@ -86,7 +138,13 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_char_with_format:(int)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_char_format), value);
+    const char character = static_cast<char>(value);
+    if ([self put_raw:&character size:sizeof character])
+        return;
+    if (is_first(format, engine::default_char_format))
+        [self put_bytes:&character length:sizeof character];
+    else
+        put_formatted(self, format, value);
 }
 
 - (void)write_character_code:(uint32_t)value
@@ -96,7 +154,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_character_code_with_format:(uint32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_character_code_format), value);
+    put_printed(self, value, format, engine::default_character_code_format);
 }
 
 - (void)write_hex:(uint32_t)value
@@ -106,7 +164,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_hex_with_format:(uint32_t)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_hex_format), value);
+    put_printed(self, value, format, engine::default_hex_format);
 }
 
 - (void)write_unsigned_long:(uint64_t)value
@@ -116,7 +174,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (void)write_unsigned_long_with_format:(uint64_t)value format:(const char *)format
 {
-    put_value(self, engine::or_default(format, engine::default_unsigned_long_format), value);
+    put_value(self, value, format, engine::default_unsigned_long_format);
 }
 
 - (double)read_double
@@ -127,9 +185,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 - (double)read_double_with_format:(const char *)format
 {
     const engine::Double_Scan_Format widened(engine::or_default(format, engine::default_double_format));
-    double value = 0;
-    take_value(self, widened.c_string(), &value);
-    return value;
+    return take_value<double>(self, widened.c_string(), nullptr);
 }
 
 - (int32_t)read_int
@@ -139,9 +195,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (int32_t)read_int_with_format:(const char *)format
 {
-    int32_t value = 0;
-    take_value(self, engine::or_default(format, engine::default_int_format), &value);
-    return value;
+    return take_value<int32_t>(self, format, engine::default_int_format);
 }
 
 - (uint32_t)read_unsigned
@@ -151,9 +205,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (uint32_t)read_unsigned_with_format:(const char *)format
 {
-    uint32_t value = 0;
-    take_value(self, engine::or_default(format, engine::default_unsigned_format), &value);
-    return value;
+    return take_value<uint32_t>(self, format, engine::default_unsigned_format);
 }
 
 - (float)read_float
@@ -163,9 +215,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (float)read_float_with_format:(const char *)format
 {
-    float value = 0;
-    take_value(self, engine::or_default(format, engine::default_float_format), &value);
-    return value;
+    return take_value<float>(self, format, engine::default_float_format);
 }
 
 - (int)read_char
@@ -175,9 +225,7 @@ void take_value(ZEB_Stream *stream, const char *format, ...)
 
 - (int)read_char_with_format:(const char *)format
 {
-    signed char value = 0;
-    take_value(self, engine::or_default(format, engine::default_char_format), &value);
-    return value;
+    return take_value<signed char>(self, format, engine::default_char_format);
 }
 
 @end

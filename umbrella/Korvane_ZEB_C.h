@@ -1,10 +1,12 @@
 /*
- * The plain C headers of the framework: value types, calendar and number functions, and the version.
+ * The plain C headers of the framework: value types, calendar, number and byte-order functions, and the version.
  */
 #ifndef KORVANE_ZEB_C_H
 #define KORVANE_ZEB_C_H
 
+#include <Korvane_ZEB/ZEB_Byte_Order.h>
 #include <Korvane_ZEB/ZEB_Calendar_Functions.h>
+#include <Korvane_ZEB/ZEB_Hexadecimal.h>
 #include <Korvane_ZEB/ZEB_Number_Functions.h>
 #include <Korvane_ZEB/ZEB_Types.h>
 #include <Korvane_ZEB/ZEB_Version.h>

@@ -3,6 +3,7 @@
 
 #include "arrays/engine/kernels/element_lanes.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -13,6 +14,13 @@ namespace zeb::engine
 constexpr std::uint32_t swap_bytes(std::uint32_t value) noexcept { return __builtin_bswap32(value); }
 
 constexpr std::uint64_t swap_bytes(std::uint64_t value) noexcept { return __builtin_bswap64(value); }
+
+/// Reverses the bytes of one value of any size.
+inline void reverse_bytes(void *value, std::size_t size) noexcept
+{
+    char *const bytes = static_cast<char *>(value);
+    std::reverse(bytes, bytes + size);
+}
 
 /// Copies `n` values from `bytes`, which need no alignment, each with its bytes reversed.
 template <class Value>

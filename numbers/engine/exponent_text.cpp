@@ -1,7 +1,6 @@
 #include "numbers/engine/exponent_text.hpp"
 
 #include "numbers/engine/digits.hpp"
-#include "numbers/engine/rounded_decimal.hpp"
 
 #include <cmath>
 
@@ -38,15 +37,22 @@ char *put_exponent(char *out, int exponent) noexcept
 } // namespace
 
 template <int significant_digits>
-char *put_exponent_form(char *out, double x) noexcept
+char *put_exponent_form(char *out, Rounded_Decimal decimal) noexcept
 {
     constexpr std::uint64_t to_15_digits = significant_digits == 15 ? 1 : 1000000000;
-    if (x < 0)
-        *out++ = '-';
-    const Rounded_Decimal decimal = rounded_decimal<significant_digits>(std::fabs(x));
     out = put_mantissa(out, decimal.digits * to_15_digits);
     return put_exponent(out, decimal.exponent);
 }
+
+template <int significant_digits>
+char *put_exponent_form(char *out, double x) noexcept
+{
+    if (x < 0)
+        *out++ = '-';
+    return put_exponent_form<significant_digits>(out, rounded_decimal<significant_digits>(std::fabs(x)));
+}
+
+template char *put_exponent_form<6>(char *, Rounded_Decimal) noexcept;
 
 template char *put_exponent_form<15>(char *, double) noexcept;
 template char *put_exponent_form<6>(char *, double) noexcept;

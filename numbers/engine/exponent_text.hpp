@@ -1,6 +1,8 @@
 /// Numbers in exponent form.
 #pragma once
 
+#include "numbers/engine/rounded_decimal.hpp"
+
 namespace zeb::engine
 {
 
@@ -11,6 +13,11 @@ namespace zeb::engine
 template <int significant_digits>
 char *put_exponent_form(char *out, double x) noexcept;
 
+/// Writes a number already rounded to that many digits in the same form.
+template <int significant_digits>
+char *put_exponent_form(char *out, Rounded_Decimal decimal) noexcept;
+
+extern template char *put_exponent_form<6>(char *, Rounded_Decimal) noexcept;
 extern template char *put_exponent_form<15>(char *, double) noexcept;
 extern template char *put_exponent_form<6>(char *, double) noexcept;
 

@@ -2,6 +2,7 @@
 
 #include "numbers/engine/digits.hpp"
 #include "numbers/engine/exponent_text.hpp"
+#include "numbers/engine/powers_of_ten.hpp"
 #include "numbers/engine/unsigned_text.hpp"
 
 #include <algorithm>
@@ -13,25 +14,6 @@ namespace
 {
 
 constexpr std::uint32_t max_decimals = 13;
-
-/// Indexed by the number of decimals.
-constexpr std::uint64_t integer_powers[] = {1,
-                                            10,
-                                            100,
-                                            1000,
-                                            10000,
-                                            100000,
-                                            1000000,
-                                            10000000,
-                                            100000000,
-                                            1000000000,
-                                            10000000000,
-                                            100000000000,
-                                            1000000000000,
-                                            10000000000000,
-                                            100000000000000,
-                                            1000000000000000,
-                                            10000000000000000};
 
 struct Fixed_Style {
     bool with_sign;
@@ -55,7 +37,7 @@ char *put_without_fixed_form(char *out, double x) noexcept
 
 char *put_scaled(char *out, std::uint64_t scaled, std::uint32_t decimals, Fixed_Style style) noexcept
 {
-    const std::uint64_t unit = integer_powers[decimals];
+    const std::uint64_t unit = integer_powers_of_ten[decimals];
     const std::uint64_t whole = scaled / unit;
     if (whole != 0 || style.with_leading_zero)
         out = put_unsigned_64(out, whole);
@@ -67,7 +49,7 @@ char *write_fixed_in_style(char *buffer, std::uint32_t decimals, double x, Fixed
 {
     decimals = std::min(decimals, max_decimals);
     char *out = buffer;
-    const double rounded = std::fabs(x) * static_cast<double>(integer_powers[decimals]) + 0.5;
+    const double rounded = std::fabs(x) * static_cast<double>(integer_powers_of_ten[decimals]) + 0.5;
     if (!(rounded < 0x1p63)) {
         out = put_without_fixed_form<significant_digits>(out, style.with_sign ? x : std::fabs(x));
     } else {
@@ -142,7 +124,7 @@ char *put_decimals(char *out, std::uint64_t fraction, std::uint32_t decimals) no
     if (fraction == 0)
         return out;
     *out++ = '.';
-    return store_kept(out, sixteen_digits(fraction * integer_powers[16 - decimals]));
+    return store_kept(out, sixteen_digits(fraction * integer_powers_of_ten[16 - decimals]));
 }
 
 } // namespace zeb::engine

@@ -1,4 +1,4 @@
-/// The leading bits of powers of ten.
+/// Powers of ten: the small ones whole, all that a double can meet by their leading bits.
 #pragma once
 
 #include "numbers/engine/wide_product.hpp"
@@ -7,6 +7,25 @@
 
 namespace zeb::engine
 {
+
+/// 10^0 to 10^16.
+inline constexpr std::uint64_t integer_powers_of_ten[] = {1,
+                                                          10,
+                                                          100,
+                                                          1000,
+                                                          10000,
+                                                          100000,
+                                                          1000000,
+                                                          10000000,
+                                                          100000000,
+                                                          1000000000,
+                                                          10000000000,
+                                                          100000000000,
+                                                          1000000000000,
+                                                          10000000000000,
+                                                          100000000000000,
+                                                          1000000000000000,
+                                                          10000000000000000};
 
 inline constexpr int smallest_table_power = -302;
 inline constexpr int largest_table_power = 338;

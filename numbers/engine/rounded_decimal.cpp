@@ -13,14 +13,6 @@ namespace zeb::engine
 namespace
 {
 
-constexpr std::uint64_t integer_power_of_ten(int power) noexcept
-{
-    std::uint64_t result = 1;
-    for (int i = 0; i < power; ++i)
-        result *= 10;
-    return result;
-}
-
 /// Rounds exactly with the C library, for the cases near a tie that the multiplication below leaves open.
 template <int digit_count>
 Rounded_Decimal decimal_by_c_library(double magnitude) noexcept
@@ -74,7 +66,7 @@ inline Rounding rounding(std::uint64_t position, std::uint64_t half, bool rest, 
 template <int digit_count>
 Rounded_Decimal rounded_decimal(double magnitude) noexcept
 {
-    constexpr std::uint64_t upper_bound = integer_power_of_ten(digit_count);
+    constexpr std::uint64_t upper_bound = integer_powers_of_ten[digit_count];
     const Binary_Number number = binary_number(magnitude);
     // The exponent of ten, or one less: the magnitude lies in [1, 20) * 10^exponent.
     int exponent = floor_log10_of_power_of_two(number.exponent + 63);

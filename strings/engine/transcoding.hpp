@@ -100,6 +100,24 @@ bool set_to_utf16_of_utf8(Wide_Char_Storage string, std::span<const char> utf8, 
     return write_decoded(string, utf8, utf16_length_of_utf8(utf8), utf16_from_utf8, report);
 }
 
+/// Sets the string to the UTF-16 units of UTF-8 or, for text that is not UTF-8, to its bytes as unsigned
+/// numbers. A link refuses as it does a new length.
+template <class Report>
+void set_to_utf16_or_bytes(Wide_Char_Storage string, std::span<const char> text, Report report) noexcept
+{
+    const auto widen = [](std::span<const char> bytes, std::uint32_t *units) {
+        for (const char byte : bytes)
+            *units++ = static_cast<unsigned char>(byte);
+        return true;
+    };
+    if (string.is_link())
+        report(notes::length_through_link);
+    else if (is_valid_utf8(text))
+        write_decoded(string, text, utf16_length_of_utf8(text), utf16_from_utf8, report);
+    else
+        write_decoded(string, text, text.size(), widen, report);
+}
+
 /// Sets the string to the UTF-8 of UTF-16 units, of which only the low 16 bits count; a link becomes an
 /// owner. Returns false for an unpaired surrogate and for a leading byte-order mark.
 template <class Report>

@@ -1,0 +1,59 @@
+/*
+ * Text output into TT_PHRASE.
+ */
+#import <Korvane_ZEB/ZEB_Stream.h>
+
+TT_FORWARD_CLASSES
+
+/**
+ * Appends its text to a target string. Each byte becomes one character, as the string's `append_c_string:`
+ * stores it. What cannot be appended, because the target is a link (which also reports), because allocation
+ * fails, or because there is no target, increments `failure_count`; so does a format that the C library
+ * refuses.
+ *
+ * The readers are those of the base class: they read standard input.
+ */
+ZEB_EXPORT
+@interface ZEB_T_Stream : ZEB_Stream {
+    ZEB_PROTECTED
+    ZEB_T_Element target;
+    uint8_t owns_target;
+    uint32_t read_position;
+    char *formatting_buffer;
+}
+
+/** Returns the proprietary notice. */
++ (const char *)get_KVX_proprietary_software_notice;
+
+/** Initialises a stream with a new target of its own, with a capacity of 1024. */
+- (id)init;
+
+/** Initialises a stream onto a string that it neither retains nor releases: the caller keeps it alive. */
+- (id)init_with_string:(ZEB_T_Element)string;
+
+/** Makes another string the target, as `init_with_string:` does, and sets the read position to 0. A target
+    that the stream owns is released; if it is given again, it stays the stream's. */
+- (void)set_string:(ZEB_T_Element)string;
+
+/** Returns the target. Setting it is `set_string:`. */
+- (ZEB_T_Element)target;
+- (void)set_target:(ZEB_T_Element)string;
+
+/** Whether the stream releases its target: 1 for yes. */
+- (uint8_t)owns_target;
+- (void)set_owns_target:(uint8_t)value;
+
+/** A position for applications that read the target; no operation here moves it forward. */
+- (uint32_t)read_position;
+- (void)set_read_position:(uint32_t)value;
+
+/** The buffer of 1024 bytes through which formats are printed: values in their first format, and texts too
+    long for it, take other ways. Setting it frees the former one and takes over `buffer`, which must come
+    from malloc and have as many bytes; null leaves the stream without one. */
+- (char *)formatting_buffer;
+- (void)set_formatting_buffer:(char *)buffer;
+
+/** Empties the target and sets the read position and `failure_count` to 0. */
+- (void)reset;
+
+@end

@@ -29,6 +29,18 @@ ZEB_EXPORT int32_t ZC_decompress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte
 ZEB_EXPORT int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *source, ZEB_String *destination,
                                                  uint32_t offset);
 
+/**
+ * The same for foreign data: each appends at most `most` bytes. A stream that holds more, of whatever size, ends
+ * with -5 (Z_BUF_ERROR) when they are appended; the destination has grown by its rule for that many, and not
+ * beyond.
+ */
+ZEB_EXPORT int32_t ZC_decompress_string_to_string_within(ZEB_String *source, ZEB_String *destination,
+                                                         uint32_t offset, uint32_t most);
+ZEB_EXPORT int32_t ZC_decompress_bytes_to_bytes_within(ZEB_Byte_Array *source, ZEB_Byte_Array *destination,
+                                                       uint32_t offset, uint32_t most);
+ZEB_EXPORT int32_t ZC_decompress_bytes_to_string_within(ZEB_Byte_Array *source, ZEB_String *destination,
+                                                        uint32_t offset, uint32_t most);
+
 /** Writes "zlib error: " to standard error, followed by a line for a status from -6 to -1; -5 and any other
     status add nothing, not even a line break. */
 ZEB_EXPORT void print_zlib_error(int32_t status);

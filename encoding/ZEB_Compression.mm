@@ -50,9 +50,12 @@ int32_t compress(From *source, Into *destination)
 }
 
 template <class From, class Into>
-int32_t decompress(From *source, Into *destination, uint32_t offset)
+int32_t decompress(From *source, Into *destination, uint32_t offset, uint64_t bound = engine::unbounded)
 {
-    return run_zlib(bytes_from(source, offset), destination, engine::decompress);
+    return run_zlib(bytes_from(source, offset), destination,
+                    [bound](const char *bytes, uint32_t length, engine::Zlib_Output output) {
+                        return engine::decompress(bytes, length, output, bound);
+                    });
 }
 
 } // namespace
@@ -85,6 +88,24 @@ int32_t ZC_decompress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte_Array *des
 int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *source, ZEB_String *destination, uint32_t offset)
 {
     return decompress(source, destination, offset);
+}
+
+int32_t ZC_decompress_string_to_string_within(ZEB_String *source, ZEB_String *destination, uint32_t offset,
+                                              uint32_t most)
+{
+    return decompress(source, destination, offset, most);
+}
+
+int32_t ZC_decompress_bytes_to_bytes_within(ZEB_Byte_Array *source, ZEB_Byte_Array *destination,
+                                            uint32_t offset, uint32_t most)
+{
+    return decompress(source, destination, offset, most);
+}
+
+int32_t ZC_decompress_bytes_to_string_within(ZEB_Byte_Array *source, ZEB_String *destination, uint32_t offset,
+                                             uint32_t most)
+{
+    return decompress(source, destination, offset, most);
 }
 
 void print_zlib_error(int32_t status)

@@ -47,6 +47,7 @@ ZEB_EXPORT
     uint8_t report_errors;
     id<ZEB_File_Interceptor> interceptor;
     int32_t last_error;
+    uint32_t greatest_contents_size;
 }
 
 /** Returns the proprietary notice. */
@@ -131,7 +132,7 @@ ZEB_EXPORT
 /** The platform's error code, as in <errno.h>, of the last operation that failed or lost bytes; 0 after a
     success. In addition to the platform's own causes: EINVAL for a path with a null inside, ENOMEM for an
     array that could not grow, ENODATA for a file without contents or shorter than the snapshot's size, EILSEQ
-    for contents that cannot be decompressed, EIO for bytes that were not written, ECANCELED for a refusal by
+    for contents that cannot be decompressed or are no document, EFBIG for contents above the greatest size, EIO for bytes that were not written, ECANCELED for a refusal by
     the interceptor. */
 - (int32_t)last_error;
 
@@ -158,6 +159,11 @@ ZEB_EXPORT
 /** Whether the contents are stored compressed, as a zlib stream. */
 - (uint8_t)contents_compressed;
 - (void)set_contents_compressed:(uint8_t)value;
+
+/** The greatest size of contents that are read, as stored and as decompressed; 0, the first value, for any that
+    an array can hold. Set it before you read foreign files. */
+- (uint32_t)greatest_contents_size;
+- (void)set_greatest_contents_size:(uint32_t)value;
 
 /** Whether successes are reported on the standard-output stream. */
 - (uint8_t)log_actions;

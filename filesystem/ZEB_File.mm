@@ -84,6 +84,7 @@ void set_rights(engine::Access_Rights rights, uint8_t &read, uint8_t &write, uin
     made->log_actions = log_actions;
     made->report_errors = report_errors;
     made->interceptor = interceptor;
+    made->greatest_contents_size = greatest_contents_size;
     // A path that could not be copied is the copy's own error.
     if (made->last_error == 0)
         made->last_error = last_error;

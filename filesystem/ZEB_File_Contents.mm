@@ -11,6 +11,7 @@
 #include "filesystem/engine/file_contents.hpp"
 #include "filesystem/engine/file_messages.hpp"
 
+#include <algorithm>
 #include <stdio.h>
 #include <string.h>
 
@@ -30,6 +31,22 @@ bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
     return false;
 }
 
+/// Returns the most bytes that may be read.
+uint64_t greatest_size(ZEB_File *file)
+{
+    return [file greatest_contents_size] != 0 ? [file greatest_contents_size] : UINT64_MAX;
+}
+
+/// Reports why contents cannot be decompressed.
+void report_decompression(ZEB_File *file, int32_t status)
+{
+    if (status == engine::zlib_out_of_room)
+        engine::report_failure(file, messages::error_too_large, EFBIG);
+    else
+        engine::report_failure(file, messages::error_decompressing,
+                               status == engine::zlib_out_of_memory ? ENOMEM : EILSEQ);
+}
+
 /// Reads the file into `target`, whose length becomes `size`; missing bytes are zero. Reports and returns
 /// false if nothing can be read.
 bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
@@ -40,6 +57,8 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
         return failed(file, messages::error_opening, path.cause_of(input.opening_error()));
     if (size == 0)
         return failed(file, messages::error_no_size, ENODATA);
+    if (size > greatest_size(file))
+        return failed(file, messages::error_too_large, EFBIG);
     const uint32_t length = size < UINT32_MAX ? static_cast<uint32_t>(size) : UINT32_MAX;
     [target set_length:length];
     if ([target count] != length) {
@@ -67,10 +86,10 @@ bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
     int32_t status = 0;
     if (was_read) {
         [destination clear];
-        status = ZC_decompress_bytes_to_bytes(stored, destination);
+        const uint64_t most = std::min<uint64_t>(greatest_size(file), UINT32_MAX);
+        status = ZC_decompress_bytes_to_bytes_within(stored, destination, 0, static_cast<uint32_t>(most));
         if (status != 0)
-            engine::report_failure(file, messages::error_decompressing,
-                                   status == engine::zlib_out_of_memory ? ENOMEM : EILSEQ);
+            report_decompression(file, status);
     }
     [stored release];
     return was_read && status == 0;

@@ -66,6 +66,16 @@
     contents_compressed = value != 0;
 }
 
+- (uint32_t)greatest_contents_size
+{
+    return greatest_contents_size;
+}
+
+- (void)set_greatest_contents_size:(uint32_t)value
+{
+    greatest_contents_size = value;
+}
+
 - (uint8_t)log_actions
 {
     return log_actions;

@@ -15,10 +15,9 @@ constexpr std::uint32_t byte_order_marker = 0x50AB40CD;
 
 /// The words from the marker on; only the marker is ever read.
 constexpr std::uint32_t header_words[] = {byte_order_marker, 0, 2, 4, 2, 1, 1};
-constexpr char header_tail[] = "1111";
 
 static_assert(header_text_size == 32);
-static_assert(header_text_size + sizeof header_words + sizeof header_tail - 1 == binary_header_size);
+static_assert(header_text_size + sizeof header_words + header_tail_size == binary_header_size);
 
 } // namespace
 
@@ -26,7 +25,7 @@ void write_binary_header(char *buffer) noexcept
 {
     std::memcpy(buffer, header_text, header_text_size);
     std::memcpy(buffer + header_text_size, header_words, sizeof header_words);
-    std::memcpy(buffer + header_text_size + sizeof header_words, header_tail, sizeof header_tail - 1);
+    std::memcpy(buffer + header_text_size + sizeof header_words, plain_header_tail, header_tail_size);
 }
 
 bool binary_header_needs_swap(const char *buffer, std::uint32_t length) noexcept

@@ -8,6 +8,11 @@ namespace zeb::engine
 
 inline constexpr std::uint32_t binary_header_size = 64;
 
+/// The last four characters of a header: of every plain one, and of one whose records a check sum follows.
+inline constexpr std::uint32_t header_tail_size = 4;
+inline constexpr char plain_header_tail[] = "1111";
+inline constexpr char checked_header_tail[] = "CRC1";
+
 /// Writes the header into the first 64 bytes at `buffer`, in this machine's byte order.
 void write_binary_header(char *buffer) noexcept;
 

@@ -22,7 +22,7 @@ struct Array_Sink {
     Array_Storage<Kind> array;
     Report report;
 
-    Zlib_Output output() noexcept { return {this, append}; }
+    Zlib_Output output() noexcept { return {this, append, room, keep}; }
 
     static bool append(void *destination, const char *bytes, std::uint32_t length) noexcept
     {
@@ -31,6 +31,19 @@ struct Array_Sink {
         append_elements(sink.array, Elements_Of<Kind>{reinterpret_cast<const Element *>(bytes), length},
                         sink.report);
         return sink.array.count != count;
+    }
+
+    // An append grows until the capacity exceeds the count.
+    static Output_Room room(void *destination) noexcept
+    {
+        const Array_Storage<Kind> array = static_cast<Array_Sink *>(destination)->array;
+        const std::uint32_t spare = array.capacity > array.count ? array.capacity - array.count - 1 : 0;
+        return {reinterpret_cast<char *>(array.data) + array.count, array.data != nullptr ? spare : 0};
+    }
+
+    static void keep(void *destination, std::uint32_t length) noexcept
+    {
+        static_cast<Array_Sink *>(destination)->array.count += length;
     }
 };
 

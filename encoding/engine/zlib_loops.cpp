@@ -1,5 +1,6 @@
 #include "encoding/engine/zlib_loops.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <zlib.h>
 
@@ -16,7 +17,7 @@ constexpr std::uint64_t greatest_refed_output = std::uint64_t{64} << 20;
 
 constexpr std::int32_t no_verdict = 1;
 
-static_assert(zlib_out_of_memory == Z_MEM_ERROR);
+static_assert(zlib_out_of_memory == Z_MEM_ERROR && zlib_out_of_room == Z_BUF_ERROR);
 
 void report_line(const char *line) noexcept { std::fputs(line, stderr); }
 
@@ -27,48 +28,103 @@ void set_input(z_stream &stream, const char *bytes, std::uint32_t length) noexce
     stream.avail_in = length;
 }
 
-/// Gives zlib an output chunk, runs it, appends its output, and returns zlib's status.
+/// What zlib made in one call.
+struct Made {
+    int status;
+    std::uint32_t size;
+};
+
+/// Runs zlib once with `size` bytes of room at `bytes`.
 template <class Run>
-int run_chunk(z_stream &stream, Zlib_Output output, Run run) noexcept
+Made run_once(z_stream &stream, char *bytes, std::uint32_t size, Run run) noexcept
 {
-    char chunk[zlib_chunk_size];
-    stream.next_out = reinterpret_cast<Bytef *>(chunk);
-    stream.avail_out = zlib_chunk_size;
+    stream.next_out = reinterpret_cast<Bytef *>(bytes);
+    stream.avail_out = size;
     const int status = run(stream);
-    const auto made = static_cast<std::uint32_t>(zlib_chunk_size - stream.avail_out);
-    if (status != Z_STREAM_ERROR && made != 0 && !output.append(output.destination, chunk, made))
-        return Z_MEM_ERROR;
-    return status;
+    return {status, size - stream.avail_out};
+}
+
+/// Runs zlib once, into the destination's own room if whole chunks fit there and into a chunk of its own
+/// else, and keeps what `kept` says of what was made. Returns zlib's status.
+template <class Run, class Kept>
+int run_into(z_stream &stream, Zlib_Output output, std::uint64_t most, Run run, Kept kept) noexcept
+{
+    Output_Room room = output.room(output.destination);
+    room.size = static_cast<std::uint32_t>(std::min<std::uint64_t>(room.size, most));
+    room.size -= room.size % zlib_chunk_size;
+    if (room.size != 0) {
+        const Made made = run_once(stream, room.bytes, room.size, run);
+        output.keep(output.destination, kept(made));
+        return made.status;
+    }
+    char chunk[zlib_chunk_size];
+    const Made made = run_once(stream, chunk, zlib_chunk_size, run);
+    const std::uint32_t length = kept(made);
+    return length == 0 || output.append(output.destination, chunk, length) ? made.status : Z_MEM_ERROR;
 }
 
 int deflate_to_end(z_stream &stream, Zlib_Output output) noexcept
 {
     int status;
     do
-        status = run_chunk(stream, output, [](z_stream &s) { return deflate(&s, Z_FINISH); });
+        status = run_into(
+            stream, output, unbounded, [](z_stream &s) { return deflate(&s, Z_FINISH); },
+            [](Made made) { return made.status == Z_STREAM_ERROR ? 0 : made.size; });
     while (status >= Z_OK && stream.avail_out == 0);
     return status;
 }
 
-/// Runs inflate over the input once. Returns the final status, or `no_verdict` if the input ends before the
-/// stream does.
-std::int32_t inflate_pass(z_stream &stream, Zlib_Output output, std::uint64_t output_limit) noexcept
+/// A decompression under way.
+struct Inflation {
+    z_stream stream;
+    Zlib_Output output;
+    std::uint64_t bound;
+};
+
+/// Returns how much of what a call made is kept. A failure discards the last chunk of those in which the
+/// output would have been made, which may be a whole one.
+std::uint32_t kept_of(Made made) noexcept
 {
-    do {
-        // A failed call discards its own chunk; earlier output stays.
-        const int status = run_chunk(stream, output, [](z_stream &s) {
-            const int answer = inflate(&s, Z_NO_FLUSH);
-            if (answer == Z_DATA_ERROR || answer == Z_MEM_ERROR || answer == Z_NEED_DICT)
-                s.avail_out = zlib_chunk_size;
-            return answer;
+    switch (made.status) {
+    case Z_STREAM_ERROR:
+        return 0;
+    case Z_DATA_ERROR:
+    case Z_MEM_ERROR:
+    case Z_NEED_DICT:
+        return made.size == 0 ? 0 : (made.size - 1) / zlib_chunk_size * zlib_chunk_size;
+    default:
+        return made.size;
+    }
+}
+
+/// Runs inflate once and appends at most `most` bytes of output; what lies beyond the bound is discarded.
+int inflate_once(Inflation &inflation, std::uint64_t most) noexcept
+{
+    const std::uint64_t left = inflation.bound - inflation.stream.total_out;
+    return run_into(
+        inflation.stream, inflation.output, std::min(most, left),
+        [](z_stream &s) { return inflate(&s, Z_NO_FLUSH); },
+        [left](Made made) {
+            return static_cast<std::uint32_t>(std::min<std::uint64_t>(kept_of(made), left));
         });
+}
+
+/// Runs inflate over the input once, in pieces of at most `most` bytes, until the output exceeds `limit`.
+/// Returns the final status, or `no_verdict` if the input ends before the stream does.
+std::int32_t inflate_pass(Inflation &inflation, std::uint64_t most, std::uint64_t limit) noexcept
+{
+    z_stream &stream = inflation.stream;
+    do {
+        const int status = inflate_once(inflation, most);
         if (status == Z_STREAM_ERROR)
             report_line("decompress error: stream is not OK.\n");
         if (status == Z_NEED_DICT)
             return Z_DATA_ERROR;
         if (status == Z_DATA_ERROR || status == Z_MEM_ERROR || status == Z_STREAM_ERROR)
             return status;
-        if (stream.total_out > output_limit)
+        if (stream.total_out > inflation.bound)
+            return Z_BUF_ERROR;
+        if (stream.total_out > limit)
             return Z_DATA_ERROR;
         if (status == Z_STREAM_END && stream.avail_out != 0)
             return Z_OK;
@@ -76,18 +132,17 @@ std::int32_t inflate_pass(z_stream &stream, Zlib_Output output, std::uint64_t ou
     return no_verdict;
 }
 
-std::int32_t inflate_to_end(z_stream &stream, const char *bytes, std::uint32_t length,
-                            Zlib_Output output) noexcept
+std::int32_t inflate_to_end(Inflation &inflation, const char *bytes, std::uint32_t length) noexcept
 {
-    set_input(stream, bytes, length);
-    std::int32_t verdict = inflate_pass(stream, output, UINT64_MAX);
-    const std::uint64_t output_limit = stream.total_out + greatest_refed_output;
+    set_input(inflation.stream, bytes, length);
+    std::int32_t verdict = inflate_pass(inflation, unbounded, unbounded);
+    const std::uint64_t limit = inflation.stream.total_out + greatest_refed_output;
     std::uint64_t refed_input = 0;
     for (std::uint32_t pass = 1;
          verdict == no_verdict && pass < greatest_pass_count && refed_input < greatest_refed_input; ++pass) {
-        set_input(stream, bytes, length);
+        set_input(inflation.stream, bytes, length);
         refed_input += length;
-        verdict = inflate_pass(stream, output, output_limit);
+        verdict = inflate_pass(inflation, zlib_chunk_size, limit);
     }
     return verdict == no_verdict ? Z_DATA_ERROR : verdict;
 }
@@ -123,18 +178,19 @@ std::int32_t compress(const char *bytes, std::uint32_t length, Zlib_Output outpu
     return Z_OK;
 }
 
-std::int32_t decompress(const char *bytes, std::uint32_t length, Zlib_Output output) noexcept
+std::int32_t decompress(const char *bytes, std::uint32_t length, Zlib_Output output,
+                        std::uint64_t bound) noexcept
 {
     if (length == 0)
         return Z_OK;
-    z_stream stream{};
-    const int started = inflateInit(&stream);
+    Inflation inflation{{}, output, bound};
+    const int started = inflateInit(&inflation.stream);
     if (started != Z_OK) {
         report_line("decompress error: stream is not OK.\n");
         return started;
     }
-    const std::int32_t verdict = inflate_to_end(stream, bytes, length, output);
-    inflateEnd(&stream);
+    const std::int32_t verdict = inflate_to_end(inflation, bytes, length);
+    inflateEnd(&inflation.stream);
     return verdict;
 }
 

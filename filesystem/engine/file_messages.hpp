@@ -8,6 +8,7 @@ namespace zeb::engine::messages
 
 inline constexpr Char_Span error_opening = span_of("Error opening file: ");
 inline constexpr Char_Span error_no_size = span_of("Error, zero content size for file: ");
+inline constexpr Char_Span error_too_large = span_of("Error, contents too large for file: ");
 inline constexpr Char_Span error_reading = span_of("Error reading contents of file: ");
 inline constexpr Char_Span error_decompressing =
     span_of("Error: Decompress failed while reading contents of file: ");
@@ -21,6 +22,9 @@ inline constexpr Char_Span while_reading = span_of(" while reading contents of f
 inline constexpr Char_Span warning_length_written = span_of("Warning: Discrepancy in actual length written ");
 inline constexpr Char_Span against_specified_length = span_of(" v.s. specified length ");
 inline constexpr Char_Span while_writing = span_of(" while writing contents to file: ");
+
+inline constexpr Char_Span error_no_document = span_of("Error, too short for a document: ");
+inline constexpr Char_Span error_check_sum = span_of("Error, check sum differs in document: ");
 
 inline constexpr Char_Span backstored = span_of("Backstored file: ");
 inline constexpr Char_Span error_backstoring = span_of("Error backstoring file: ");

@@ -1,12 +1,8 @@
 #include "tests/support/captured.hpp"
 #include "tests/support/failing_calls.h"
 #include "tests/support/files.hpp"
-#include "tests/support/scratch_folder.hpp"
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
-#include <sys/stat.h>
 
 using namespace support;
 
@@ -75,7 +71,7 @@ const Row restore_rows[] = {{"rename", EXDEV, 0, EXDEV, "Error restoring file: "
 
 } // namespace
 
-class Failing_Calls : public testing::Test
+class Failing_Calls : public File_Test
 {
 protected:
     /// Runs an operation for each row, on an entry whose last operation went otherwise.
@@ -106,9 +102,6 @@ protected:
             EXPECT_EQ(result(file), row.text);
         }
     }
-
-    Scratch_Folder folder;
-    const std::string path = folder / "data";
 };
 
 TEST_F(Failing_Calls, of_write_contents)
@@ -120,18 +113,15 @@ TEST_F(Failing_Calls, of_write_contents)
 
 TEST_F(Failing_Calls, of_read_contents)
 {
-    ZEB_Byte_Array *const target = [ZEB_Byte_Array array_with_capacity:16];
+    ZEB_Byte_Array *const target = bytes("");
     run(
         read_rows, new_text,
         [=](ZEB_File *file) {
-            [target set_length:12];
-            memset([target byte_data], 'x', 12);
+            [target set_contents_of_array:bytes("what was there goes")];
             [file read_contents:target];
             return 0;
         },
-        [=](ZEB_File *) {
-            return std::string(reinterpret_cast<const char *>([target byte_data]), [target count]);
-        });
+        [=](ZEB_File *) { return text_of(target); });
 }
 
 TEST_F(Failing_Calls, of_refresh_status)
@@ -165,13 +155,8 @@ TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
         });
         return calls >= number;
     };
-    std::string deep = folder.path;
-    while (deep.size() < 1800) {
-        deep += "/" + std::string(120, 'd');
-        mkdir(deep.c_str(), 0700);
-    }
     // The first length behind which "~" needs another block.
-    deep += "/" + std::string(2045 - deep.size(), 'f');
+    const std::string deep = long_path(2046);
     put_file(deep, "far");
     ZEB_File *const far = entry(deep);
     if (!is_refused_memory(1, [&] { [far refresh_status]; }))
@@ -188,8 +173,8 @@ TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
 
     put_file(path, old_text);
     ZEB_File *const file = entry(path);
-    ZEB_String *const long_path = text(deep);
-    is_refused_memory(1, [&] { [file set_path:long_path]; });
+    ZEB_String *const new_path = text(deep);
+    is_refused_memory(1, [&] { [file set_path:new_path]; });
     EXPECT_EQ([file last_error], ENOMEM);
     standard_error_of([&] { EXPECT_EQ([file write_contents:"x" length:1], 0u); });
     EXPECT_EQ(file_text(path), old_text);

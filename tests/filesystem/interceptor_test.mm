@@ -1,11 +1,7 @@
-#include "tests/support/captured.hpp"
 #include "tests/support/files.hpp"
-#include "tests/support/scratch_folder.hpp"
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
-#include <unistd.h>
+#include <tuple>
 #include <vector>
 
 using namespace support;
@@ -23,7 +19,6 @@ using namespace support;
 
 - (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file
 {
-    (void)file;
     asked->push_back(action);
     return decision;
 }
@@ -32,14 +27,8 @@ using namespace support;
     -(uint32_t)signature { return ++acted; }
 
 ACT(intercept_refresh_status : (ZEB_File *)file)
-ACT(intercept_create_file : (ZEB_File *)file)
-ACT(intercept_create_directory : (ZEB_File *)file)
-ACT(intercept_create_parent_directories : (ZEB_File *)file)
-ACT(intercept_remove : (ZEB_File *)file)
 ACT(intercept_read_contents : (ZEB_File *)file destination : (ZEB_Byte_Array *)destination)
 ACT(intercept_write_contents : (ZEB_File *)file bytes : (const void *)bytes length : (uint32_t)length)
-ACT(intercept_copy_to : (ZEB_File *)file destination : (ZEB_String *)destination)
-ACT(intercept_move_to : (ZEB_File *)file destination : (ZEB_String *)destination)
 ACT(intercept_backstore : (ZEB_File *)file)
 
 @end
@@ -69,17 +58,12 @@ ACT(intercept_backstore : (ZEB_File *)file)
 namespace
 {
 
-struct Outcome {
-    uint32_t refreshed, written, backstored;
-    uint32_t acted;
-    std::string contents, read, path;
-};
+/// What refreshing, writing and backstoring answer, how often the interceptor acts on the last of them; what
+/// the file then holds, what was read of it, and by what its path has grown.
+using Outcome = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, std::string, std::string, std::string>;
 
-/// Refreshes, writes, reads and backstores an entry under one decision.
-Outcome outcome_of(uint32_t decision)
+Outcome outcome_of(uint32_t decision, const std::string &path)
 {
-    const Scratch_Folder folder;
-    const std::string path = folder / "file";
     put_file(path, "old");
     std::vector<uint32_t> asked;
     Recording_Interceptor *const interceptor = [[[Recording_Interceptor alloc] init] autorelease];
@@ -87,58 +71,45 @@ Outcome outcome_of(uint32_t decision)
     interceptor->asked = &asked;
     ZEB_File *const file = entry(path);
     [file set_interceptor:interceptor];
-    ZEB_Byte_Array *const target = [ZEB_Byte_Array array_with_capacity:0];
-    [target append_byte:'k'];
-    Outcome outcome;
-    outcome.refreshed = [file refresh_status];
-    interceptor->acted = 0;
-    outcome.written = [file write_contents:"new" length:3];
-    outcome.contents = file_text(path);
-    interceptor->acted = 0;
+    ZEB_Byte_Array *const target = bytes("kept");
+    // What acts answers with how often it did.
+    const auto answer_of = [&](auto work) {
+        interceptor->acted = 0;
+        return work();
+    };
+    const uint32_t refreshed = answer_of([&] { return [file refresh_status]; });
+    const uint32_t written = answer_of([&] { return [file write_contents:"new" length:3]; });
+    const std::string contents = file_text(path);
     [file read_contents:target];
-    outcome.read = std::string(reinterpret_cast<const char *>([target byte_data]), [target count]);
-    interceptor->acted = 0;
-    outcome.backstored = [file backstore];
-    outcome.acted = interceptor->acted;
-    outcome.path = text_of([file path]).substr(path.size());
+    const uint32_t backstored = answer_of([&] { return [file backstore]; });
     EXPECT_EQ(asked, (std::vector<uint32_t>{ZEB_FILE_REFRESH_STATUS, ZEB_FILE_WRITE_CONTENTS,
                                             ZEB_FILE_READ_CONTENTS, ZEB_FILE_BACKSTORE}));
-    return outcome;
+    return {refreshed,
+            written,
+            backstored,
+            interceptor->acted,
+            contents,
+            text_of(target),
+            text_of([file path]).substr(path.size())};
 }
 
-const std::string suffix("~\0", 2);
+using Interceptor = File_Test;
 
 } // namespace
 
-TEST(Interceptor, is_obeyed_by_its_code)
+TEST_F(Interceptor, is_obeyed_by_its_code)
 {
+    const std::string suffix("~\0", 2);
     // 2 acts in the entry's place; 3 acts, and the entry too but for refreshing and reading; others let it
     // act.
-    const struct {
-        uint32_t decision, refreshed, backstored, acted;
-        const char *contents, *read;
-        std::string path;
-    } rows[] = {{0, 0, 0, 0, "old", "k", ""},
-                {2, 1, 1, 1, "old", "k", suffix},
-                {3, 1, 1, 1, "new", "k", suffix},
-                {1, 1, 1, 0, "new", "new", suffix}};
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.decision);
-        const Outcome outcome = outcome_of(row.decision);
-        EXPECT_EQ(outcome.refreshed, row.refreshed);
-        EXPECT_EQ(outcome.written, row.refreshed);
-        EXPECT_EQ(outcome.contents, row.contents);
-        EXPECT_EQ(outcome.read, row.read);
-        EXPECT_EQ(outcome.acted, row.acted);
-        EXPECT_EQ(outcome.backstored, row.backstored);
-        EXPECT_EQ(outcome.path, row.path);
-    }
+    EXPECT_EQ(outcome_of(0, path), Outcome(0, 0, 0, 0, "old", "kept", ""));
+    EXPECT_EQ(outcome_of(2, path), Outcome(1, 1, 1, 1, "old", "kept", suffix));
+    EXPECT_EQ(outcome_of(3, path), Outcome(1, 1, 1, 1, "new", "kept", suffix));
+    EXPECT_EQ(outcome_of(1, path), Outcome(1, 1, 1, 0, "new", "new", suffix));
 }
 
-TEST(Interceptor, that_lacks_an_operation_lets_the_entry_act)
+TEST_F(Interceptor, that_lacks_an_operation_lets_the_entry_act)
 {
-    const Scratch_Folder folder;
-    const std::string path = folder / "file";
     ZEB_File *const file = entry(path);
     // An object without any of the operations is one too.
     [file set_interceptor:static_cast<id>([[[ZEB_Object alloc] init] autorelease])];

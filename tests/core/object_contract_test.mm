@@ -73,17 +73,14 @@ TEST(Every_Class, answers_the_root_operations_and_its_own_notice)
 @end
 
 @implementation Changeling
-
 - (id)init
 {
     return static_cast<id>([NSNull null]);
 }
-
 - (id)identity:(id)object
 {
     return object;
 }
-
 @end
 
 TEST(Root_Operations, work_on_platform_objects)

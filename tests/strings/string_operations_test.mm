@@ -7,6 +7,7 @@
 #include "tests/support/strings.hpp"
 
 #include <gtest/gtest.h>
+#import <objc/runtime.h>
 
 using namespace support;
 
@@ -25,15 +26,13 @@ TEST(String_Operations, strings_describe_themselves_as_their_text)
 {
     ZEB_String_Array *const strings = [[[ZEB_String_Array alloc] init] autorelease];
     ZEB_Object_Array *const objects = [[[ZEB_Object_Array alloc] init] autorelease];
-    for (const char *word : {"caf\xC3\xA9", "caf\xE9", "", "{}"}) {
+    for (const char *word : {"caf\xC3\xA9", "caf\xE9", "", "{}"})
         [strings append_string:text(word)];
-        [objects append_object:text(word)];
-    }
+    [objects append_object:text("caf\xE9")];
     [objects append_object:wide_text(U"w\xE9")];
     [objects append_object:strings];
-    EXPECT_STREQ([[strings description] UTF8String], "{caf\xC3\xA9, caf\xC3\xA9, , {}}");
     EXPECT_STREQ([[objects description] UTF8String],
-                 "{caf\xC3\xA9, caf\xC3\xA9, , {}, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
+                 "{caf\xC3\xA9, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
     EXPECT_STREQ([[text("caf\xE9") description] UTF8String], "caf\xC3\xA9");
     EXPECT_STREQ([[wide_text(U"text") description] UTF8String], "text");
 }
@@ -98,26 +97,22 @@ TEST(String_Operations, refuse_on_links_under_their_own_names)
     char byte = 'a';
     ZEB_Wide_String *const wide = [ZEB_Wide_String link_to_wide_chars:units count:1];
     ZEB_String *const narrow = [ZEB_String link_to_chars:&byte count:1];
-    const auto expect = [](const char *selector, const char *named, const char *note, auto work) {
-        EXPECT_EQ(standard_error_of(work), fix_line(selector, named, note));
+    const auto expect = [](id link, const char *selector, const char *note, auto work) {
+        EXPECT_EQ(standard_error_of(work), fix_line(selector, class_getName([link class]), note));
     };
     const char *const no_copy = "Cannot copy c string through link, no copy made.";
     const char *const no_append = "Cannot append c string through link, no append made.";
-    expect("copy_c_string:length:", "ZEB_String", no_copy, [&] { [narrow copy_c_string:"x" length:1]; });
-    expect("append_c_string:length:", "ZEB_String", no_append, [&] { [narrow append_c_string:"" length:0]; });
-    expect("append_null_terminator", "ZEB_String",
-           "Cannot append null terminator through link, no append made.",
+    expect(narrow, "copy_c_string:length:", no_copy, [&] { [narrow copy_c_string:"x" length:1]; });
+    expect(narrow, "append_c_string:length:", no_append, [&] { [narrow append_c_string:"" length:0]; });
+    expect(narrow, "append_null_terminator", "Cannot append null terminator through link, no append made.",
            [&] { [narrow append_null_terminator]; });
-    expect("copy_c_string:length:", "ZEB_Wide_String", no_copy, [&] { [wide copy_c_string:"" length:0]; });
-    expect("copy_chars:length:", "ZEB_Wide_String", no_copy, [&] { [wide copy_chars:"x" length:1]; });
-    expect("append_c_string:length:", "ZEB_Wide_String", no_append,
-           [&] { [wide append_c_string:"x" length:1]; });
-    expect("append_chars:length:", "ZEB_Wide_String", no_append, [&] { [wide append_chars:"x" length:1]; });
-    expect("set_code_points_from_utf8:", "ZEB_Wide_String",
-           "Cannot update length through link, no adjustment made.",
+    expect(wide, "copy_c_string:length:", no_copy, [&] { [wide copy_c_string:"" length:0]; });
+    expect(wide, "copy_chars:length:", no_copy, [&] { [wide copy_chars:"x" length:1]; });
+    expect(wide, "append_c_string:length:", no_append, [&] { [wide append_c_string:"x" length:1]; });
+    expect(wide, "append_chars:length:", no_append, [&] { [wide append_chars:"x" length:1]; });
+    expect(wide, "set_code_points_from_utf8:", "Cannot update length through link, no adjustment made.",
            [&] { EXPECT_EQ([wide set_code_points_from_utf8:text("x")], 0); });
-    expect("split_to_surrogate_pairs", "ZEB_Wide_String",
-           "Cannot update capacity through link, no adjustment made.",
+    expect(wide, "split_to_surrogate_pairs", "Cannot update capacity through link, no adjustment made.",
            [&] { [wide split_to_surrogate_pairs]; });
     EXPECT_EQ(zeb::view(wide), U"\U0001F600");
     EXPECT_EQ(zeb::view(narrow), "a");
@@ -125,23 +120,20 @@ TEST(String_Operations, refuse_on_links_under_their_own_names)
 
 TEST(String_Operations, turn_utf8_into_code_points_and_back)
 {
-    ZEB_String *const utf8 = text("a\xC3\xA9\xF0\x9F\x98\x80");
+    ZEB_String *const utf8 = text("a\xC3\xA9\xF0\x9F\x98\x80"), *const back = text("kept");
+    ZEB_String *const ill_formed = text("xyz\xC3");
     ZEB_Wide_String *const wide = wide_text(U"kept");
-    EXPECT_EQ([utf8 is_valid_utf8], 1);
-    EXPECT_EQ([text("\xC3") is_valid_utf8], 0);
-    EXPECT_EQ([wide set_code_points_from_utf8:text("xyz\xC3")], 0);
+    EXPECT_EQ([ill_formed is_valid_utf8] + [wide set_code_points_from_utf8:ill_formed], 0);
     EXPECT_EQ(zeb::view(wide), U"kept");
-    EXPECT_EQ([wide set_code_points_from_utf8:utf8], 1);
+    EXPECT_EQ([utf8 is_valid_utf8] + [wide set_code_points_from_utf8:utf8], 2);
     EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
-    ZEB_String *const back = text("kept");
-    EXPECT_EQ([wide write_code_points_as_utf8:back], 1);
-    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
     [wide split_to_surrogate_pairs];
     EXPECT_EQ(zeb::view(wide), (std::u32string{'a', 0xE9, 0xD83D, 0xDE00}));
     EXPECT_EQ([wide write_code_points_as_utf8:back], 0);
-    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
+    EXPECT_EQ(zeb::view(back), "kept");
     [wide join_surrogate_pairs];
-    EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
+    EXPECT_EQ([wide write_code_points_as_utf8:back], 1);
+    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
 }
 
 TEST(String_Operations, serve_as_keys_of_a_dictionary)

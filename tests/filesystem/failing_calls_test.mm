@@ -100,45 +100,33 @@ protected:
             EXPECT_EQ([file last_error], row.last_error);
             EXPECT_EQ(told, *row.message != '\0' ? row.message + path + "\n" : "");
             EXPECT_EQ(result(file), row.text);
+            EXPECT_EQ(text_of([file path]), path);
         }
     }
 };
 
-TEST_F(Failing_Calls, of_write_contents)
+TEST_F(Failing_Calls, are_told_and_lose_nothing)
 {
+    const auto file_at = [](const std::string &place) {
+        return [=](ZEB_File *) { return file_text(place); };
+    };
     run(
         write_rows, old_text, [](ZEB_File *file) { return [file write_contents:new_text.data() length:12]; },
-        [&](ZEB_File *) { return file_text(path); });
-}
-
-TEST_F(Failing_Calls, of_read_contents)
-{
-    ZEB_Byte_Array *const target = bytes("");
+        file_at(path));
     run(
-        read_rows, new_text,
-        [=](ZEB_File *file) {
-            [target set_contents_of_array:bytes("what was there goes")];
-            [file read_contents:target];
-            return 0;
-        },
-        [=](ZEB_File *) { return text_of(target); });
-}
-
-TEST_F(Failing_Calls, of_refresh_status)
-{
+        backstore_rows, old_text, [](ZEB_File *file) { return [file backstore]; }, file_at(path));
+    run(
+        restore_rows, old_text, [](ZEB_File *file) { return [file restore]; }, file_at(path));
     run(
         status_rows, old_text, [](ZEB_File *file) { return [file refresh_status]; },
         [](ZEB_File *file) { return std::to_string([file exists] + [file size]); });
-}
-
-TEST_F(Failing_Calls, of_backstore_and_restore)
-{
-    run(
-        backstore_rows, old_text, [](ZEB_File *file) { return [file backstore]; },
-        [&](ZEB_File *file) { return file_text(text_of([file path])); });
-    run(
-        restore_rows, old_text, [](ZEB_File *file) { return [file restore]; },
-        [&](ZEB_File *) { return file_text(path); });
+    ZEB_Byte_Array *const target = bytes("");
+    const auto read = [=](ZEB_File *file) {
+        [target set_contents_of_array:bytes("what was there goes")];
+        [file read_contents:target];
+        return 0;
+    };
+    run(read_rows, new_text, read, [=](ZEB_File *) { return text_of(target); });
 }
 
 TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)

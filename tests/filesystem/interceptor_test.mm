@@ -6,52 +6,45 @@
 
 using namespace support;
 
-/// Decides always the same, and answers 1 when it acts.
+// What the interceptor was asked about.
+static std::vector<uint32_t> asked;
+
+/// Decides always the same. It acts by answering how often it did, or lacks all actions but that on a status.
 @interface Recording_Interceptor : ZEB_Object <ZEB_File_Interceptor> {
 @public
     uint32_t decision;
-    std::vector<uint32_t> *asked;
     uint32_t acted;
+    bool is_sparse;
 }
 @end
 
 @implementation Recording_Interceptor
 
-- (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file
+- (BOOL)respondsToSelector:(SEL)selector
 {
-    asked->push_back(action);
-    return decision;
+    const bool is_there = !is_sparse || selector == @selector(decide_action:file:) ||
+                          selector == @selector(intercept_refresh_status:);
+    return is_there && [super respondsToSelector:selector];
 }
-
-#define ACT(signature)                                                                                       \
-    -(uint32_t)signature { return ++acted; }
-
-ACT(intercept_refresh_status : (ZEB_File *)file)
-ACT(intercept_read_contents : (ZEB_File *)file destination : (ZEB_Byte_Array *)destination)
-ACT(intercept_write_contents : (ZEB_File *)file bytes : (const void *)bytes length : (uint32_t)length)
-ACT(intercept_backstore : (ZEB_File *)file)
-
-@end
-
-/// Decides, and acts on nothing but a status.
-@interface Sparse_Interceptor : ZEB_Object <ZEB_File_Interceptor> {
-@public
-    uint32_t decision;
-}
-@end
-
-@implementation Sparse_Interceptor
 
 - (uint32_t)decide_action:(ZEB_File_Action)action file:(ZEB_File *)file
 {
+    asked.push_back(action);
     return decision;
 }
 
 - (uint32_t)intercept_refresh_status:(ZEB_File *)file
 {
     [file set_last_error:EREMOTE];
-    return 0;
+    return ++acted;
 }
+
+#define ACT(signature)                                                                                       \
+    -(uint32_t)signature { return ++acted; }
+
+ACT(intercept_read_contents : (ZEB_File *)file destination : (ZEB_Byte_Array *)destination)
+ACT(intercept_write_contents : (ZEB_File *)file bytes : (const void *)bytes length : (uint32_t)length)
+ACT(intercept_backstore : (ZEB_File *)file)
 
 @end
 
@@ -65,14 +58,12 @@ using Outcome = std::tuple<uint32_t, uint32_t, uint32_t, uint32_t, std::string, 
 Outcome outcome_of(uint32_t decision, const std::string &path)
 {
     put_file(path, "old");
-    std::vector<uint32_t> asked;
+    asked.clear();
     Recording_Interceptor *const interceptor = [[[Recording_Interceptor alloc] init] autorelease];
     interceptor->decision = decision;
-    interceptor->asked = &asked;
     ZEB_File *const file = entry(path);
     [file set_interceptor:interceptor];
     ZEB_Byte_Array *const target = bytes("kept");
-    // What acts answers with how often it did.
     const auto answer_of = [&](auto work) {
         interceptor->acted = 0;
         return work();
@@ -114,13 +105,15 @@ TEST_F(Interceptor, that_lacks_an_operation_lets_the_entry_act)
     // An object without any of the operations is one too.
     [file set_interceptor:static_cast<id>([[[ZEB_Object alloc] init] autorelease])];
     EXPECT_EQ([file write_contents:"one" length:3], 1u);
-    Sparse_Interceptor *const sparse = [[[Sparse_Interceptor alloc] init] autorelease];
+    Recording_Interceptor *const sparse = [[[Recording_Interceptor alloc] init] autorelease];
+    sparse->is_sparse = true;
     [file set_interceptor:sparse];
     for (const uint32_t decision : {2u, 3u}) {
         sparse->decision = decision;
         EXPECT_EQ([file write_contents:"two" length:3], 1u);
         EXPECT_EQ(file_text(path), "two");
-        EXPECT_EQ([file refresh_status], 0u);
+        sparse->acted = 6;
+        EXPECT_EQ([file refresh_status], 7u);
         EXPECT_EQ([file last_error], EREMOTE);
     }
     EXPECT_EQ([file backstore], 1u);

@@ -6,7 +6,7 @@
 #include "tests/strings/random_text.hpp"
 #include "tests/support/comma_locale.hpp"
 
-#include <algorithm>
+#include <cctype>
 #include <cstring>
 
 using namespace zeb_test;
@@ -16,37 +16,36 @@ namespace
 
 using Text = std::span<const char>;
 
-int folded(char c)
+/// The characters in the order in which texts are compared that differ in case alone.
+std::vector<int> folded(Text text)
 {
-    signed char byte = static_cast<signed char>(c);
-    if (std::isupper(byte))
+    std::vector<int> codes;
+    for (const char c : text) {
+        const auto code = static_cast<signed char>(c);
         // Compilers take the small letter of a signed character for a signed character, which it need not be.
-        byte = static_cast<signed char>(std::tolower(static_cast<unsigned char>(c)));
-    return byte;
+        const int small = std::tolower(static_cast<unsigned char>(c));
+        codes.push_back(std::isupper(code) ? static_cast<signed char>(small) : code);
+    }
+    return codes;
 }
 
-/// Lexicographic order over what `value` makes of the characters.
-template <class Characters, class Value>
-ZEB_Comparison order(const Characters &left, const Characters &right, Value value)
+template <class Characters>
+ZEB_Comparison order(const Characters &left, const Characters &right)
 {
-    const auto found =
-        std::lexicographical_compare_three_way(left.begin(), left.end(), right.begin(), right.end(),
-                                               [=](auto a, auto b) { return value(a) <=> value(b); });
-    return found < 0 ? ZEB_COMPARED_LESS : found > 0 ? ZEB_COMPARED_GREATER : ZEB_COMPARED_EQUAL;
+    return left < right ? ZEB_COMPARED_LESS : right < left ? ZEB_COMPARED_GREATER : ZEB_COMPARED_EQUAL;
 }
 
 void expect_same_orders(const std::string &left, const std::string &right)
 {
     const Text first(left), second(right);
-    const auto expected = order(left, right, [](char c) { return static_cast<unsigned char>(c); });
-    ASSERT_EQ(engine::compare(first, second), expected);
-    ASSERT_EQ(engine::is_less<char>(first, second), expected == ZEB_COMPARED_LESS);
-    const auto without_case = order(left, right, folded);
+    ASSERT_EQ(engine::compare(first, second), order(left, right));
+    ASSERT_EQ(engine::is_less<char>(first, second), left < right);
+    const ZEB_Comparison without_case = order(folded(left), folded(right));
     ASSERT_EQ(engine::compare_ignoring_case(first, second), without_case) << left << '|' << right;
     ASSERT_EQ(engine::is_equal_ignoring_case(first, second), without_case == ZEB_COMPARED_EQUAL);
-    // Widened, with a sign or without, bytes keep their order.
     const std::vector<uint32_t> wide_left(left.begin(), left.end()), wide_right(right.begin(), right.end());
-    ASSERT_EQ(engine::compare(std::span<const uint32_t>(wide_left), wide_right), expected);
+    ASSERT_EQ(engine::compare(std::span<const uint32_t>(wide_left), wide_right),
+              order(wide_left, wide_right));
 }
 
 /// The same text, now and then with some or all letters in the other case, another byte, or another length.
@@ -72,7 +71,7 @@ void expect_every_pair_of_bytes_to_compare_alike()
             first[66] = static_cast<char>(left);
             second[66] = static_cast<char>(right);
             const Text one(&first[66], 1), other(&second[66], 1);
-            const ZEB_Comparison expected = order(one, other, folded);
+            const ZEB_Comparison expected = order(folded(one), folded(other));
             ASSERT_EQ(engine::compare_ignoring_case(first, second), expected) << left << ' ' << right;
             ASSERT_EQ(engine::is_equal_ignoring_case(first, second), expected == ZEB_COMPARED_EQUAL);
             ASSERT_EQ(engine::compare_ignoring_case(one, other), expected) << left << ' ' << right;
@@ -96,7 +95,7 @@ TEST(Number_Scanners, find_numbers_and_special_words)
         {"value INF", 4, 0, 8, 8},    {"12E5", 0, none, 3, 2},      {"12G5F", 0, none, 4, 4},
         {"inf", 0, 3, 2, 1},          {"\t iNf", 2, 0, 4, 3},       {"infinity", 0, 8, 7, 7},
         {"Infinity", 0, 8, 7, 7},     {"infinit", 0, 3, 2, 6},      {"INFINITYx", 0, 8, 2, 8},
-        {"xinfinity", 3, 0, 8, 8},    {" nan", 1, 0, 3, 3},         {"NaN ", 0, 3, 2, 3},
+        {"xinfinity", 3, 0, 8, 8},    {" nan", 1, 0, 3, 3},         {"NaN \v", 0, 3, 2, 4},
         {"nano", 0, 3, none, 3},      {"xnan", none, 0, 3, 3},      {"na", none, 0, none, 1},
         {"in", none, 0, none, 1},     {"if", 1, 0, 1, 0},           {"\v\f\r\n ", none, 0, none, 4},
         {" 7\t", 1, 0, 1, 2},         {"8 f ", 0, 1, 2, 3},         {std::string("7\0", 2), 0, 1, 0, 1},

@@ -13,32 +13,30 @@ using namespace support;
 namespace
 {
 
-/// Text that grows by steps, now and then with a part of its own block; the capacity is the smallest of
-/// 16 * 2^k that was ever above the count.
+/// Text that grows by steps, now and then with a part of its own block. The capacity is the smallest of
+/// 16 * 2^k above every count that there was.
 template <class String>
 void walk(std::mt19937 &random)
 {
     String *const string = [[[String alloc] init] autorelease];
-    using Character = typename decltype(zeb::view(string))::value_type;
-    std::basic_string<Character> literal;
-    uint32_t capacity = 0;
+    std::basic_string<typename decltype(zeb::view(string))::value_type> literal;
+    uint32_t capacity = 16;
     for (unsigned step = 0; step < 60; ++step) {
-        const std::string drawn = zeb_test::draw_text(random, random() % 41, step % 3 == 0 ? "" : "ab");
-        std::string_view bytes = drawn;
-        if ([string count] != 0 && random() % 4 == 0) {
-            const char *const block = reinterpret_cast<const char *>(zeb::view(string).data());
-            bytes = std::string_view(block, [string count]).substr(random() % [string count]);
+        std::string bytes = zeb_test::draw_text(random, random() % 41, "");
+        const char *source = bytes.data();
+        if ([string count] != 0 && step % 4 == 0) {
+            source = reinterpret_cast<const char *>(zeb::view(string).data()) + random() % [string count];
+            bytes.assign(source, 1);
         }
-        const auto length = static_cast<uint32_t>(bytes.size());
         const bool appends = random() % 5 != 0;
         literal.resize(appends ? literal.size() : 0);
-        for (const char c : bytes)
-            literal.push_back(static_cast<Character>(static_cast<signed char>(c)));
+        for (const signed char c : bytes)
+            literal.push_back(static_cast<typename decltype(literal)::value_type>(c));
         if (appends)
-            [string append_c_string:bytes.data() length:length];
+            [string append_c_string:source length:static_cast<uint32_t>(bytes.size())];
         else
-            [string copy_c_string:bytes.data() length:length];
-        for (capacity = std::max(capacity, 16u); capacity <= literal.size();)
+            [string copy_c_string:source length:static_cast<uint32_t>(bytes.size())];
+        while (capacity <= literal.size())
             capacity *= 2;
         ASSERT_EQ(zeb::view(string), literal);
         ASSERT_EQ([string capacity], capacity);

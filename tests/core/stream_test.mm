@@ -21,39 +21,33 @@ ZEB_Int_Array *ints(uint32_t count)
 
 } // namespace
 
-TEST(Stream, every_value_goes_through_its_format)
+TEST(Stream, every_value_goes_through_its_format_a_given_one_or_the_first)
 {
     ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
-    const auto written = standard_output_of([&] {
-        [stream write_double:0.1];
-        [stream write_bytes:"|x" length:1];
-        [stream write_int:-7];
-        [stream write_unsigned:4294967295u];
-        [stream write_bytes:"|" length:1];
-        [stream write_float:0.1f];
-        [stream write_char:'c'];
-        [stream write_character_code:65];
-        [stream write_hex:0xabcd];
-        [stream write_unsigned_long:UINT64_MAX];
-        [stream write_string:text("|s")];
-        [stream write_string:nil];
-    });
-    EXPECT_EQ(written, "0.1|-74294967295|0.1c'\\041'0000ABCD18446744073709551615|s");
-}
-
-TEST(Stream, formats_are_set_given_or_the_first_ones_for_null)
-{
-    ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
-    const auto written = standard_output_of([&] {
-        [stream set_double_format:"<%.2f>"];
-        [stream write_double:1.5];
-        [stream set_double_format:NULL];
-        [stream write_double:1.5];
-        [stream write_int_with_format:5 format:"%03d"];
-        [stream write_string_with_format:text("ab") format:"[%4s]"];
-        [stream write_unsigned_long_with_format:5 format:NULL];
-    });
-    EXPECT_EQ(written, "<1.50>1.5005[  ab]5");
+    EXPECT_EQ(standard_output_of([&] {
+                  [stream write_double:0.1];
+                  [stream write_bytes:"|x" length:1];
+                  [stream write_int:-7];
+                  [stream write_unsigned:4294967295u];
+                  [stream write_float:0.1f];
+                  [stream write_char:'c'];
+                  [stream write_character_code:65];
+                  [stream write_hex:0xabcd];
+                  [stream write_unsigned_long:UINT64_MAX];
+                  [stream write_string:text("|s")];
+                  [stream write_string:nil];
+              }),
+              "0.1|-742949672950.1c'\\041'0000ABCD18446744073709551615|s");
+    EXPECT_EQ(standard_output_of([&] {
+                  [stream set_double_format:"<%.2f>"];
+                  [stream write_double:1.5];
+                  [stream set_double_format:NULL];
+                  [stream write_double:1.5];
+                  [stream write_int_with_format:5 format:"%03d"];
+                  [stream write_string_with_format:text("ab") format:"[%4s]"];
+                  [stream write_unsigned_long_with_format:5 format:NULL];
+              }),
+              "<1.50>1.5005[  ab]5");
     EXPECT_EQ([stream double_format], nullptr);
     EXPECT_STREQ([stream date_format], "%m/%d/%Y %H:%M:%S");
 }
@@ -103,7 +97,7 @@ TEST(Stream, receiving_is_not_implemented_and_says_so_on_standard_output)
 
 TEST_F(Comma_Locale, streams_write_and_read_a_full_stop)
 {
-    const support::Given_Input input("2.5");
+    const Redirection input(stdin, "2.5");
     EXPECT_EQ([[ZEB_Stream shared_stream] read_double], 2.5);
     EXPECT_EQ(standard_output_of([&] { [[ZEB_Stream shared_stream] write_double:2.5]; }), "2.5");
     ZEB_Double_Array *const values = [[[ZEB_Double_Array alloc] init] autorelease];
@@ -113,7 +107,7 @@ TEST_F(Comma_Locale, streams_write_and_read_a_full_stop)
 
 TEST(Stream, readers_scan_standard_input)
 {
-    const support::Given_Input input("2.5 -3 4000000000 0.5 x 7.25 9 1.5 [8.5 \xFF");
+    const Redirection input(stdin, "2.5 -3 4000000000 0.5 x 7.25 9 1.5 [8.5 \xFF");
     ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
     EXPECT_EQ([stream read_double], 2.5);
     EXPECT_EQ([stream read_int], -3);
@@ -144,18 +138,9 @@ TEST(Stream, readers_scan_standard_input)
 TEST(Stream, both_names_of_reset_are_one_operation)
 {
     Forgetful_Stream *const stream = [[[Forgetful_Stream alloc] init] autorelease];
-    [stream reset_failure_count];
-    EXPECT_EQ(stream->resets, 1);
-}
-
-TEST(Stream, failures_are_only_counted_by_those_who_count)
-{
-    ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
     [stream set_failure_count:3];
     EXPECT_EQ([stream failure_count], 3u);
-    [stream reset];
-    EXPECT_EQ([stream failure_count], 0u);
-    [stream set_failure_count:3];
     [stream reset_failure_count];
     EXPECT_EQ([stream failure_count], 0u);
+    EXPECT_EQ(stream->resets, 1);
 }

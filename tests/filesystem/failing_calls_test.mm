@@ -1,12 +1,8 @@
 #include "tests/support/captured.hpp"
 #include "tests/support/failing_calls.h"
 #include "tests/support/files.hpp"
-#include "tests/support/scratch_folder.hpp"
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
-#include <sys/stat.h>
 
 using namespace support;
 
@@ -75,7 +71,7 @@ const Row restore_rows[] = {{"rename", EXDEV, 0, EXDEV, "Error restoring file: "
 
 } // namespace
 
-class Failing_Calls : public testing::Test
+class Failing_Calls : public File_Test
 {
 protected:
     /// Runs an operation for each row, on an entry whose last operation went otherwise.
@@ -104,51 +100,33 @@ protected:
             EXPECT_EQ([file last_error], row.last_error);
             EXPECT_EQ(told, *row.message != '\0' ? row.message + path + "\n" : "");
             EXPECT_EQ(result(file), row.text);
+            EXPECT_EQ(text_of([file path]), path);
         }
     }
-
-    Scratch_Folder folder;
-    const std::string path = folder / "data";
 };
 
-TEST_F(Failing_Calls, of_write_contents)
+TEST_F(Failing_Calls, are_told_and_lose_nothing)
 {
+    const auto file_at = [](const std::string &place) {
+        return [=](ZEB_File *) { return file_text(place); };
+    };
     run(
         write_rows, old_text, [](ZEB_File *file) { return [file write_contents:new_text.data() length:12]; },
-        [&](ZEB_File *) { return file_text(path); });
-}
-
-TEST_F(Failing_Calls, of_read_contents)
-{
-    ZEB_Byte_Array *const target = [ZEB_Byte_Array array_with_capacity:16];
+        file_at(path));
     run(
-        read_rows, new_text,
-        [=](ZEB_File *file) {
-            [target set_length:12];
-            memset([target byte_data], 'x', 12);
-            [file read_contents:target];
-            return 0;
-        },
-        [=](ZEB_File *) {
-            return std::string(reinterpret_cast<const char *>([target byte_data]), [target count]);
-        });
-}
-
-TEST_F(Failing_Calls, of_refresh_status)
-{
+        backstore_rows, old_text, [](ZEB_File *file) { return [file backstore]; }, file_at(path));
+    run(
+        restore_rows, old_text, [](ZEB_File *file) { return [file restore]; }, file_at(path));
     run(
         status_rows, old_text, [](ZEB_File *file) { return [file refresh_status]; },
         [](ZEB_File *file) { return std::to_string([file exists] + [file size]); });
-}
-
-TEST_F(Failing_Calls, of_backstore_and_restore)
-{
-    run(
-        backstore_rows, old_text, [](ZEB_File *file) { return [file backstore]; },
-        [&](ZEB_File *file) { return file_text(text_of([file path])); });
-    run(
-        restore_rows, old_text, [](ZEB_File *file) { return [file restore]; },
-        [&](ZEB_File *) { return file_text(path); });
+    ZEB_Byte_Array *const target = bytes("");
+    const auto read = [=](ZEB_File *file) {
+        [target set_contents_of_array:bytes("what was there goes")];
+        [file read_contents:target];
+        return 0;
+    };
+    run(read_rows, new_text, read, [=](ZEB_File *) { return text_of(target); });
 }
 
 TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
@@ -165,13 +143,8 @@ TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
         });
         return calls >= number;
     };
-    std::string deep = folder.path;
-    while (deep.size() < 1800) {
-        deep += "/" + std::string(120, 'd');
-        mkdir(deep.c_str(), 0700);
-    }
     // The first length behind which "~" needs another block.
-    deep += "/" + std::string(2045 - deep.size(), 'f');
+    const std::string deep = long_path(2046);
     put_file(deep, "far");
     ZEB_File *const far = entry(deep);
     if (!is_refused_memory(1, [&] { [far refresh_status]; }))
@@ -188,8 +161,8 @@ TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
 
     put_file(path, old_text);
     ZEB_File *const file = entry(path);
-    ZEB_String *const long_path = text(deep);
-    is_refused_memory(1, [&] { [file set_path:long_path]; });
+    ZEB_String *const new_path = text(deep);
+    is_refused_memory(1, [&] { [file set_path:new_path]; });
     EXPECT_EQ([file last_error], ENOMEM);
     standard_error_of([&] { EXPECT_EQ([file write_contents:"x" length:1], 0u); });
     EXPECT_EQ(file_text(path), old_text);

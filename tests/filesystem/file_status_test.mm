@@ -1,20 +1,22 @@
 #include "tests/support/files.hpp"
-#include "tests/support/scratch_folder.hpp"
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace support;
 
-TEST(File_Status, is_what_the_platform_says)
+class File_Status : public File_Test
 {
-    const Scratch_Folder folder;
-    const std::string path = folder / "file";
-    put_file(path, "12345");
-    chmod(path.c_str(), 0751);
+protected:
+    File_Status()
+    {
+        put_file(path, "12345");
+        chmod(path.c_str(), 0751);
+    }
+};
+
+TEST_F(File_Status, is_what_the_platform_says)
+{
     symlink(path.c_str(), (folder / "link").c_str());
     struct stat found;
     ASSERT_EQ(stat(path.c_str(), &found), 0);
@@ -39,11 +41,8 @@ TEST(File_Status, is_what_the_platform_says)
     EXPECT_EQ([entry("/dev/null") kind], ZEB_File_Kind { ZEB_FILE_KIND_OTHER });
 }
 
-TEST(File_Status, of_nothing_clears_existence_and_size_alone)
+TEST_F(File_Status, of_nothing_clears_existence_and_size_alone)
 {
-    const Scratch_Folder folder;
-    const std::string path = folder / "file";
-    put_file(path, "12345");
     ZEB_File *const file = entry(path);
     unlink(path.c_str());
     EXPECT_EQ([file refresh_status], 1u);
@@ -52,45 +51,38 @@ TEST(File_Status, of_nothing_clears_existence_and_size_alone)
     EXPECT_EQ([file kind], ZEB_File_Kind { ZEB_FILE_KIND_REGULAR });
 }
 
-TEST(File_Status, that_cannot_be_read_keeps_the_reason)
+TEST_F(File_Status, that_cannot_be_read_keeps_the_reason)
 {
-    const Scratch_Folder folder;
-    put_file(folder / "file", "1");
     symlink("loop", (folder / "loop").c_str());
-    const std::pair<std::string, int> rows[] = {
-        {folder / "file", 0},
-        {folder / "missing", 0},
-        {folder / "missing/below", 0},
-        {folder / "file/it", 0},
-        {folder / "loop", ELOOP},
-        {folder / std::string(300, 'n'), ENAMETOOLONG},
-        {std::string("a\0b", 3), EINVAL},
-        {"", 0},
-    };
-    for (const auto &[path, error] : rows) {
-        ZEB_File *const file = entry(path);
-        EXPECT_EQ([file last_error], error) << path;
-        EXPECT_EQ([[[file copy] autorelease] last_error], error) << path;
+    const std::pair<std::string, int> rows[] = {{path, 0},
+                                                {folder / "missing", 0},
+                                                {folder / "missing/below", 0},
+                                                {folder / "file/it", 0},
+                                                {folder / "loop", ELOOP},
+                                                {folder / std::string(300, 'n'), ENAMETOOLONG},
+                                                {std::string("a\0b", 3), EINVAL},
+                                                {"", 0}};
+    for (const auto &[name, error] : rows) {
+        ZEB_File *const file = entry(name);
+        EXPECT_EQ([file last_error], error) << name;
+        EXPECT_EQ([[[file copy] autorelease] last_error], error) << name;
         [file set_path:text(folder.path)];
         [file refresh_status];
         EXPECT_EQ([file last_error], 0);
     }
 }
 
-TEST(File_Status, details_are_loaded_when_wanted)
+TEST_F(File_Status, details_are_loaded_when_wanted)
 {
-    const Scratch_Folder folder;
-    put_file(folder / "file", "1");
-    chmod((folder / "file").c_str(), 0777);
     ZEB_File *const file = [[[ZEB_File alloc] init] autorelease];
     [file set_load_details:0];
-    [file set_path:text(folder / "file")];
+    [file set_path:text(path)];
     [file refresh_status];
-    EXPECT_EQ([file size], 1u);
+    EXPECT_EQ([file size], 5u);
     EXPECT_EQ([file other_execute], 0);
     EXPECT_EQ([file uid], getuid());
     ZEB_File *const copied = [[file copy] autorelease];
-    EXPECT_EQ([copied size], 1u);
+    EXPECT_EQ([copied size], 5u);
     EXPECT_EQ([copied load_details], 0);
-    EXPECT_EQ(text_of([copied path]), folder / "file");
+    EXPECT_EQ(text_of([copied path]), path);
 }

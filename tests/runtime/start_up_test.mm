@@ -5,16 +5,13 @@
 #include "core/engine/namespace.hpp"
 #include "core/engine/one_time.hpp"
 
+#include <algorithm>
+
 TEST(Start_Up, runs_once_and_does_not_come_back_to_itself)
 {
     uint8_t done = 0;
     int runs = 0;
-    const auto start = [&](auto &again) -> void {
-        engine::run_once(done, [&] {
-            ++runs;
-            again(again);
-        });
-    };
+    const auto start = [&](auto &again) -> void { engine::run_once(done, [&] { ++runs, again(again); }); };
     start(start);
     start(start);
     EXPECT_EQ(runs, 1);
@@ -44,10 +41,8 @@ TEST(Start_Up, sets_the_flags_of_the_unit_catalog_once)
 {
     uint8_t *const flags = ZC_unit_catalog_flags();
     ZC_start_up_unit_catalog();
-    for (int i = 0; i < ZEB_UNIT_FLAG_COUNT; ++i)
-        EXPECT_EQ(flags[i], 1);
+    EXPECT_EQ(std::count(flags, flags + ZEB_UNIT_FLAG_COUNT, 1), ZEB_UNIT_FLAG_COUNT);
     flags[3] = 0;
     ZC_start_up_unit_catalog();
     EXPECT_EQ(flags[3], 0);
-    flags[3] = 1;
 }

@@ -1,10 +1,9 @@
-/// Seeded texts for the differential tests of strings.
+/// Seeded texts for differential tests.
 #pragma once
 
 #include <cstdint>
 #include <random>
 #include <string>
-#include <vector>
 
 namespace zeb_test
 {
@@ -25,24 +24,12 @@ std::string characters_of(const char (&literal)[size])
     return {literal, size - 1};
 }
 
-/// Number characters, the letters of the special words, white space, and little else.
-inline const std::string number_alphabet = characters_of("infatyINFATY+-.059eEfFgGxX \t\n\v\xFF\xA0\x85\0");
-
 /// Few letters, in both cases, and bytes on both sides of 0x80.
 inline const std::string case_alphabet = characters_of("aAbBzZ@[`{\x7F\x80\xC9\xE9\xFF\0");
 
 /// The bytes of UTF-8 where its rules change.
 inline const std::string utf8_alphabet = characters_of(
     "a\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xC1\xC2\xDF\xE0\xE1\xED\xEE\xEF\xF0\xF1\xF4\xF5\xF8\xFE\xFF");
-
-template <class Character>
-std::vector<Character> widened(const std::string &text)
-{
-    std::vector<Character> characters;
-    for (char c : text)
-        characters.push_back(static_cast<Character>(static_cast<signed char>(c)));
-    return characters;
-}
 
 /// A code point that UTF-8 can hold, from each of its lengths alike.
 inline uint32_t draw_code_point(std::mt19937 &random)

@@ -3,10 +3,10 @@
 
 #include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
-#include "tests/reference/strings.hpp"
 #include "tests/strings/random_text.hpp"
 #include "tests/support/comma_locale.hpp"
 
+#include <cctype>
 #include <cstring>
 
 using namespace zeb_test;
@@ -16,24 +16,44 @@ namespace
 
 using Text = std::span<const char>;
 
+/// The characters in the order in which texts are compared that differ in case alone.
+std::vector<int> folded(Text text)
+{
+    std::vector<int> codes;
+    for (const char c : text) {
+        const auto code = static_cast<signed char>(c);
+        // Compilers take the small letter of a signed character for a signed character, which it need not be.
+        const int small = std::tolower(static_cast<unsigned char>(c));
+        codes.push_back(std::isupper(code) ? static_cast<signed char>(small) : code);
+    }
+    return codes;
+}
+
+template <class Characters>
+ZEB_Comparison order(const Characters &left, const Characters &right)
+{
+    return left < right ? ZEB_COMPARED_LESS : right < left ? ZEB_COMPARED_GREATER : ZEB_COMPARED_EQUAL;
+}
+
 void expect_same_orders(const std::string &left, const std::string &right)
 {
     const Text first(left), second(right);
-    ASSERT_EQ(engine::compare(first, second), reference::compare(left, right));
-    ASSERT_EQ(engine::is_less<char>(first, second), reference::compare(left, right) == 2);
-    const ZEB_Comparison folded = reference::compare_ignoring_case(left, right);
-    ASSERT_EQ(engine::compare_ignoring_case(first, second), folded) << left << '|' << right;
-    ASSERT_EQ(engine::is_equal_ignoring_case(first, second), folded == 1);
-    const auto left_units = widened<uint32_t>(left), right_units = widened<uint32_t>(right);
-    const ZEB_Comparison wide = engine::compare(std::span<const uint32_t>(left_units), right_units);
-    ASSERT_EQ(wide, reference::compare(left_units, right_units));
+    ASSERT_EQ(engine::compare(first, second), order(left, right));
+    ASSERT_EQ(engine::is_less<char>(first, second), left < right);
+    const ZEB_Comparison without_case = order(folded(left), folded(right));
+    ASSERT_EQ(engine::compare_ignoring_case(first, second), without_case) << left << '|' << right;
+    ASSERT_EQ(engine::is_equal_ignoring_case(first, second), without_case == ZEB_COMPARED_EQUAL);
+    const std::vector<uint32_t> wide_left(left.begin(), left.end()), wide_right(right.begin(), right.end());
+    ASSERT_EQ(engine::compare(std::span<const uint32_t>(wide_left), wide_right),
+              order(wide_left, wide_right));
 }
 
-/// The same text with its letters in any case, and now and then another byte, or another length.
+/// The same text, now and then with some or all letters in the other case, another byte, or another length.
 std::string much_alike(std::mt19937 &random, std::string text)
 {
+    const unsigned changes = random() % 3;
     for (char &c : text)
-        if (std::isalpha(static_cast<unsigned char>(c)) && random() % 2 == 0)
+        if (std::isalpha(static_cast<unsigned char>(c)) && random() % 2 < changes)
             c = static_cast<char>(c ^ 0x20);
     if (!text.empty() && random() % 2 == 0)
         text[random() % text.size()] = static_cast<char>(random());
@@ -50,10 +70,10 @@ void expect_every_pair_of_bytes_to_compare_alike()
         for (int right = 0; right < 256; ++right) {
             first[66] = static_cast<char>(left);
             second[66] = static_cast<char>(right);
-            const ZEB_Comparison expected = reference::compare_ignoring_case({first[66]}, {second[66]});
-            ASSERT_EQ(engine::compare_ignoring_case(first, second), expected) << left << ' ' << right;
-            ASSERT_EQ(engine::is_equal_ignoring_case(first, second), expected == 1);
             const Text one(&first[66], 1), other(&second[66], 1);
+            const ZEB_Comparison expected = order(folded(one), folded(other));
+            ASSERT_EQ(engine::compare_ignoring_case(first, second), expected) << left << ' ' << right;
+            ASSERT_EQ(engine::is_equal_ignoring_case(first, second), expected == ZEB_COMPARED_EQUAL);
             ASSERT_EQ(engine::compare_ignoring_case(one, other), expected) << left << ' ' << right;
         }
     }
@@ -75,7 +95,7 @@ TEST(Number_Scanners, find_numbers_and_special_words)
         {"value INF", 4, 0, 8, 8},    {"12E5", 0, none, 3, 2},      {"12G5F", 0, none, 4, 4},
         {"inf", 0, 3, 2, 1},          {"\t iNf", 2, 0, 4, 3},       {"infinity", 0, 8, 7, 7},
         {"Infinity", 0, 8, 7, 7},     {"infinit", 0, 3, 2, 6},      {"INFINITYx", 0, 8, 2, 8},
-        {"xinfinity", 3, 0, 8, 8},    {" nan", 1, 0, 3, 3},         {"NaN ", 0, 3, 2, 3},
+        {"xinfinity", 3, 0, 8, 8},    {" nan", 1, 0, 3, 3},         {"NaN \v", 0, 3, 2, 4},
         {"nano", 0, 3, none, 3},      {"xnan", none, 0, 3, 3},      {"na", none, 0, none, 1},
         {"in", none, 0, none, 1},     {"if", 1, 0, 1, 0},           {"\v\f\r\n ", none, 0, none, 4},
         {" 7\t", 1, 0, 1, 2},         {"8 f ", 0, 1, 2, 3},         {std::string("7\0", 2), 0, 1, 0, 1},
@@ -100,20 +120,16 @@ TEST(Number_Scanners, find_numbers_and_special_words)
 
 TEST(Text_Comparison, orders_as_the_literal_loops_do)
 {
-    on_each_target([] {
+    std::vector<size_t> some = lengths();
+    some.push_back(9000); // 32-bit text is compared in blocks
+    on_each_target([&] {
         std::mt19937 random(2);
-        for (size_t length = 0; length <= 40; ++length) {
-            for (unsigned turn = 0; turn < 300; ++turn) {
+        for (const size_t length : some) {
+            for (unsigned turn = 0; turn < 40; ++turn) {
                 const std::string left = draw_text(random, length, turn % 4 == 0 ? "" : case_alphabet);
-                expect_same_orders(left, much_alike(random, left));
-                expect_same_orders(left, draw_text(random, random() % 41, case_alphabet));
-            }
-        }
-        for (size_t length : {63, 64, 65, 127, 200, 1031}) {
-            for (unsigned turn = 0; turn < 100; ++turn) {
-                const std::string left = draw_text(random, length, "");
                 expect_same_orders(left, left);
                 expect_same_orders(left, much_alike(random, left));
+                expect_same_orders(left, draw_text(random, random() % 41, case_alphabet));
             }
         }
     });

@@ -7,35 +7,16 @@
 #include "tests/support/strings.hpp"
 
 #include <gtest/gtest.h>
-
-#include <vector>
+#import <objc/runtime.h>
 
 using namespace support;
 
-namespace
-{
-
-ZEB_Wide_String *wide_of(std::u32string_view units)
-{
-    ZEB_Wide_String *const string = [[[ZEB_Wide_String alloc] init] autorelease];
-    for (char32_t unit : units)
-        [string append_wide_char:unit];
-    return string;
-}
-
-} // namespace
-
 TEST(String_Operations, platform_sorts_order_by_the_platform_s_codes)
 {
-    ZEB_String *const in_order[] = {text(""), text("ab"), text("b"), text("\xC3")};
-    NSArray *const strings =
-        [NSArray arrayWithObjects:in_order[2], in_order[0], in_order[3], in_order[1], nil];
-    NSArray *const sorted = [strings sortedArrayUsingSelector:@selector(platform_compare:)];
-    for (NSUInteger i = 0; i < 4; ++i)
-        EXPECT_EQ([sorted objectAtIndex:i], in_order[i]);
-    NSArray *const wide = [NSArray arrayWithObjects:wide_of(U"b"), wide_of(U"a"), nil];
-    EXPECT_EQ([[wide sortedArrayUsingSelector:@selector(platform_compare:)] objectAtIndex:0],
-              [wide objectAtIndex:1]);
+    NSArray *const in_order = [NSArray arrayWithObjects:text(""), text("ab"), text("b"), text("\xC3"), nil];
+    NSArray *const shuffled = [[in_order reverseObjectEnumerator] allObjects];
+    EXPECT_TRUE([[shuffled sortedArrayUsingSelector:@selector(platform_compare:)] isEqual:in_order]);
+    EXPECT_EQ([wide_text(U"b") platform_compare:wide_text(U"a")], NSOrderedDescending);
     EXPECT_EQ([text("a") platform_compare:text("a")], NSOrderedSame);
     EXPECT_EQ([text("a") platform_compare:(id) @"a"], NSOrderedDescending);
     EXPECT_EQ([text("") platform_compare:nil], NSOrderedSame);
@@ -45,17 +26,15 @@ TEST(String_Operations, strings_describe_themselves_as_their_text)
 {
     ZEB_String_Array *const strings = [[[ZEB_String_Array alloc] init] autorelease];
     ZEB_Object_Array *const objects = [[[ZEB_Object_Array alloc] init] autorelease];
-    for (const char *word : {"caf\xC3\xA9", "caf\xE9", "", "{}"}) {
+    for (const char *word : {"caf\xC3\xA9", "caf\xE9", "", "{}"})
         [strings append_string:text(word)];
-        [objects append_object:text(word)];
-    }
-    [objects append_object:wide_of(U"w\xE9")];
+    [objects append_object:text("caf\xE9")];
+    [objects append_object:wide_text(U"w\xE9")];
     [objects append_object:strings];
-    EXPECT_STREQ([[strings description] UTF8String], "{caf\xC3\xA9, caf\xC3\xA9, , {}}");
     EXPECT_STREQ([[objects description] UTF8String],
-                 "{caf\xC3\xA9, caf\xC3\xA9, , {}, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
+                 "{caf\xC3\xA9, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
     EXPECT_STREQ([[text("caf\xE9") description] UTF8String], "caf\xC3\xA9");
-    EXPECT_STREQ([[wide_of(U"text") description] UTF8String], "text");
+    EXPECT_STREQ([[wide_text(U"text") description] UTF8String], "text");
 }
 
 TEST(String_Operations, search_and_scan)
@@ -68,11 +47,11 @@ TEST(String_Operations, search_and_scan)
     EXPECT_EQ([text("12 apples") number_prefix_length], 2u);
     EXPECT_EQ([text("x = 4.2e1  ") index_of_number_end], 8u);
     EXPECT_EQ([text("12E5") index_of_last_non_number], 2u);
-    EXPECT_EQ([wide_of(U"abc") index_of_char:'c'], 2u);
-    EXPECT_EQ([wide_of(U"abc") index_of_char:'d'], ZEB_NOT_FOUND);
+    EXPECT_EQ([wide_text(U"abc") index_of_char:'c'], 2u);
+    EXPECT_EQ([wide_text(U"abc") index_of_char:'d'], ZEB_NOT_FOUND);
     const uint32_t b[] = {'b', 'c'};
-    EXPECT_EQ([wide_of(U"abcd") index_of_substring:b length:2], 1u);
-    EXPECT_EQ([wide_of(U"abc") index_of_substring:b length:2], ZEB_NOT_FOUND);
+    EXPECT_EQ([wide_text(U"abcd") index_of_substring:b length:2], 1u);
+    EXPECT_EQ([wide_text(U"abc") index_of_substring:b length:2], ZEB_NOT_FOUND);
 }
 
 TEST(String_Operations, compare_the_three_ways)
@@ -80,8 +59,7 @@ TEST(String_Operations, compare_the_three_ways)
     const struct {
         const char *left, *right;
         ZEB_Comparison plain, folded;
-    } rows[] = {{"ab", "abc", 2, 2}, {"abc", "ab", 3, 3},    {"ABC", "abd", 2, 2}, {"abc", "ABC", 3, 1},
-                {"\xE9", "a", 3, 2}, {"same", "same", 1, 1}, {"", "", 1, 1}};
+    } rows[] = {{"ab", "abc", 2, 2}, {"ABC", "abd", 2, 2}, {"abc", "ABC", 3, 1}, {"same", "same", 1, 1}};
     for (const auto &row : rows) {
         ZEB_String *const left = text(row.left);
         ZEB_String *const right = text(row.right);
@@ -91,32 +69,23 @@ TEST(String_Operations, compare_the_three_ways)
         EXPECT_EQ([left compare_ignoring_case:right], row.folded);
         EXPECT_EQ([left is_equal_ignoring_case:right], row.folded == 1);
     }
-    EXPECT_EQ([wide_of(U"\U00010000") compare:wide_of(U"A")], 3u);
-    EXPECT_EQ([wide_of(U"A") is_less:wide_of(U"AB")], 1);
-    EXPECT_EQ([wide_of(U"A") is_equal:wide_of(U"A")], 1);
-    EXPECT_EQ([wide_of(U"A") is_equal:wide_of(U"B")], 0);
+    EXPECT_EQ([wide_text(U"\U00010000") compare:wide_text(U"A")], 3u);
+    EXPECT_EQ([wide_text(U"A") is_less:wide_text(U"AB")], 1);
+    EXPECT_EQ([wide_text(U"A") is_equal:wide_text(U"A")], 1);
+    EXPECT_EQ([wide_text(U"A") is_equal:wide_text(U"B")], 0);
     ZEB_String *const none = nil;
-    EXPECT_EQ([text("") is_equal:none], 0);
-    EXPECT_EQ([text("") is_equal_ignoring_case:none], 0);
+    EXPECT_EQ([text("") is_equal:none] + [text("") is_equal_ignoring_case:none], 0);
     EXPECT_EQ([text("a") compare:none], 3u);
 }
 
-TEST(String_Operations, copy_and_append_8_bit_characters)
+TEST(String_Operations, extend_the_sign_of_8_bit_characters)
 {
-    ZEB_Wide_String *const wide = [[[ZEB_Wide_String alloc] init] autorelease];
-    [wide copy_c_string:"\x41\xE9" length:2];
-    EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9}));
-    EXPECT_EQ([wide capacity], 16u);
+    ZEB_Wide_String *const wide = wide_text(U"old");
+    [wide copy_chars:"\x41\xE9" length:2];
     [wide append_chars:"z" length:1];
-    [wide append_c_string:"y" length:1];
-    EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9, 'z', 'y'}));
-    [wide copy_chars:"0123456789abcdef" length:16];
-    EXPECT_EQ([wide capacity], 32u);
-    ZEB_String *const narrow = text("0123456789abcde");
-    EXPECT_EQ([narrow capacity], 16u);
-    EXPECT_EQ(zeb::view(narrow), "0123456789abcde");
+    EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9, 'z'}));
     [ZEB_Wide_String set_growth_seed:3];
-    ZEB_Wide_String *const seeded = wide_of(U"");
+    ZEB_Wide_String *const seeded = wide_text(U"");
     [seeded copy_c_string:"abc" length:3];
     EXPECT_EQ([seeded capacity], 6u);
     [ZEB_Wide_String set_growth_seed:16];
@@ -128,26 +97,22 @@ TEST(String_Operations, refuse_on_links_under_their_own_names)
     char byte = 'a';
     ZEB_Wide_String *const wide = [ZEB_Wide_String link_to_wide_chars:units count:1];
     ZEB_String *const narrow = [ZEB_String link_to_chars:&byte count:1];
-    const auto expect = [](const char *selector, const char *named, const char *note, auto work) {
-        EXPECT_EQ(standard_error_of(work), fix_line(selector, named, note));
+    const auto expect = [](id link, const char *selector, const char *note, auto work) {
+        EXPECT_EQ(standard_error_of(work), fix_line(selector, class_getName([link class]), note));
     };
     const char *const no_copy = "Cannot copy c string through link, no copy made.";
     const char *const no_append = "Cannot append c string through link, no append made.";
-    expect("copy_c_string:length:", "ZEB_String", no_copy, [&] { [narrow copy_c_string:"x" length:1]; });
-    expect("append_c_string:length:", "ZEB_String", no_append, [&] { [narrow append_c_string:"" length:0]; });
-    expect("append_null_terminator", "ZEB_String",
-           "Cannot append null terminator through link, no append made.",
+    expect(narrow, "copy_c_string:length:", no_copy, [&] { [narrow copy_c_string:"x" length:1]; });
+    expect(narrow, "append_c_string:length:", no_append, [&] { [narrow append_c_string:"" length:0]; });
+    expect(narrow, "append_null_terminator", "Cannot append null terminator through link, no append made.",
            [&] { [narrow append_null_terminator]; });
-    expect("copy_c_string:length:", "ZEB_Wide_String", no_copy, [&] { [wide copy_c_string:"" length:0]; });
-    expect("copy_chars:length:", "ZEB_Wide_String", no_copy, [&] { [wide copy_chars:"x" length:1]; });
-    expect("append_c_string:length:", "ZEB_Wide_String", no_append,
-           [&] { [wide append_c_string:"x" length:1]; });
-    expect("append_chars:length:", "ZEB_Wide_String", no_append, [&] { [wide append_chars:"x" length:1]; });
-    expect("set_code_points_from_utf8:", "ZEB_Wide_String",
-           "Cannot update length through link, no adjustment made.",
+    expect(wide, "copy_c_string:length:", no_copy, [&] { [wide copy_c_string:"" length:0]; });
+    expect(wide, "copy_chars:length:", no_copy, [&] { [wide copy_chars:"x" length:1]; });
+    expect(wide, "append_c_string:length:", no_append, [&] { [wide append_c_string:"x" length:1]; });
+    expect(wide, "append_chars:length:", no_append, [&] { [wide append_chars:"x" length:1]; });
+    expect(wide, "set_code_points_from_utf8:", "Cannot update length through link, no adjustment made.",
            [&] { EXPECT_EQ([wide set_code_points_from_utf8:text("x")], 0); });
-    expect("split_to_surrogate_pairs", "ZEB_Wide_String",
-           "Cannot update capacity through link, no adjustment made.",
+    expect(wide, "split_to_surrogate_pairs", "Cannot update capacity through link, no adjustment made.",
            [&] { [wide split_to_surrogate_pairs]; });
     EXPECT_EQ(zeb::view(wide), U"\U0001F600");
     EXPECT_EQ(zeb::view(narrow), "a");
@@ -155,35 +120,32 @@ TEST(String_Operations, refuse_on_links_under_their_own_names)
 
 TEST(String_Operations, turn_utf8_into_code_points_and_back)
 {
-    ZEB_String *const utf8 = text("a\xC3\xA9\xF0\x9F\x98\x80");
-    ZEB_Wide_String *const wide = wide_of(U"kept");
-    EXPECT_EQ([utf8 is_valid_utf8], 1);
-    EXPECT_EQ([text("\xC3") is_valid_utf8], 0);
-    EXPECT_EQ([wide set_code_points_from_utf8:text("xyz\xC3")], 0);
+    ZEB_String *const utf8 = text("a\xC3\xA9\xF0\x9F\x98\x80"), *const back = text("kept");
+    ZEB_String *const ill_formed = text("xyz\xC3");
+    ZEB_Wide_String *const wide = wide_text(U"kept");
+    EXPECT_EQ([ill_formed is_valid_utf8] + [wide set_code_points_from_utf8:ill_formed], 0);
     EXPECT_EQ(zeb::view(wide), U"kept");
-    EXPECT_EQ([wide set_code_points_from_utf8:utf8], 1);
+    EXPECT_EQ([utf8 is_valid_utf8] + [wide set_code_points_from_utf8:utf8], 2);
     EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
-    ZEB_String *const back = text("kept");
-    EXPECT_EQ([wide write_code_points_as_utf8:back], 1);
-    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
     [wide split_to_surrogate_pairs];
     EXPECT_EQ(zeb::view(wide), (std::u32string{'a', 0xE9, 0xD83D, 0xDE00}));
     EXPECT_EQ([wide write_code_points_as_utf8:back], 0);
-    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
+    EXPECT_EQ(zeb::view(back), "kept");
     [wide join_surrogate_pairs];
-    EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
+    EXPECT_EQ([wide write_code_points_as_utf8:back], 1);
+    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
 }
 
 TEST(String_Operations, serve_as_keys_of_a_dictionary)
 {
     NSMutableDictionary *const table = [NSMutableDictionary dictionary];
     ZEB_String *const key = text("key");
-    ZEB_Wide_String *const wide_key = wide_of(U"\U0001F511");
+    ZEB_Wide_String *const wide_key = wide_text(U"\U0001F511");
     [table setObject:@"narrow" forKey:(id)key];
     [table setObject:@"wide" forKey:(id)wide_key];
     [key append_c_string:"s" length:1]; // the table keeps a copy
     EXPECT_TRUE([[table objectForKey:text("key")] isEqual:@"narrow"]);
-    EXPECT_TRUE([[table objectForKey:wide_of(U"\U0001F511")] isEqual:@"wide"]);
+    EXPECT_TRUE([[table objectForKey:wide_text(U"\U0001F511")] isEqual:@"wide"]);
     EXPECT_EQ([table objectForKey:text("keys")], nil);
 }
 

@@ -8,90 +8,65 @@
 namespace support
 {
 
-/// Redirects a file descriptor into a temporary file and gives back what went there.
-class Captured_Output
+/// Puts a temporary file in the place of a standard stream for as long as this object lives; an input stream
+/// reads the given text.
+class Redirection
 {
 public:
-    explicit Captured_Output(FILE *stream) : stream(stream), file(std::tmpfile())
+    explicit Redirection(FILE *stream, const char *given = "") : stream(stream), file(std::tmpfile())
     {
+        std::fputs(given, file);
+        std::rewind(file);
         std::fflush(stream);
+        std::clearerr(stream);
         saved = dup(fileno(stream));
         dup2(fileno(file), fileno(stream));
     }
 
-    ~Captured_Output()
+    ~Redirection()
     {
-        restore();
+        std::fflush(stream);
+        dup2(saved, fileno(stream));
+        close(saved);
         std::fclose(file);
     }
 
-    Captured_Output(const Captured_Output &) = delete;
-    Captured_Output &operator=(const Captured_Output &) = delete;
+    Redirection(const Redirection &) = delete;
+    Redirection &operator=(const Redirection &) = delete;
 
+    /// What was written so far.
     std::string text()
     {
-        restore();
-        std::string read;
+        std::fflush(stream);
         std::rewind(file);
+        std::string read;
         for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file))
             read.push_back(static_cast<char>(c));
         return read;
     }
 
 private:
-    void restore()
-    {
-        if (saved < 0)
-            return;
-        std::fflush(stream);
-        dup2(saved, fileno(stream));
-        close(saved);
-        saved = -1;
-    }
-
-    FILE *stream;
-    FILE *file;
-    int saved = -1;
-};
-
-/// Lets the process read a text as its standard input for as long as this object lives.
-class Given_Input
-{
-public:
-    explicit Given_Input(const char *text) : file(std::tmpfile()), saved(dup(STDIN_FILENO))
-    {
-        std::fputs(text, file);
-        std::rewind(file);
-        dup2(fileno(file), STDIN_FILENO);
-        std::clearerr(stdin);
-    }
-
-    ~Given_Input()
-    {
-        dup2(saved, STDIN_FILENO);
-        close(saved);
-        std::fclose(file);
-    }
-
-private:
-    FILE *file;
+    FILE *const stream;
+    FILE *const file;
     int saved;
 };
+
+using Captured_Output = Redirection;
 
 template <class Work>
 std::string standard_error_of(Work work)
 {
-    Captured_Output captured(stderr);
+    Redirection redirected(stderr);
     work();
-    return captured.text();
+    return redirected.text();
 }
 
 template <class Work>
 std::string standard_output_of(Work work)
 {
-    Captured_Output captured(stdout);
+    Redirection redirected(stdout);
     work();
-    return captured.text();
+    return redirected.text();
 }
 
 } // namespace support

@@ -26,12 +26,11 @@ static int outcome;
 static atomic_uint calls[CALL_COUNT];
 static unsigned char is_watched[1024];
 
-static int call_named(const char *name)
+/* The number of the call that a text begins with. */
+static int call_named(const char *text)
 {
-    const size_t length = strcspn(name, "+");
     int call = 0;
-    while (call < CALL_COUNT &&
-           (strlen(call_names[call]) != length || strncmp(call_names[call], name, length) != 0))
+    while (call < CALL_COUNT && strncmp(call_names[call], text, strlen(call_names[call])) != 0)
         ++call;
     return call;
 }
@@ -69,17 +68,18 @@ __attribute__((destructor)) static void tell_counts(void)
     fclose(file);
 }
 
-static int is_planned(unsigned number) { return number >= first_number && number <= last_number; }
-
-/* Counts a call, and whether it is the planned one. */
-static int is_due(int call)
+/* Counts a call under one of its names, and tells whether it is planned under that. */
+static int is_due_as(int call)
 {
     const unsigned number = atomic_fetch_add(&calls[call], 1) + 1;
-    int due = planned_call == call && is_planned(number);
-    if (call != MEMORY) {
-        const unsigned any = atomic_fetch_add(&calls[ANY_FILE], 1) + 1;
-        due = due || (planned_call == ANY_FILE && is_planned(any));
-    }
+    return planned_call == call && number >= first_number && number <= last_number;
+}
+
+static int is_due(int call)
+{
+    int due = is_due_as(call);
+    if (call != MEMORY)
+        due |= is_due_as(ANY_FILE);
     if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE)
         raise(SIGKILL);
     return due;
@@ -148,33 +148,14 @@ int close(int file)
     return due ? refusal() : closed;
 }
 
-int ftruncate(int file, off_t size)
-{
-    if (is_watched_file(file) && is_due(FTRUNCATE))
-        return refusal();
-    return PLATFORM(ftruncate)(file, size);
-}
+/* A call that either fails or is the platform's. */
+#define MAY_FAIL(name, parameters, arguments, is_ours, call)                                                 \
+    int name parameters { return (is_ours) && is_due(call) ? refusal() : PLATFORM(name) arguments; }
 
-int rename(const char *from, const char *to)
-{
-    if (is_inside(from) && is_due(RENAME))
-        return refusal();
-    return PLATFORM(rename)(from, to);
-}
-
-int remove(const char *path)
-{
-    if (is_inside(path) && is_due(REMOVE))
-        return refusal();
-    return PLATFORM(remove)(path);
-}
-
-int stat(const char *restrict path, struct stat *restrict found)
-{
-    if (is_inside(path) && is_due(STAT))
-        return refusal();
-    return PLATFORM(stat)(path, found);
-}
+MAY_FAIL(ftruncate, (int file, off_t size), (file, size), is_watched_file(file), FTRUNCATE)
+MAY_FAIL(rename, (const char *from, const char *to), (from, to), is_inside(from), RENAME)
+MAY_FAIL(remove, (const char *path), (path), is_inside(path), REMOVE)
+MAY_FAIL(stat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path), STAT)
 
 /* The C library's own names for these, which serve before the loader can be asked for others. */
 void *__libc_malloc(size_t size);

@@ -16,6 +16,14 @@ inline ZEB_String *text(const std::string &characters)
 
 inline std::string text_of(ZEB_Char_Vector *string) { return {[string char_data], [string count]}; }
 
+inline ZEB_Wide_String *wide_text(const std::u32string &units)
+{
+    ZEB_Wide_String *const string = [[[ZEB_Wide_String alloc] init] autorelease];
+    for (const char32_t unit : units)
+        [string append_wide_char:unit];
+    return string;
+}
+
 inline ZEB_Byte_Array *bytes(const std::string &characters)
 {
     return

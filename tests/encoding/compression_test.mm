@@ -44,6 +44,23 @@ TEST(Compression, nothing_gives_nothing_and_a_nil_destination_is_refused)
     EXPECT_EQ(ZC_decompress_bytes_to_string(bytes("abc"), nil, 0), -1);
 }
 
+TEST(Compression, a_bound_ends_what_would_be_gigabytes)
+{
+    ZEB_String *const bomb = text("");
+    ZC_compress_string_to_string(text(std::string(50000000, 'x')), bomb);
+    ZEB_String *const twice = text("");
+    ZC_compress_string_to_string(bomb, twice);
+    EXPECT_LT([twice count], 1000u);
+    ZEB_String *const once = text("kept");
+    EXPECT_EQ(ZC_decompress_string_to_string_within(twice, once, 0, 1000000), 0);
+    [once remove_range:ZEB_Index_Range{0, 3}];
+    ZEB_Byte_Array *const out = [ZEB_Byte_Array array_with_capacity:0];
+    EXPECT_EQ(ZC_decompress_bytes_to_bytes_within(bytes(text_of(once)), out, 0, 100000), -5);
+    EXPECT_EQ([out count], 100000u);
+    EXPECT_EQ([out capacity], 131072u);
+    EXPECT_EQ(ZC_decompress_bytes_to_string_within(bytes(text_of(once)), once, 0, 0), -5);
+}
+
 TEST(Compression, a_link_refuses_once_and_before_anything_is_done)
 {
     ZEB_String *const owner = text("abc");

@@ -22,24 +22,40 @@ extern "C" int inflate(z_streamp stream, int flush)
 namespace
 {
 
-engine::Zlib_Output onto(std::string &sink)
-{
-    return {&sink, [](void *destination, const char *bytes, std::uint32_t length) {
-                static_cast<std::string *>(destination)->append(bytes, length);
-                return true;
-            }};
-}
+/// Contents, and the room behind them that is offered for more.
+struct Sink {
+    std::string contents;
+    std::string room = {};
+
+    engine::Zlib_Output output()
+    {
+        return {this,
+                [](void *sink, const char *bytes, std::uint32_t length) {
+                    static_cast<Sink *>(sink)->contents.append(bytes, length);
+                    return true;
+                },
+                [](void *sink) {
+                    std::string &room = static_cast<Sink *>(sink)->room;
+                    return engine::Output_Room{room.data(), static_cast<std::uint32_t>(room.size())};
+                },
+                [](void *sink, std::uint32_t length) {
+                    Sink &all = *static_cast<Sink *>(sink);
+                    all.contents.append(all.room, 0, length);
+                }};
+    }
+};
 
 std::string compressed(const std::string &source)
 {
-    std::string stored;
-    EXPECT_EQ(engine::compress(source.data(), static_cast<std::uint32_t>(source.size()), onto(stored)), 0);
-    return stored;
+    Sink stored;
+    EXPECT_EQ(engine::compress(source.data(), static_cast<std::uint32_t>(source.size()), stored.output()), 0);
+    return stored.contents;
 }
 
-std::int32_t decompress(const std::string &source, engine::Zlib_Output output)
+std::int32_t decompress(const std::string &source, engine::Zlib_Output output,
+                        std::uint64_t bound = engine::unbounded)
 {
-    return engine::decompress(source.data(), static_cast<std::uint32_t>(source.size()), output);
+    return engine::decompress(source.data(), static_cast<std::uint32_t>(source.size()), output, bound);
 }
 
 /// The required loop, with zlib alone; gives up, with 1, after some passes that all end alike.
@@ -83,34 +99,61 @@ TEST(Zlib, gives_zlib_s_own_bytes_and_takes_them_back)
         ::compress(reinterpret_cast<Bytef *>(expected.data()), &size,
                    reinterpret_cast<const Bytef *>(source.data()), source.size());
         EXPECT_EQ(stored, expected.substr(0, size));
-        std::string sink = "before ";
-        EXPECT_EQ(decompress(stored, onto(sink)), 0);
-        EXPECT_EQ(sink, "before " + source);
+        for (const std::size_t room : {0u, 20000u, 100000u}) {
+            Sink sink{"before ", std::string(room, '-')};
+            EXPECT_EQ(decompress(stored, sink.output()), 0);
+            EXPECT_EQ(sink.contents, "before " + source);
+            Sink again{"", sink.room};
+            engine::compress(source.data(), static_cast<std::uint32_t>(source.size()), again.output());
+            EXPECT_EQ(again.contents, stored);
+            for (const std::uint64_t bound : {length - 1, length, length + 1}) {
+                Sink bounded{"", sink.room};
+                EXPECT_EQ(decompress(stored, bounded.output(), bound), bound < length ? Z_BUF_ERROR : 0);
+                EXPECT_EQ(bounded.contents, source.substr(0, bound));
+            }
+        }
     }
     EXPECT_EQ(compressed(""), "");
 }
 
 TEST(Zlib, answers_for_damaged_streams_as_the_plain_loop_does)
 {
-    const std::string stored = compressed(some_text(3000));
+    const std::string few = compressed(some_text(3000)), many = compressed(some_text(50000));
     std::mt19937 random(11);
     int endless = 0;
     for (int round = 0; round < 60; ++round) {
+        const std::string &stored = round % 4 < 2 ? few : many;
         std::string damaged = stored;
         if (round % 2 == 0)
             damaged.resize(1 + random() % (stored.size() - 1));
         else
             damaged[random() % stored.size()] ^= static_cast<char>(1 + random() % 255);
-        std::string sink, expected;
+        Sink sink{"", std::string(round % 3 * 33000, '-')};
+        std::string expected;
         const std::int32_t answer = literal_decompress(damaged, expected);
         if (answer != 1) {
-            EXPECT_EQ(decompress(damaged, onto(sink)), answer);
-            EXPECT_EQ(sink, expected);
+            EXPECT_EQ(decompress(damaged, sink.output()), answer);
+            EXPECT_EQ(sink.contents, expected);
         } else if (++endless <= 2) { // it takes its time
-            EXPECT_EQ(decompress(damaged, onto(sink)), Z_DATA_ERROR);
+            EXPECT_EQ(decompress(damaged, sink.output()), Z_DATA_ERROR);
         }
     }
     EXPECT_GT(endless, 0);
+}
+
+TEST(Zlib, a_fault_right_behind_a_whole_chunk_discards_it_as_the_plain_loop_does)
+{
+    // Stored blocks whose last one has a wrong length: the output ends where a chunk does, or around that.
+    for (const std::size_t length : {16383u, 16384u, 16385u, 32768u, 32769u}) {
+        std::string stored("\x78\x9C", 2);
+        stored.append({'\0', static_cast<char>(length), static_cast<char>(length >> 8),
+                       static_cast<char>(~length), static_cast<char>(~length >> 8)});
+        stored += some_text(length) + std::string("\x07 and no block", 14);
+        Sink sink{"", std::string(100000, '-')};
+        std::string expected;
+        EXPECT_EQ(decompress(stored, sink.output()), literal_decompress(stored, expected));
+        EXPECT_EQ(sink.contents.size(), expected.size());
+    }
 }
 
 TEST(Zlib, ends_on_input_that_gives_next_to_no_output)
@@ -120,9 +163,9 @@ TEST(Zlib, ends_on_input_that_gives_next_to_no_output)
     for (int i = 0; i < 4000; ++i)
         empty_blocks.append("\x00\x00\x00\xFF\xFF", 5);
     empty_blocks.append("\x00\x02\x00\xFD\xFF", 5);
-    std::string sink;
+    Sink sink;
     bytes_inflated = 0;
-    EXPECT_EQ(decompress(empty_blocks, onto(sink)), Z_DATA_ERROR);
+    EXPECT_EQ(decompress(empty_blocks, sink.output()), Z_DATA_ERROR);
     constexpr std::uint64_t bound = std::uint64_t{256} << 20;
     EXPECT_GE(bytes_inflated, bound);
     EXPECT_LE(bytes_inflated, bound + 2 * empty_blocks.size());
@@ -135,11 +178,13 @@ TEST(Zlib, says_what_is_wrong)
         {"\x78\xBB\x01\x02\x03\x04 needs a dictionary", Z_DATA_ERROR},
         {std::string("\x78\x9C\x00\xFF\xFF\x00\x00 :-", 10), Z_DATA_ERROR}};
     for (const auto &[source, status] : rows) {
-        std::string sink;
-        EXPECT_EQ(decompress(source, onto(sink)), status) << source;
+        Sink sink;
+        EXPECT_EQ(decompress(source, sink.output()), status) << source;
     }
     const std::string source = some_text(5000);
-    const engine::Zlib_Output full = {nullptr, [](void *, const char *, std::uint32_t) { return false; }};
+    const engine::Zlib_Output full = {nullptr, [](void *, const char *, std::uint32_t) { return false; },
+                                      [](void *) { return engine::Output_Room{}; },
+                                      [](void *, std::uint32_t) {}};
     EXPECT_EQ(decompress(compressed(source), full), Z_MEM_ERROR);
     EXPECT_EQ(engine::compress(source.data(), 5000, full), Z_MEM_ERROR);
 }

@@ -22,8 +22,8 @@ static std::vector<uint32_t> asked;
 
 - (BOOL)respondsToSelector:(SEL)selector
 {
-    const bool is_there = !is_sparse || selector == @selector(decide_action:file:) ||
-                          selector == @selector(intercept_refresh_status:);
+    const bool is_there = !is_sparse || sel_isEqual(selector, @selector(decide_action:file:)) ||
+                          sel_isEqual(selector, @selector(intercept_refresh_status:));
     return is_there && [super respondsToSelector:selector];
 }
 

@@ -162,21 +162,34 @@ std::uint32_t decode_plain(Array_Storage<Plain_Elements<Element>> array, Record_
     return size;
 }
 
-/// Grows each object for its own record. Reports and returns false if allocation fails.
-template <class Policy, class Storage_Of, class Report>
-bool grow_for_nested_records(Array_Storage<Held_Objects<Policy>> array, Record_Source source,
-                             Storage_Of storage_of, Report report) noexcept
+/// The elements of a record.
+struct Record_Elements {
+    const char *bytes;
+    std::uint32_t count;
+};
+
+/// Takes the record at the start of a source that is known to hold all of it.
+inline Record_Elements take_record(Record_Source &source, std::size_t element_size) noexcept
 {
-    std::uint32_t consumed = record_count_size;
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
+    const Record_Elements elements{source.bytes + record_count_size, count};
+    source = behind(source, static_cast<std::uint32_t>(record_count_size + count * element_size));
+    return elements;
+}
+
+/// Grows each object for its own record. Reports and returns false if one is a link or allocation fails.
+template <class Policy, class Storage_Of, class Report>
+bool grow_for_nested_records(Array_Storage<Held_Objects<Policy>> array, std::uint32_t count,
+                             Record_Source source, Storage_Of storage_of, Report report) noexcept
+{
     for (std::uint32_t i = 0; i < count; ++i) {
         const auto object = storage_of(array.data[i]);
-        const Record_Source nested = behind(source, consumed);
-        const std::uint32_t size = record_size(nested, sizeof(*object.data));
-        if (!may_decode(object, size, report) ||
-            !grow_for_record(object, read_count(nested.bytes, nested.needs_swap), report))
+        if (object.is_link()) {
+            report(notes::decode_through_link);
             return false;
-        consumed += size;
+        }
+        if (!grow_for_record(object, take_record(source, sizeof(*object.data)).count, report))
+            return false;
     }
     return true;
 }
@@ -201,13 +214,18 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
             return decode_held(array, {aside.elements().data(), size, source.needs_swap}, storage_of, report);
     }
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
-    if (!grow_for_record(array, count, report) || !grow_for_nested_records(array, source, storage_of, report))
+    Record_Source nested = behind(source, record_count_size);
+    if (!grow_for_record(array, count, report) ||
+        !grow_for_nested_records(array, count, nested, storage_of, report))
         return 0;
     array.count = count;
-    std::uint32_t consumed = record_count_size;
-    for (const typename Policy::Element object : array.elements())
-        consumed += decode_plain(storage_of(object), behind(source, consumed), report);
-    return consumed;
+    for (const typename Policy::Element element : array.elements()) {
+        const auto object = storage_of(element);
+        const Record_Elements record = take_record(nested, sizeof(Nested));
+        object.count = record.count;
+        copy_elements(object.data, record.bytes, record.count, source.needs_swap);
+    }
+    return size;
 }
 
 /// A record can only empty an array of references: for any other record `report_references` is called and the

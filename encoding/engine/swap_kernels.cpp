@@ -1,6 +1,5 @@
 #include "encoding/engine/swap_kernels.hpp"
 
-#include "arrays/engine/kernels/plain_loops.hpp"
 #include "arrays/engine/kernels/stores.hpp"
 #include "encoding/engine/swap_loop.hpp"
 

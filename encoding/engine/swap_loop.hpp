@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace zeb::engine::kernels::plain
+namespace zeb::engine::plain
 {
 
 constexpr std::uint32_t swap_bytes(std::uint32_t value) noexcept { return __builtin_bswap32(value); }
@@ -22,4 +22,4 @@ void copy_swapped(Word *words, const std::uint8_t *bytes, std::size_t count) noe
     }
 }
 
-} // namespace zeb::engine::kernels::plain
+} // namespace zeb::engine::plain

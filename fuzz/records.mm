@@ -1,0 +1,85 @@
+/// The checked decoding of every family's records. The first byte chooses the family, the second the byte
+/// order; the record follows.
+#include "fuzz/fuzz.hpp"
+
+#import <Korvane_ZEB/Korvane_ZEB.h>
+
+#import <objc/runtime.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+@interface NSObject (Binary_Contents)
+- (void)ZEB_encode_binary_contents:(ZEB_String *)buffer;
+- (uint32_t)ZEB_decode_binary_contents:(ZEB_Char_Vector *)buffer needs_swap:(uint8_t)needs_swap;
+@end
+
+namespace
+{
+
+/// Every class that decodes records, by name; the classes that inherit it are left out.
+std::vector<Class> find_families()
+{
+    const SEL decode = @selector(ZEB_decode_binary_contents:needs_swap:);
+    std::vector<Class> classes(static_cast<size_t>(objc_getClassList(nullptr, 0)));
+    objc_getClassList(classes.data(), static_cast<int>(classes.size()));
+    const auto is_no_family = [=](Class one) {
+        return std::strncmp(class_getName(one), "ZEB_", 4) != 0 ||
+               class_getInstanceMethod(one, decode) == nullptr ||
+               class_getInstanceMethod(class_getSuperclass(one), decode) != nullptr ||
+               one == [ZEB_Object_Array class];
+    };
+    classes.erase(std::remove_if(classes.begin(), classes.end(), is_no_family), classes.end());
+    std::sort(classes.begin(), classes.end(), [](Class left, Class right) {
+        return std::strcmp(class_getName(left), class_getName(right)) < 0;
+    });
+    return classes;
+}
+
+/// What was decoded is encoded, in this machine's byte order, and decoded again: the same record of the same
+/// size.
+void check_round_trip(id decoded, uint32_t consumed, const char *record, bool was_swapped)
+{
+    ZEB_String *const buffer = [[ZEB_String alloc] init];
+    [decoded ZEB_encode_binary_contents:buffer];
+    fuzz::require([buffer count] == consumed);
+    fuzz::require(was_swapped || std::memcmp([buffer char_data], record, consumed) == 0);
+    id again = [[[decoded class] alloc] init];
+    fuzz::require([again ZEB_decode_binary_contents:buffer needs_swap:0] == consumed);
+    ZEB_String *const second = [[ZEB_String alloc] init];
+    [again ZEB_encode_binary_contents:second];
+    fuzz::require([second isEqual:buffer]);
+    [second release];
+    [again release];
+    [buffer release];
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static const std::vector<Class> families = find_families();
+    [[ZEB_Error_Stream shared_error_stream] set_verbose:0];
+    if (size < 2)
+        return 0;
+    NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
+    const bool is_swapped = data[1] & 1;
+    // A block of its own size, so that the sanitizer sees what is read behind it.
+    const std::unique_ptr<char[]> record(new char[size - 2]);
+    std::copy(data + 2, data + size, record.get());
+    ZEB_String *const source = [[ZEB_String alloc] init_as_link_to_chars:record.get()
+                                                                   count:static_cast<uint32_t>(size - 2)];
+    id array = [[families[data[0] % families.size()] alloc] init];
+    const uint32_t consumed = [array ZEB_decode_binary_contents:source needs_swap:is_swapped];
+    fuzz::require(consumed <= size - 2);
+    if (consumed != 0)
+        check_round_trip(array, consumed, record.get(), is_swapped);
+    else
+        fuzz::require([array count] == 0);
+    [array release];
+    [source release];
+    [pool drain];
+    return 0;
+}

@@ -8,13 +8,13 @@ namespace zeb_test
 {
 
 /// The text that a writer puts into a place of at most `size` bytes; nothing behind its null may change.
-template <typename Write>
-std::string guarded_text(std::size_t size, Write write)
+template <typename Writer, typename... Arguments>
+std::string guarded_text(std::size_t size, Writer writer, Arguments... arguments)
 {
     constexpr char pattern = '\x5A'; // in no text of a writer
     std::string place(size + 64, pattern);
     const char *const start = place.data();
-    const char *const end = write(place.data());
+    const char *const end = writer(place.data(), arguments...);
     EXPECT_EQ(*end, '\0');
     const std::string text = start;
     EXPECT_EQ(end, start + text.size());

@@ -39,13 +39,6 @@ std::string strftime_text(ZEB_Date *date, const std::string &format)
     return text_of(string);
 }
 
-std::string iso8601_text(ZEB_Date *date)
-{
-    ZEB_String *const string = text("");
-    [date append_iso8601_text:string];
-    return text_of(string);
-}
-
 std::string pretty(double seconds)
 {
     return guarded_text(ZEB_DATE_TEXT_SIZE, ZC_pretty_format_gregorian_date_from_seconds, seconds);
@@ -81,20 +74,20 @@ ZEB_Date *scanned_date(const std::string &characters)
     return scanned;
 }
 
-/// Reads a copy that ends with the array's last byte, so that a sanitizer sees any look beyond it.
 void expect_scanned(const std::string &characters)
 {
-    std::vector<char> exact(characters.begin(), characters.end());
-    const auto length = static_cast<uint32_t>(exact.size());
     double seconds = -77, expected = -77;
     const uint32_t count = scan_seconds(characters, expected);
-    EXPECT_EQ(ZC_assign_seconds_from_gregorian_date_char_c_array(exact.data(), length, &seconds), count)
+    EXPECT_EQ(scanned(characters, ZC_assign_seconds_from_gregorian_date_char_c_array, &seconds), count)
         << characters;
-    EXPECT_EQ(ZC_skip_valid_gregorian_date_char_c_array(exact.data(), length), count) << characters;
+    EXPECT_EQ(scanned(characters, ZC_skip_valid_gregorian_date_char_c_array), count) << characters;
     EXPECT_TRUE(seconds == expected || (std::isnan(seconds) && std::isnan(expected))) << characters;
 
     ZEB_Date *const date = date_of({1, 1, 1}, 1, 1), *const expected_date = scanned_date(characters);
-    [date assign_from_text:[ZEB_String link_to_chars:exact.data() count:length]];
+    scanned(characters, [date](const char *chars, uint32_t length) {
+        [date assign_from_text:[ZEB_String link_to_chars:const_cast<char *>(chars) count:length]];
+        return length;
+    });
     EXPECT_EQ(slash_text(date), slash_text(expected_date)) << characters;
     EXPECT_TRUE([date isEqual:expected_date]) << characters;
 }
@@ -183,17 +176,14 @@ TEST_F(Date_Text, slash_text_replaces_or_is_appended)
                                 "Cannot append c string through link, no append made."));
 }
 
-TEST_F(Date_Text, pretty_dates_of_known_instants)
+TEST_F(Date_Text, pretty_dates_are_read_back_as_the_instants_that_they_were)
 {
     const std::pair<double, const char *> rows[] = {
         {-0.0, "1/1/1970"},
         {9e-7, "1/1/1970"},
         {1e-6, "1/1/1970 00:00:00.000001"},
-        {5.0, "1/1/1970 00:00:05"},
         {9.9999999, "1/1/1970 00:00:010"}, // the leading zero is chosen before the rounding
         {59.9999999, "1/1/1970 00:00:60"},
-        {3600.0, "1/1/1970 01:00:00"},
-        {86399.5, "1/1/1970 23:59:59.5"},
         {-1.0, "12/31/1969 23:59:59"},
         {-86400.0, "12/31/1969"}, // a remainder of 24 hours is the next midnight
         {-1e-20, "1/1/1970"},
@@ -204,10 +194,6 @@ TEST_F(Date_Text, pretty_dates_of_known_instants)
     };
     for (const auto &[seconds, expected] : rows)
         EXPECT_EQ(pretty(seconds), expected) << seconds;
-}
-
-TEST_F(Date_Text, a_pretty_date_is_read_back_as_the_instant_that_it_was)
-{
     std::mt19937_64 random(71);
     for (int i = 0; i < 20000; ++i) {
         const double steps[] = {86400.0, 3600.0, 60.0, 10.0, 1.0, 0.5, 1e-6, 5e-7};
@@ -217,9 +203,8 @@ TEST_F(Date_Text, a_pretty_date_is_read_back_as_the_instant_that_it_was)
             seconds += (static_cast<double>(random() % 9) - 4.0) * 5e-7;
         seconds = std::fmod(seconds, 1.8e11);
         const std::string made = pretty(seconds);
-        const auto length = static_cast<uint32_t>(made.size());
         double read = NAN;
-        ASSERT_EQ(ZC_assign_seconds_from_gregorian_date_char_c_array(made.data(), length, &read), length)
+        ASSERT_EQ(scanned(made, ZC_assign_seconds_from_gregorian_date_char_c_array, &read), made.size())
             << made;
         ASSERT_NEAR(read, seconds, 1.0001e-6 + std::fabs(seconds) * 1e-15) << made;
     }
@@ -240,35 +225,25 @@ TEST_F(Date_Text, texts_are_read_as_scanf_reads_them)
     EXPECT_TRUE([date isEqual:scanned_date("")]);
 }
 
-TEST_F(Date_Text, iso_8601_text_comes_back)
+TEST_F(Date_Text, iso_8601_text_comes_back_also_far_out_where_clamped_months_agree)
 {
-    ZEB_String *const string = text("");
-    [date append_iso8601_text:string];
-    [string append_char:'|'];
-    [date append_iso8601_date_text:string];
-    EXPECT_EQ(text_of(string), "2021-03-04T10:20:30.5|2021-03-04");
-
     ZEB_Date *const read = date_of({1, 1, 1}, 1, 1);
     EXPECT_EQ([read assign_from_iso8601_text:text("2021-02-29")], 0u);
     EXPECT_EQ([read assign_from_iso8601_text:nil], 0u);
     EXPECT_EQ(slash_text(read), "1/1/1 00:00:01.000000001");
-    EXPECT_EQ([read assign_from_iso8601_text:string], 21u);
-    EXPECT_TRUE([read isEqual:date]);
-}
-
-TEST_F(Date_Text, iso_8601_and_clamped_months_agree_far_out)
-{
     for (const int32_t year :
-         {INT32_MIN, -10000000, -5000, -4801, -4800, -4713, 1465073, 5874899, 11761191, INT32_MAX}) {
-        ZEB_Date *const any = date_of({year, 1, 31}, 86399, 1), *const read = date_of({1, 1, 1}, 1, 1);
-        const std::string iso = iso8601_text(any);
-        EXPECT_EQ([read assign_from_iso8601_text:text(iso)], iso.size()) << iso;
-        EXPECT_EQ(slash_text(read), slash_text(any)) << iso;
-        EXPECT_EQ([read year], year);
+         {INT32_MIN, -10000000, -5000, -4801, -4800, -4713, 2021, 1465073, 5874899, 11761191, INT32_MAX}) {
+        ZEB_Date *const any = date_of({year, 1, 31}, 86399, 1);
+        ZEB_String *const iso = text(""), *const iso_date = text("");
+        [any append_iso8601_text:iso];
+        [any append_iso8601_date_text:iso_date];
+        EXPECT_EQ(text_of(iso), text_of(iso_date) + "T23:59:59.000000001");
+        EXPECT_EQ([read assign_from_iso8601_text:iso], [iso count]) << text_of(iso);
+        EXPECT_EQ(slash_text(read), slash_text(any)) << text_of(iso);
         [any add_months_clamped:0];
-        EXPECT_TRUE([any isEqual:read]) << iso;
+        EXPECT_TRUE([any isEqual:read]) << text_of(iso);
         [any add_months_clamped:1];
-        EXPECT_EQ([any days_since:read], [any day]) << iso;
+        EXPECT_EQ([any days_since:read], [any day]) << text_of(iso);
     }
 }
 

@@ -6,25 +6,23 @@
 #include <cmath>
 #include <limits>
 
+using zeb_test::guarded_text;
+
 namespace
 {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
-template <typename Writer, typename... Arguments>
-std::string written(Writer writer, Arguments... arguments)
-{
-    return zeb_test::guarded_text(ZEB_NUMBER_TEXT_SIZE, writer, arguments...);
-}
+constexpr std::size_t size = ZEB_NUMBER_TEXT_SIZE;
 
-std::string pretty(double x) { return written(ZC_pretty_format_double, x); }
-std::string pretty(float x) { return written(ZC_pretty_format_float, x); }
-std::string fixed(std::uint32_t decimals, double x) { return written(ZC_format_fixed_double, decimals, x); }
-std::string fixed(std::uint32_t decimals, float x) { return written(ZC_format_fixed_float, decimals, x); }
-std::string fraction(std::uint32_t decimals, double x)
+std::string pretty(double x) { return guarded_text(size, ZC_pretty_format_double, x); }
+std::string pretty(float x) { return guarded_text(size, ZC_pretty_format_float, x); }
+std::string fixed(std::uint32_t n, double x) { return guarded_text(size, ZC_format_fixed_double, n, x); }
+std::string fixed(std::uint32_t n, float x) { return guarded_text(size, ZC_format_fixed_float, n, x); }
+std::string fraction(std::uint32_t n, double x)
 {
-    return written(ZC_format_fraction_double, decimals, x);
+    return guarded_text(size, ZC_format_fraction_double, n, x);
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace zeb_test
 {
@@ -22,6 +24,15 @@ std::string guarded_text(std::size_t size, Writer writer, Arguments... arguments
     EXPECT_EQ(place.find_first_not_of(pattern, text.size() + 1), std::string::npos)
         << "written behind \"" << text << '"';
     return text;
+}
+
+/// What a scanner answers for a copy that ends with the array's last byte: a sanitizer sees any look beyond
+/// it.
+template <typename Scanner, typename... Arguments>
+std::uint32_t scanned(const std::string &text, Scanner scanner, Arguments... arguments)
+{
+    const std::vector<char> exact(text.begin(), text.end());
+    return scanner(exact.data(), static_cast<std::uint32_t>(exact.size()), arguments...);
 }
 
 } // namespace zeb_test

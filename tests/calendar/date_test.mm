@@ -112,7 +112,7 @@ TEST(Date, moves_by_units)
     }
 }
 
-TEST(Date, day_numbers_are_those_of_the_fields_after_every_step)
+TEST(Date, day_numbers_stay_those_of_the_fields)
 {
     std::mt19937_64 random(1582);
     ZEB_Date *const date = never_set();

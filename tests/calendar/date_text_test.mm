@@ -45,7 +45,7 @@ std::string pretty(double seconds)
 }
 
 /// What scanf reads of an instant.
-uint32_t scan_seconds(const std::string &characters, double &result)
+uint32_t seconds_by_scanf(const std::string &characters, double &result)
 {
     const std::size_t spaces = std::min(characters.find_first_not_of(" \t\n\v\f\r"), characters.size());
     const std::string rest = characters.substr(spaces, 1023);
@@ -53,8 +53,8 @@ uint32_t scan_seconds(const std::string &characters, double &result)
     double seconds = 0;
     if (std::sscanf(rest.c_str(), "%d / %d / %d%n", &month, &day, &year, &date_count) != 3)
         return 0;
-    if (std::sscanf(rest.c_str() + date_count, "%d : %d : %lf%n", &hours, &minutes, &seconds, &time_count) !=
-        3)
+    const char *const time = rest.c_str() + date_count;
+    if (std::sscanf(time, "%d : %d : %lf%n", &hours, &minutes, &seconds, &time_count) != 3)
         hours = minutes = time_count = 0, seconds = 0;
     const int32_t days = [date_of({year, month, day}) days_since:date_of({1970, 1, 1})];
     result = days * 86400.0 + hours * 3600.0 + minutes * 60.0 + seconds;
@@ -62,7 +62,7 @@ uint32_t scan_seconds(const std::string &characters, double &result)
 }
 
 /// What scanf reads of a date object.
-ZEB_Date *scanned_date(const std::string &characters)
+ZEB_Date *date_by_scanf(const std::string &characters)
 {
     int month = 0, day = 0, year = 0, hour = 0, minute = 0, second = 0, nanosecond = 0;
     std::sscanf(characters.c_str(), " %d / %d / %d %d : %d : %d . %d", &month, &day, &year, &hour, &minute,
@@ -74,16 +74,16 @@ ZEB_Date *scanned_date(const std::string &characters)
     return scanned;
 }
 
-void expect_scanned(const std::string &characters)
+void expect_same_as_scanf(const std::string &characters)
 {
     double seconds = -77, expected = -77;
-    const uint32_t count = scan_seconds(characters, expected);
+    const uint32_t count = seconds_by_scanf(characters, expected);
     EXPECT_EQ(scanned(characters, ZC_assign_seconds_from_gregorian_date_char_c_array, &seconds), count)
         << characters;
     EXPECT_EQ(scanned(characters, ZC_skip_valid_gregorian_date_char_c_array), count) << characters;
     EXPECT_TRUE(seconds == expected || (std::isnan(seconds) && std::isnan(expected))) << characters;
 
-    ZEB_Date *const date = date_of({1, 1, 1}, 1, 1), *const expected_date = scanned_date(characters);
+    ZEB_Date *const date = date_of({1, 1, 1}, 1, 1), *const expected_date = date_by_scanf(characters);
     scanned(characters, [date](const char *chars, uint32_t length) {
         [date assign_from_text:[ZEB_String link_to_chars:const_cast<char *>(chars) count:length]];
         return length;
@@ -214,15 +214,15 @@ TEST_F(Date_Text, texts_are_read_as_scanf_reads_them)
 {
     for (const char *const characters : {"", "x", "7", "  3/4/2021 10:20:30.5xyz", "3/4/2021 10:20",
                                          " 13 / 32 / 1999", "2/30/2021 1:2:3.5", "1/1/2000 -1:0:0"})
-        expect_scanned(characters);
+        expect_same_as_scanf(characters);
     // Only 1023 characters after the white space in front count.
-    expect_scanned(std::string(2000, ' ') + "1/2/" + std::string(2000, '0'));
+    expect_same_as_scanf(std::string(2000, ' ') + "1/2/" + std::string(2000, '0'));
     std::mt19937_64 random(72);
     for (int i = 0; i < 20000 && !HasFailure(); ++i)
-        expect_scanned(random_date_text(random));
+        expect_same_as_scanf(random_date_text(random));
     EXPECT_EQ(ZC_skip_valid_gregorian_date_char_c_array(nullptr, 0), 0u);
     [date assign_from_text:nil];
-    EXPECT_TRUE([date isEqual:scanned_date("")]);
+    EXPECT_TRUE([date isEqual:date_by_scanf("")]);
 }
 
 TEST_F(Date_Text, iso_8601_text_comes_back_also_far_out_where_clamped_months_agree)

@@ -182,6 +182,7 @@ TEST_F(Date_Text, pretty_dates_are_read_back_as_the_instants_that_they_were)
         {-0.0, "1/1/1970"},
         {9e-7, "1/1/1970"},
         {1e-6, "1/1/1970 00:00:00.000001"},
+        {0x1p-7, "1/1/1970 00:00:00.007812"}, // a tie goes to the even digit
         {9.9999999, "1/1/1970 00:00:010"}, // the leading zero is chosen before the rounding
         {59.9999999, "1/1/1970 00:00:60"},
         {-1.0, "12/31/1969 23:59:59"},
@@ -195,7 +196,7 @@ TEST_F(Date_Text, pretty_dates_are_read_back_as_the_instants_that_they_were)
     for (const auto &[seconds, expected] : rows)
         EXPECT_EQ(pretty(seconds), expected) << seconds;
     std::mt19937_64 random(71);
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < 10000; ++i) {
         const double steps[] = {86400.0, 3600.0, 60.0, 10.0, 1.0, 0.5, 1e-6, 5e-7};
         double seconds =
             static_cast<double>(static_cast<int64_t>(random()) >> (20 + random() % 44)) * steps[random() % 8];
@@ -218,7 +219,7 @@ TEST_F(Date_Text, texts_are_read_as_scanf_reads_them)
     // Only 1023 characters after the white space in front count.
     expect_same_as_scanf(std::string(2000, ' ') + "1/2/" + std::string(2000, '0'));
     std::mt19937_64 random(72);
-    for (int i = 0; i < 20000 && !HasFailure(); ++i)
+    for (int i = 0; i < 10000 && !HasFailure(); ++i)
         expect_same_as_scanf(random_date_text(random));
     EXPECT_EQ(ZC_skip_valid_gregorian_date_char_c_array(nullptr, 0), 0u);
     [date assign_from_text:nil];

@@ -49,7 +49,7 @@ TEST(Number_Scanning, numbers_are_read_as_the_c_library_reads_them)
     const auto by = [](auto function, int base) {
         return [=](const char *chars, char **end) { return function(chars, end, base); };
     };
-    for (int i = 0; i < 30000 && !HasFailure(); ++i) {
+    for (int i = 0; i < 15000 && !HasFailure(); ++i) {
         const std::string numbers[] = {random_real(random), random_real(random), random_integer(random),
                                        "0x" + random_integer(random), words[random() % words.size()]};
         std::string text = spaces(random) + numbers[random() % 5];

@@ -72,3 +72,10 @@ TEST(Number_Text, known_texts_of_all_ranges_and_their_edges)
     for (const auto &[text, expected] : rows)
         EXPECT_EQ(text, expected);
 }
+
+TEST(Number_Text, unsigned_numbers_around_the_powers_of_ten)
+{
+    for (std::uint32_t power = 1; power != 0; power = power < 1000000000 ? power * 10 : 0)
+        for (const std::uint32_t value : {power - 1, power, power + 1, -power})
+            EXPECT_EQ(guarded_text(11, ZC_pretty_format_unsigned, value), std::to_string(value));
+}

@@ -183,7 +183,7 @@ TEST_F(Date_Text, pretty_dates_are_read_back_as_the_instants_that_they_were)
         {9e-7, "1/1/1970"},
         {1e-6, "1/1/1970 00:00:00.000001"},
         {0x1p-7, "1/1/1970 00:00:00.007812"}, // a tie goes to the even digit
-        {9.9999999, "1/1/1970 00:00:010"}, // the leading zero is chosen before the rounding
+        {9.9999999, "1/1/1970 00:00:010"},    // the leading zero is chosen before the rounding
         {59.9999999, "1/1/1970 00:00:60"},
         {-1.0, "12/31/1969 23:59:59"},
         {-86400.0, "12/31/1969"}, // a remainder of 24 hours is the next midnight

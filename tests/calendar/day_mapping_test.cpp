@@ -22,8 +22,6 @@ std::string shown(ZEB_Gregorian_Date date)
 TEST(Day_Mapping, known_days)
 {
     EXPECT_EQ(ZC_map_gregorian_date_to_julian_day({1970, 1, 1}), 2440588);
-    EXPECT_EQ(ZC_map_gregorian_date_to_julian_day({1900, 2, 29}),
-              ZC_map_gregorian_date_to_julian_day({1900, 3, 1}));
     EXPECT_EQ(shown(ZC_map_julian_day_to_gregorian_date(2451545)), "2000-1-1");
 }
 

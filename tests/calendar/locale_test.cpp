@@ -28,9 +28,6 @@ std::vector<std::string> all_results()
             [&] { return ZC_format_fraction_double(buffer, 3, x); },
             [&] { return ZC_format_fixed_float(buffer, 3, single); },
             [&] { return ZC_format_scientific_double(buffer, 3, nullptr, nullptr, x, 1.5, 1.0); },
-            [&] {
-                return engine::format_value(buffer, {3, 1.5, 1.0}, x, result);
-            },
             [&] { return engine::format_fixed(buffer, 5, x, result); },
             [&] { return ZC_pretty_format_gregorian_date_from_seconds(buffer, x); },
             [&] { return engine::write_slash_text(buffer, date); },

@@ -31,8 +31,6 @@ TEST(Number_Text, known_texts_of_all_ranges_and_their_edges)
 {
     const std::pair<std::string, const char *> rows[] = {
         {pretty(1.0 / 3.0), "0.333333333333"},
-        {pretty(2.0 / 3.0), "0.666666666667"},
-        {pretty(123456.789), "123456.789"},
         {pretty(-0.1234567), "-0.1234567"},
         {pretty(0.12345678), "0.12345678"},
         {pretty(0.0001), "0.0001"},

@@ -156,7 +156,7 @@ const Sweep all_sweeps[] = {
 #ifdef ZEB_SWEEP_ALL
 constexpr std::uint64_t parts = 64, slice = 0;
 #else
-constexpr std::uint64_t parts = 1, slice = 100000;
+constexpr std::uint64_t parts = 1, slice = 60000;
 #endif
 
 class Sweeps : public testing::TestWithParam<std::tuple<Sweep, std::uint64_t>>

@@ -2,37 +2,28 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <random>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace zeb_test
 {
 
-inline std::string random_run(std::mt19937_64 &random, const std::string &alphabet, std::size_t longest)
+/// The words of a text, which white space parts.
+inline std::vector<std::string> words_of(const std::string &text)
 {
-    std::string text(random() % (longest + 1), ' ');
-    for (char &c : text)
-        c = alphabet[random() % alphabet.size()];
-    return text;
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
 }
 
 /// Replaces, inserts and removes a few characters.
 inline std::string spoiled(std::mt19937_64 &random, std::string text, const std::string &alphabet)
 {
-    for (std::uint64_t changes = random() % 4; changes > 0 && !text.empty(); --changes) {
-        const std::size_t place = random() % text.size();
-        const char c = alphabet[random() % alphabet.size()];
-        switch (random() % 3) {
-        case 0:
-            text[place] = c;
-            break;
-        case 1:
-            text.insert(place, 1, c);
-            break;
-        default:
-            text.erase(place, 1);
-        }
-    }
+    for (std::uint64_t changes = random() % 4; changes > 0 && !text.empty(); --changes)
+        text.replace(random() % text.size(), random() % 2, random() % 2,
+                     alphabet[random() % alphabet.size()]);
     return text;
 }
 
@@ -42,7 +33,7 @@ inline std::string spaces(std::mt19937_64 &random)
     return some[random() % 7];
 }
 
-/// An integer of up to 21 digits, now and then with a sign, mostly short.
+/// An integer of up to 22 digits, now and then with a sign, mostly short.
 inline std::string random_integer(std::mt19937_64 &random)
 {
     static const char *const signs[] = {"", "", "", "", "-", "+", "--"};

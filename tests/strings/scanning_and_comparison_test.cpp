@@ -17,6 +17,9 @@ namespace
 
 using Text = std::span<const char>;
 
+/// Few letters, in both cases, and bytes on both sides of 0x80.
+const std::string case_alphabet("aAbBzZ@[`{\x7F\x80\xC9\xE9\xFF\0", 16);
+
 /// The characters in the order in which texts are compared that differ in case alone.
 std::vector<int> folded(Text text)
 {

@@ -84,11 +84,6 @@ TEST(String_Operations, extend_the_sign_of_8_bit_characters)
     [wide copy_chars:"\x41\xE9" length:2];
     [wide append_chars:"z" length:1];
     EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9, 'z'}));
-    [ZEB_Wide_String set_growth_seed:3];
-    ZEB_Wide_String *const seeded = wide_text(U"");
-    [seeded copy_c_string:"abc" length:3];
-    EXPECT_EQ([seeded capacity], 6u);
-    [ZEB_Wide_String set_growth_seed:16];
 }
 
 TEST(String_Operations, refuse_on_links_under_their_own_names)

@@ -1,7 +1,5 @@
 #include "strings/engine/utf.hpp"
 
-#include "strings/engine/text_kernels.hpp"
-
 #include "core/engine/namespace.hpp"
 #include "tests/arrays/random_elements.hpp"
 #include "tests/support/sanitizer.hpp"
@@ -175,24 +173,4 @@ TEST(Unicode_Forms, refuse_what_is_no_character)
     mixed.resize(7);
     engine::split_to_surrogate_pairs(mixed.data(), 6, 1);
     EXPECT_EQ(mixed, (Units{0xD800, 0x110000, 0xD83D, 0xDE00, 'x', 0xDC00, 0xD83D}));
-}
-
-TEST(Text_Kernels, widen_and_narrow_every_length)
-{
-    on_each_target([] {
-        std::mt19937 random(8);
-        for (size_t count : lengths()) {
-            const Units units = draw_elements<uint32_t>(random, count, Draw::Any_Bits);
-            std::vector<uint16_t> halves(count);
-            engine::kernels::narrow(units.data(), count, halves.data());
-            ASSERT_EQ(halves, std::vector<uint16_t>(units.begin(), units.end()));
-            Units widened(count);
-            std::copy(halves.begin(), halves.end(), reinterpret_cast<uint16_t *>(widened.data()));
-            engine::kernels::widen_in_place(widened.data(), count);
-            ASSERT_EQ(widened, Units(halves.begin(), halves.end()));
-            const auto *const bytes = reinterpret_cast<const int8_t *>(halves.data());
-            engine::kernels::widen_signed(bytes, count, widened.data());
-            ASSERT_EQ(widened, Units(bytes, bytes + count));
-        }
-    });
 }

@@ -46,9 +46,10 @@ void expect_same_orders(const std::string &left, const std::string &right)
     ASSERT_EQ([first compare_ignoring_case:second], without_case) << left << '|' << right;
     ASSERT_EQ([first is_equal_ignoring_case:second], without_case == ZEB_COMPARED_EQUAL);
     const std::u32string wide_left(left.begin(), left.end()), wide_right(right.begin(), right.end());
-    ASSERT_EQ([wide_text(wide_left) compare:wide_text(wide_right)], order(wide_left, wide_right));
-    ASSERT_EQ([wide_text(wide_left) is_less:wide_text(wide_right)], wide_left < wide_right);
-    ASSERT_EQ([wide_text(wide_left) is_equal:wide_text(wide_right)], left == right);
+    ZEB_Wide_String *const wide_first = wide_text(wide_left), *const wide_second = wide_text(wide_right);
+    ASSERT_EQ([wide_first compare:wide_second], order(wide_left, wide_right));
+    ASSERT_EQ([wide_first is_less:wide_second], wide_left < wide_right);
+    ASSERT_EQ([wide_first is_equal:wide_second], left == right);
 }
 
 /// The same text, now and then with some or all letters in the other case, another byte, or another length.

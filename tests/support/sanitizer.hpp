@@ -1,4 +1,4 @@
-/// Whether the address sanitizer watches, beneath which everything takes its time.
+/// Whether a sanitizer watches, beneath which everything takes its time.
 #pragma once
 
 // g++ defines a macro, clang has a feature.
@@ -11,8 +11,8 @@
 namespace support
 {
 
-/// By this much less is repeated beneath the sanitizer.
-#if defined(__SANITIZE_ADDRESS__)
+/// By this much less is repeated beneath a sanitizer of addresses or threads.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr unsigned slowness = 8;
 #else
 constexpr unsigned slowness = 1;

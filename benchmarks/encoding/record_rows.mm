@@ -6,9 +6,9 @@
 #if ZEB_HAS_QT
 #include <QByteArray>
 #include <QDataStream>
+#include <QIODevice>
 #include <QList>
 #include <QString>
-#include <QVector>
 #endif
 
 #include <cstring>

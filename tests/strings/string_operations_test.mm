@@ -37,45 +37,17 @@ TEST(String_Operations, strings_describe_themselves_as_their_text)
     EXPECT_STREQ([[wide_text(U"text") description] UTF8String], "text");
 }
 
-TEST(String_Operations, search_and_scan)
+TEST(String_Operations, search)
 {
     ZEB_String *const abc = text("abc");
     EXPECT_EQ([abc index_of_substring:"b" length:1], 1u);
     EXPECT_EQ([abc index_of_substring:"bc" length:2], ZEB_NOT_FOUND);
     EXPECT_EQ([abc index_of_substring:"abc" length:3], ZEB_NOT_FOUND);
-    EXPECT_EQ([text("  -3 x") index_of_number_start], 2u);
-    EXPECT_EQ([text("12 apples") number_prefix_length], 2u);
-    EXPECT_EQ([text("x = 4.2e1  ") index_of_number_end], 8u);
-    EXPECT_EQ([text("12E5") index_of_last_non_number], 2u);
     EXPECT_EQ([wide_text(U"abc") index_of_char:'c'], 2u);
     EXPECT_EQ([wide_text(U"abc") index_of_char:'d'], ZEB_NOT_FOUND);
     const uint32_t b[] = {'b', 'c'};
     EXPECT_EQ([wide_text(U"abcd") index_of_substring:b length:2], 1u);
     EXPECT_EQ([wide_text(U"abc") index_of_substring:b length:2], ZEB_NOT_FOUND);
-}
-
-TEST(String_Operations, compare_the_three_ways)
-{
-    const struct {
-        const char *left, *right;
-        ZEB_Comparison plain, folded;
-    } rows[] = {{"ab", "abc", 2, 2}, {"ABC", "abd", 2, 2}, {"abc", "ABC", 3, 1}, {"same", "same", 1, 1}};
-    for (const auto &row : rows) {
-        ZEB_String *const left = text(row.left);
-        ZEB_String *const right = text(row.right);
-        EXPECT_EQ([left compare:right], row.plain);
-        EXPECT_EQ([left is_less:right], row.plain == 2);
-        EXPECT_EQ([left is_equal:right], row.plain == 1);
-        EXPECT_EQ([left compare_ignoring_case:right], row.folded);
-        EXPECT_EQ([left is_equal_ignoring_case:right], row.folded == 1);
-    }
-    EXPECT_EQ([wide_text(U"\U00010000") compare:wide_text(U"A")], 3u);
-    EXPECT_EQ([wide_text(U"A") is_less:wide_text(U"AB")], 1);
-    EXPECT_EQ([wide_text(U"A") is_equal:wide_text(U"A")], 1);
-    EXPECT_EQ([wide_text(U"A") is_equal:wide_text(U"B")], 0);
-    ZEB_String *const none = nil;
-    EXPECT_EQ([text("") is_equal:none] + [text("") is_equal_ignoring_case:none], 0);
-    EXPECT_EQ([text("a") compare:none], 3u);
 }
 
 TEST(String_Operations, extend_the_sign_of_8_bit_characters)
@@ -84,11 +56,6 @@ TEST(String_Operations, extend_the_sign_of_8_bit_characters)
     [wide copy_chars:"\x41\xE9" length:2];
     [wide append_chars:"z" length:1];
     EXPECT_EQ(zeb::view(wide), (std::u32string{0x41, 0xFFFFFFE9, 'z'}));
-    [ZEB_Wide_String set_growth_seed:3];
-    ZEB_Wide_String *const seeded = wide_text(U"");
-    [seeded copy_c_string:"abc" length:3];
-    EXPECT_EQ([seeded capacity], 6u);
-    [ZEB_Wide_String set_growth_seed:16];
 }
 
 TEST(String_Operations, refuse_on_links_under_their_own_names)

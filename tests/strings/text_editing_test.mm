@@ -1,11 +1,12 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 #import <Korvane_ZEB/ZEB_String_Views.hpp>
 
+#include "tests/arrays/random_elements.hpp"
 #include "tests/strings/random_text.hpp"
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
+#include "tests/support/sanitizer.hpp"
 
-#include <gtest/gtest.h>
 #import <objc/runtime.h>
 
 using namespace support;
@@ -54,9 +55,11 @@ TYPED_TEST_SUITE(Text_Editing, Strings);
 
 TYPED_TEST(Text_Editing, keeps_text_and_capacity_of_the_literal_steps)
 {
-    std::mt19937 random(4);
-    for (unsigned turn = 0; turn < 100; ++turn)
-        walk<TypeParam>(random);
+    zeb_test::on_each_target([] {
+        std::mt19937 random(4);
+        for (unsigned turn = 0; turn < 100 / slowness; ++turn)
+            walk<TypeParam>(random);
+    });
 }
 
 TYPED_TEST(Text_Editing, reports_a_size_that_cannot_be_had)

@@ -4,14 +4,10 @@
  */
 #import <Foundation/Foundation.h>
 
+#include "sanitizer.hpp"
+
 #include <gtest/gtest.h>
 
-// g++ defines a macro, clang has a feature.
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer) && !defined(__SANITIZE_ADDRESS__)
-#define __SANITIZE_ADDRESS__ 1
-#endif
-#endif
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
 #endif

@@ -20,20 +20,22 @@ namespace
 {
 
 /// Every class that decodes records, by name; the classes that inherit it are left out.
-std::vector<Class> find_families()
+std::vector<id> find_families()
 {
     const SEL decode = @selector(ZEB_decode_binary_contents:needs_swap:);
-    std::vector<Class> classes(static_cast<size_t>(objc_getClassList(nullptr, 0)));
-    objc_getClassList(classes.data(), static_cast<int>(classes.size()));
-    const auto is_no_family = [=](Class one) {
+    // g++ knows no size of what a Class points to.
+    std::vector<id> classes(static_cast<size_t>(objc_getClassList(nullptr, 0)));
+    objc_getClassList(reinterpret_cast<Class *>(classes.data()), static_cast<int>(classes.size()));
+    const auto is_no_family = [=](id named) {
+        const Class one = (Class)named;
         return std::strncmp(class_getName(one), "ZEB_", 4) != 0 ||
                class_getInstanceMethod(one, decode) == nullptr ||
                class_getInstanceMethod(class_getSuperclass(one), decode) != nullptr ||
                one == [ZEB_Object_Array class];
     };
     classes.erase(std::remove_if(classes.begin(), classes.end(), is_no_family), classes.end());
-    std::sort(classes.begin(), classes.end(), [](Class left, Class right) {
-        return std::strcmp(class_getName(left), class_getName(right)) < 0;
+    std::sort(classes.begin(), classes.end(), [](id left, id right) {
+        return std::strcmp(class_getName((Class)left), class_getName((Class)right)) < 0;
     });
     return classes;
 }
@@ -60,7 +62,7 @@ void check_round_trip(id decoded, uint32_t consumed, const char *record, bool wa
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const std::vector<Class> families = find_families();
+    static const std::vector<id> families = find_families();
     [[ZEB_Error_Stream shared_error_stream] set_verbose:0];
     if (size < 2)
         return 0;
@@ -71,13 +73,13 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     std::copy(data + 2, data + size, record.get());
     ZEB_String *const source = [[ZEB_String alloc] init_as_link_to_chars:record.get()
                                                                    count:static_cast<uint32_t>(size - 2)];
-    id array = [[families[data[0] % families.size()] alloc] init];
+    id array = [[(Class)families[data[0] % families.size()] alloc] init];
     const uint32_t consumed = [array ZEB_decode_binary_contents:source needs_swap:is_swapped];
     fuzz::require(consumed <= size - 2);
     if (consumed != 0)
         check_round_trip(array, consumed, record.get(), is_swapped);
     else
-        fuzz::require([array count] == 0);
+        fuzz::require([static_cast<ZEB_Byte_Array *>(array) count] == 0);
     [array release];
     [source release];
     [pool drain];

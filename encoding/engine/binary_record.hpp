@@ -1,6 +1,7 @@
 /// Records of the external binary format: a count, then the elements, without padding.
 #pragma once
 
+#include "arrays/engine/scratch.hpp"
 #include "arrays/engine/storage/insertion.hpp"
 #include "arrays/engine/storage/own_source.hpp"
 #include "encoding/engine/byte_order.hpp"
@@ -21,6 +22,15 @@ struct Record_Source {
 
 inline constexpr std::uint32_t record_count_size = sizeof(std::uint32_t);
 
+/// Writes a record and returns the position behind it.
+inline char *put_record(char *out, std::uint32_t count, const void *elements, std::size_t size) noexcept
+{
+    std::memcpy(out, &count, record_count_size);
+    if (size != 0)
+        std::memcpy(out + record_count_size, elements, size);
+    return out + record_count_size + size;
+}
+
 /// Appends a count and `size` bytes of elements, which may be the buffer's own. Reports and returns false if
 /// the buffer is a link or allocation fails.
 template <class Report>
@@ -40,9 +50,7 @@ bool append_record(Record_Buffer buffer, std::uint32_t count, const void *elemen
     }
     if (!grow(buffer, length, report))
         return false;
-    std::memcpy(buffer.data + buffer.count, &count, record_count_size);
-    if (size != 0)
-        std::memcpy(buffer.data + buffer.count + record_count_size, source.elements().data(), size);
+    put_record(buffer.data + buffer.count, count, source.elements().data(), size);
     buffer.count = static_cast<std::uint32_t>(length);
     return true;
 }
@@ -55,16 +63,61 @@ void encode_plain(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer 
     append_record(buffer, vector.count, vector.data, std::uint64_t{vector.count} * sizeof(Element), report);
 }
 
-/// Appends the count of an array of objects and the record of each object. `storage_of` returns an object's
-/// storage.
+/// What the records of an array of objects come to.
+struct Records_Extent {
+    std::uint64_t size;
+    bool overlaps_buffer;
+};
+
+/// Adds up the records of an array's objects.
+template <class Policy, class Storage_Of>
+Records_Extent extent_of_records(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer,
+                                 Storage_Of storage_of) noexcept
+{
+    Records_Extent extent{record_count_size, false};
+    for (const typename Policy::Element element : vector.elements()) {
+        const auto elements = storage_of(element).elements();
+        const std::span<const char> bytes(reinterpret_cast<const char *>(elements.data()),
+                                          elements.size_bytes());
+        extent.size += record_count_size + bytes.size();
+        extent.overlaps_buffer = extent.overlaps_buffer || overlaps(bytes, buffer.data, buffer.capacity);
+    }
+    return extent;
+}
+
+/// Writes the count of an array of objects and the record of each object.
+template <class Policy, class Storage_Of>
+void put_records(char *out, Vector_Storage<Held_Objects<Policy>> vector, Storage_Of storage_of) noexcept
+{
+    out = put_record(out, vector.count, nullptr, 0);
+    for (const typename Policy::Element element : vector.elements()) {
+        const auto elements = storage_of(element).elements();
+        out = put_record(out, static_cast<std::uint32_t>(elements.size()), elements.data(),
+                         elements.size_bytes());
+    }
+}
+
+/// Appends the count of an array of objects and the record of each object, which may view the buffer.
+/// `storage_of` returns an object's storage.
 template <class Policy, class Storage_Of, class Report>
 void encode_held(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer, Storage_Of storage_of,
                  Report report) noexcept
 {
-    if (!append_record(buffer, vector.count, nullptr, 0, report))
+    if (buffer.is_link())
+        return report(notes::room_through_link);
+    const Records_Extent extent = extent_of_records(vector, buffer, storage_of);
+    const Scratch<char> aside(extent.overlaps_buffer ? extent.size : 0);
+    if (aside.get() != nullptr)
+        put_records(aside.get(), vector, storage_of);
+    else if (extent.overlaps_buffer)
+        return report(notes::reallocate_failed);
+    if (!grow(buffer, buffer.count + extent.size, report))
         return;
-    for (const typename Policy::Element object : vector.elements())
-        encode_plain(Vector_Storage(storage_of(object)), buffer, report);
+    if (extent.overlaps_buffer)
+        std::memcpy(buffer.data + buffer.count, aside.get(), extent.size);
+    else
+        put_records(buffer.data + buffer.count, vector, storage_of);
+    buffer.count += static_cast<std::uint32_t>(extent.size);
 }
 
 /// Appends an empty record for an array without references. Others cannot be encoded and append nothing.

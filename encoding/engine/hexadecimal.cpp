@@ -11,27 +11,20 @@ namespace
 
 constexpr char digit_characters[] = "0123456789abcdef";
 
-/// A byte's digits and the separator, four characters of which the last may not count.
-struct Byte_Text {
-    char text[4];
-    std::uint8_t length;
-};
+/// For each byte its digits and the separator, four characters of which the last may not count.
+using Byte_Texts = std::array<std::array<char, 4>, 256>;
 
-constexpr std::array<Byte_Text, 256> make_byte_texts() noexcept
+constexpr Byte_Texts make_byte_texts() noexcept
 {
-    std::array<Byte_Text, 256> texts{};
+    Byte_Texts texts{};
     for (unsigned value = 0; value < 256; ++value) {
-        Byte_Text &row = texts[value];
-        if (value >= 16)
-            row.text[row.length++] = digit_characters[value / 16];
-        row.text[row.length++] = digit_characters[value % 16];
-        row.text[row.length++] = ',';
-        row.text[row.length++] = ' ';
+        const char high = digit_characters[value / 16], low = digit_characters[value % 16];
+        texts[value] = value >= 16 ? std::array{high, low, ',', ' '} : std::array{low, ',', ' ', ' '};
     }
     return texts;
 }
 
-constexpr std::array<Byte_Text, 256> byte_texts = make_byte_texts();
+constexpr Byte_Texts byte_texts = make_byte_texts();
 
 /// Writes a list whose values `put` writes, each with the separator behind it, the last of which becomes "}".
 template <class Value, class Put>
@@ -69,9 +62,9 @@ char *put_hex_digits(char *out, std::uint64_t value) noexcept
 char *put_hex_list(char *out, const std::uint8_t *values, std::size_t n) noexcept
 {
     return put_list(out, values, n, [](char *at, std::uint8_t value) {
-        const Byte_Text &row = byte_texts[value];
-        std::memcpy(at, row.text, sizeof row.text);
-        return at + row.length;
+        // The length is not read from the table, for the next byte waits for it.
+        std::memcpy(at, byte_texts[value].data(), 4);
+        return at + (value >= 16 ? 4 : 3);
     });
 }
 

@@ -240,8 +240,8 @@ struct Plain {
 
     uint64_t extremes() const
     {
-        return uint64_t{reference::minimum(all, samples.precedes, samples.nothing)} << 32 |
-               reference::maximum(all, samples.precedes, samples.nothing);
+        const uint64_t low = reference::minimum(all, samples.precedes, samples.nothing);
+        return low << 32 | reference::maximum(all, samples.precedes, samples.nothing);
     }
 
     void fill(uint32_t first, uint32_t last)

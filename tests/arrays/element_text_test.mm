@@ -28,7 +28,10 @@ TEST(Element_Text, goes_by_the_writer_of_the_type)
     ZEB_Object_Array *const objects = [ZEB_Object_Array array_with_capacity:0];
     [objects append_object:strings];
     // What an array writes as an object, and what it prints of its elements.
-    const std::tuple<ZEB_Collection *, const char *, const char *> rows[] = {
+    const struct {
+        id array;
+        const char *listed, *printed;
+    } rows[] = {
         {some_bytes, "{7, 200, 3}", "{7, 200, 3}"},
         {[ZEB_Double_Array link_to_doubles:doubles count:3], "{0.1, 1e+07, 123457}",
          "{0.1, 1e+07, 123456.789}"},
@@ -40,9 +43,9 @@ TEST(Element_Text, goes_by_the_writer_of_the_type)
         {[ZEB_Pointer_Array link_to_pointers:pointers count:1], "{12}", "{12}"},
         {[ZEB_Pointer_Array array_with_capacity:0], "{}", "{}"}};
     ZEB_Stream *const stream = [ZEB_Stream shared_stream];
-    for (const auto &[array, listed, printed] : rows) {
-        EXPECT_EQ(support::standard_output_of([&] { [stream write_object:array]; }), listed);
-        EXPECT_EQ(support::standard_output_of([&] { [(id)array print_on_stream:stream]; }), printed);
+    for (const auto &row : rows) {
+        EXPECT_EQ(support::standard_output_of([&] { [stream write_object:row.array]; }), row.listed);
+        EXPECT_EQ(support::standard_output_of([&] { [row.array print_on_stream:stream]; }), row.printed);
     }
     EXPECT_EQ(support::standard_error_of([&] { [some_bytes print]; }), "List contents:\n{7, 200, 3}\n");
     EXPECT_EQ([some_bytes minimum_and_maximum], 200u * 256 + 3);

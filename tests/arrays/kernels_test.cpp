@@ -270,36 +270,29 @@ TYPED_TEST(Kernels, work_on_more_than_the_caches_hold)
                    this->input(this->draw((size_t{2} << 20) / sizeof(TypeParam), 2), 2));
 }
 
-TYPED_TEST(Kernels, find_a_lone_element_at_every_place)
+TYPED_TEST(Kernels, find_what_is_rare)
 {
+    using E = TypeParam;
     for (const size_t length : {1, 15, 64, 130, 299})
         for (size_t at = 0; at < length; ++at)
-            this->hold(find_equal<TypeParam>, {this->lone(length, at), this->lone(1, 0)[0]}, at);
-}
-
-/// Runs that nearly match everywhere make the vectors give up, for a table that there may be no memory for.
-TYPED_TEST(Kernels, find_repetitive_runs)
-{
+            this->hold(find_equal<E>, {this->lone(length, at), this->lone(1, 0)[0]}, at);
+    // Runs that nearly match everywhere make the vectors give up, for a table that there may be no memory
+    // for.
     for (const size_t broken_at : {0, 1, 31, 62, 63}) {
         for (const size_t lone_at : {5001, 8001, 9000}) {
-            Input<TypeParam> in{this->lone(9000, lone_at)};
+            Input<E> in{this->lone(9000, lone_at)};
             in.run = this->lone(64, broken_at);
-            this->hold(find_run<TypeParam>, in);
+            this->hold(find_run<E>, in);
         }
     }
-}
-
-/// A long text is sampled on the way: the first occurrence is found before, across and behind that place.
-TYPED_TEST(Kernels, find_runs_anywhere_in_a_long_text)
-{
+    // A long text is sampled on the way: the first occurrence is found before, across and behind that place.
     constexpr size_t sampled_at = 65536;
-    Input<TypeParam> in{this->draw(3 * sampled_at, 1)};
+    Input<E> in{this->draw(3 * sampled_at, 1)};
     for (const size_t length : {2, 3, 4, 20, 300, 70000}) {
         for (const size_t start :
-             {size_t{7}, sampled_at - length / 2, sampled_at + 1, in.elements.size() - length - 1}) {
-            const auto first = in.elements.begin() + static_cast<std::ptrdiff_t>(start);
-            in.run.assign(first, first + static_cast<std::ptrdiff_t>(length));
-            this->hold(find_run<TypeParam>, in);
+             {size_t{7}, sampled_at - length / 2, sampled_at + 1, 3 * sampled_at - length - 1}) {
+            in.run.assign(in.elements.data() + start, in.elements.data() + start + length);
+            this->hold(find_run<E>, in);
         }
     }
 }

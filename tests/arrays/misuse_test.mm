@@ -38,23 +38,23 @@ TEST(Permutation, may_be_the_array_itself_or_a_link_onto_it)
     EXPECT_EQ(elements_of(array), (Indexes{2, 0, 5, 1}));
 }
 
-TEST(Ownership, a_link_by_range_takes_the_mode_of_what_it_views_and_a_raw_link_none)
+TEST(Ownership, of_a_link_is_the_mode_of_what_it_views_and_none_of_raw_memory)
 {
     ZEB_Object_Array *const array = [[[ZEB_Object_Array alloc] init] autorelease];
-    for (const uint32_t mode : {ZEB_OWNERSHIP_ADOPTS, ZEB_OWNERSHIP_RETAINS, ZEB_OWNERSHIP_BORROWS}) {
+    const ZEB_Index_Range first{0, 0};
+    for (const uint32_t mode : {ZEB_OWNERSHIP_BORROWS, ZEB_OWNERSHIP_ADOPTS, ZEB_OWNERSHIP_RETAINS}) {
         [array set_ownership_mode:mode];
         ZEB_Object_Array *const link =
-            [[[ZEB_Object_Array alloc] init_as_link_to_object_vector:array
-                                                               range:ZEB_Index_Range{0, 0}] autorelease];
+            [[[ZEB_Object_Array alloc] init_as_link_to_object_vector:array range:first] autorelease];
         EXPECT_EQ([link ownership_mode], mode);
         [link relink_to_objects:nullptr count:0];
-        EXPECT_EQ([link ownership_mode], uint32_t{ZEB_OWNERSHIP_BORROWS});
-        [link relink_to_vector:array range:ZEB_Index_Range{0, 0}];
+        EXPECT_EQ([link ownership_mode], static_cast<uint32_t>(ZEB_OWNERSHIP_BORROWS));
+        [link relink_to_vector:array range:first];
         EXPECT_EQ([link ownership_mode], mode);
+        // What has no mode gives none.
+        [array copy_settings_from:support::indexes_of({1, 2})];
+        EXPECT_EQ([array ownership_mode], mode);
     }
-    [array set_ownership_mode:ZEB_OWNERSHIP_RETAINS];
-    [array copy_settings_from:support::indexes_of({1, 2})];
-    EXPECT_EQ([array ownership_mode], uint32_t{ZEB_OWNERSHIP_RETAINS});
 }
 
 TEST(Capacity, reaches_to_the_last_of_32_bits)

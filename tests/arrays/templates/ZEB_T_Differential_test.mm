@@ -165,9 +165,10 @@ public:
     void operator()(Places places, Needs needs, const Row &row)
     {
         SCOPED_TRACE(row.text);
+        selector = selector_of(row.text);
         for (const Place place : places)
             for (const uint32_t mode : {ZEB_OWNERSHIP_RETAINS, ZEB_OWNERSHIP_BORROWS, ZEB_OWNERSHIP_ADOPTS})
-                for (int turn = 0; turn < 40 && (counts_references || mode == ZEB_OWNERSHIP_RETAINS);
+                for (int turn = 0; turn < ZEB_TURNS && (counts_references || mode == ZEB_OWNERSHIP_RETAINS);
                      ++turn) {
                     const Input in = inputs.draw(needs, turn % 4 == 0);
                     hold_once(row, in, place, mode, -1);
@@ -212,7 +213,7 @@ private:
         }
         const char *const named = ours.array == nil ? "ZEB_T_Vector" : "ZEB_T_Array";
         for (const char *const note : plain.notes)
-            lines += support::fix_line(selector_of(row.text), named, note);
+            lines += support::fix_line(selector, named, note);
         EXPECT_EQ([ours.array capacity], ours.array == nil ? 0 : held->capacity);
         expect_same_elements(ours, *held);
         if (counts_references)
@@ -269,7 +270,7 @@ private:
 
     Inputs inputs{facts()};
     const char *failure;
-    std::string lines;
+    std::string selector, lines;
     support::Captured_Output captured{stderr};
 };
 

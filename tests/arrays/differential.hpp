@@ -1,4 +1,4 @@
-/// What holds every family's algorithms against their plainest forms: inputs of samples told by their
+/// What holds every family's operations against their plainest forms: inputs of samples told by their
 /// numbers, a caller's comparison that keeps what it was asked, and the plain side of each operation.
 #pragma once
 
@@ -15,12 +15,6 @@ namespace differential
 
 using Numbers = std::vector<uint32_t>;
 
-/// What a comparison was asked: two positions among the elements, -1 for a key from elsewhere.
-struct Question {
-    int64_t key, element;
-    bool operator==(const Question &) const = default;
-};
-
 template <class Element>
 int64_t position_of(const Element *element, const Element *first, size_t count)
 {
@@ -33,11 +27,12 @@ int64_t position_of(const Element *element, const Element *first, size_t count)
 struct Comparison {
     enum Manner { honest, random, unknown_at_times } manner;
     uint32_t seed;
-    std::vector<Question> asked = {};
+    /// Two positions among the elements, -1 for a key from elsewhere.
+    std::vector<std::pair<int64_t, int64_t>> asked = {};
 
-    ZEB_Comparison answer(Question question, ZEB_Comparison truth)
+    ZEB_Comparison answer(int64_t key, int64_t element, ZEB_Comparison truth)
     {
-        asked.push_back(question);
+        asked.emplace_back(key, element);
         const uint32_t noise = (seed + static_cast<uint32_t>(asked.size())) * 2654435761u >> 11;
         if (manner == random)
             return noise % 5;
@@ -50,24 +45,17 @@ struct Samples {
     uint32_t count;
     std::function<bool(uint32_t, uint32_t)> equal, precedes;
     uint32_t nothing; ///< the one that an empty vector answers; ZEB_NOT_FOUND when none is that
-
-    ZEB_Comparison compare(uint32_t key, uint32_t element) const
-    {
-        if (precedes(key, element))
-            return ZEB_COMPARED_LESS;
-        return precedes(element, key) ? ZEB_COMPARED_GREATER : ZEB_COMPARED_EQUAL;
-    }
 };
 
 /// What an operation is given; `from` and `to` serve as a range, as two indexes, and as rows and columns.
 struct Input {
-    Numbers elements;
+    Numbers elements, left_behind; ///< those that were there before the count was made smaller
     uint32_t key, other;
     uint32_t from, to;
     Numbers run, replacement;
-    uint32_t own_from, own_to; ///< a part of the elements
-    bool key_is_own;           ///< the key is the element at `own_from` itself
-    uint32_t seed, room, dropped;
+    uint32_t own_from, own_to; ///< a part of the block
+    uint32_t key_at;           ///< the key is this element itself, if there is one
+    uint32_t seed, room;
     Numbers indexes;
     bool inserts;
     Comparison comparison;
@@ -82,95 +70,94 @@ class Inputs
 public:
     explicit Inputs(const Samples &all) : samples(all) {}
 
-    Input draw(Needs needs)
+    Input draw(Needs needs, bool is_short)
     {
-        static constexpr uint32_t longest[] = {3, 8, 40, 40, 40, 250};
-        const uint32_t length = (needs == an_element) + random() % longest[random() % std::size(longest)];
-        const uint32_t alphabet = random() % 3 == 0 ? 3 : samples.count;
-        const uint32_t first = random() % (samples.count - alphabet + 1);
-        const auto sample = [&] { return first + random() % alphabet; };
+        static constexpr uint32_t longest[] = {3, 8, 40, 40, 250};
+        const uint32_t length = (needs == an_element) + below(longest[below(is_short ? 2 : 5)]);
+        alphabet = below(3) == 0 ? 3 : samples.count;
+        first = below(samples.count - alphabet + 1);
         Input in{};
-        in.elements = numbers(length, sample);
-        if (needs == order && random() % 4 != 0)
-            reference::sort(in.elements, nullptr, [&](const uint32_t *later, const uint32_t *earlier) {
+        in.elements = numbers(length);
+        if (needs == order && below(4) != 0)
+            reference::sort(in.elements, nullptr, [this](const uint32_t *later, const uint32_t *earlier) {
                 return samples.precedes(*later, *earlier);
             });
-        in.own_from = length == 0 ? 0 : random() % length;
-        in.own_to = in.own_from + (length == 0 ? 0 : random() % (length - in.own_from + 1));
-        in.key_is_own = length != 0 && random() % 2 == 0;
-        in.key = in.key_is_own ? in.elements[in.own_from] : sample();
+        in.left_behind = numbers(below(3) == 0 ? below(9) : 0);
+        in.own_from = below(length + 1 + in.left_behind.size());
+        in.own_to = in.own_from + below(length + 1);
+        in.key_at = below(2 * length + 1);
+        in.key = in.key_at < length ? in.elements[in.key_at] : sample();
         in.other = sample();
-        in.from = random() % (length + (needs == an_element ? 0 : 2));
-        in.to = random() % 8 == 0 ? UINT32_MAX : random() % (length + 2);
+        in.from = below(length + (needs == an_element ? 0 : 2));
+        in.to = below(8) == 0 ? UINT32_MAX : below(length + 2);
         if (needs == a_shape)
-            draw_shape(in);
-        draw_indexes(in, needs == a_permutation);
-        draw_run(in, needs == a_likeness, sample);
-        in.replacement = numbers(random() % 5, sample);
-        in.inserts = random() % 4 != 0;
-        in.seed = random() % 3 == 0 ? random() % 20 : 16;
-        in.room = random() % 3 == 0 ? random() % 70 : 0;
-        in.dropped = random() % 3 == 0 ? random() % 9 : 0;
-        in.comparison = {static_cast<Comparison::Manner>(random() % 3), static_cast<uint32_t>(random())};
+            draw_shape(in, length);
+        in.indexes = indexes(length, needs == a_permutation);
+        in.run = run(in.elements, needs == a_likeness);
+        in.replacement = numbers(below(5));
+        in.inserts = below(4) != 0;
+        in.seed = below(3) == 0 ? below(20) : 16;
+        in.room = below(3) == 0 ? below(70) : 0;
+        in.comparison = {static_cast<Comparison::Manner>(below(3)), below(UINT32_MAX)};
         return in;
     }
 
 private:
-    template <class Sample>
-    static Numbers numbers(size_t length, Sample sample)
+    uint32_t below(size_t end) { return static_cast<uint32_t>(random() % end); }
+    uint32_t sample() { return first + below(alphabet); }
+
+    Numbers numbers(size_t length)
     {
         Numbers made(length);
-        std::generate(made.begin(), made.end(), sample);
+        std::generate(made.begin(), made.end(), [this] { return sample(); });
         return made;
     }
 
     /// Rows and columns; some whose product is the count only where it is cut to 32 bits.
-    void draw_shape(Input &in)
+    void draw_shape(Input &in, uint32_t length)
     {
-        const auto length = static_cast<uint32_t>(in.elements.size());
-        const bool overflows = length % 2 == 0 && random() % 4 == 0;
-        in.from = overflows ? 2 : 1 + random() % 9;
+        const bool overflows = length % 2 == 0 && below(4) == 0;
+        in.from = overflows ? 2 : 1 + below(9);
         in.to = (overflows ? 1u << 31 : 0) + length / in.from;
     }
 
-    void draw_indexes(Input &in, bool permutes)
+    /// Marks of the elements, or too few; or a permutation, now and then with an index outside. Entries past
+    /// the count are not read.
+    Numbers indexes(uint32_t length, bool permutes)
     {
-        const auto length = static_cast<uint32_t>(in.elements.size());
-        if (!permutes) {
-            in.indexes.resize(length + random() % 3);
-            return std::iota(in.indexes.begin(), in.indexes.end(), 0);
-        }
-        in.indexes = numbers(random() % (length + 5), [&] { return random() % std::max(length, 1u); });
-        // Entries past the count are not read.
-        for (size_t i = length; i < in.indexes.size(); ++i)
-            in.indexes[i] = UINT32_MAX;
-        if (!in.indexes.empty() && random() % 6 == 0)
-            in.indexes[random() % in.indexes.size()] = length + random() % 2 * 1000;
+        Numbers made(permutes || below(8) == 0 ? below(length + 5) : length + below(3));
+        std::iota(made.begin(), made.end(), 0);
+        for (uint32_t &index : made)
+            if (permutes)
+                index = index < length ? below(length) : UINT32_MAX;
+        if (permutes && !made.empty() && below(6) == 0)
+            made[below(made.size())] = length + below(2) * 1000;
+        return made;
     }
 
     /// A part of the elements, or all of them; now and then with another element or one more.
-    template <class Sample>
-    void draw_run(Input &in, bool whole, Sample sample)
+    Numbers run(const Numbers &elements, bool whole)
     {
-        const size_t length = in.elements.size();
-        const size_t start = whole || length == 0 ? 0 : random() % length;
-        const size_t end = whole ? length : std::min<size_t>(start + random() % 5, length);
-        in.run.assign(in.elements.begin() + static_cast<std::ptrdiff_t>(start),
-                      in.elements.begin() + static_cast<std::ptrdiff_t>(end));
-        if (!in.run.empty() && random() % 4 == 0)
-            in.run[random() % in.run.size()] = sample();
-        if (random() % 8 == 0)
-            in.run.push_back(sample());
+        const size_t start = whole ? 0 : below(elements.size() + 1);
+        const size_t end = whole ? elements.size() : std::min<size_t>(start + below(5), elements.size());
+        Numbers made(elements.data() + start, elements.data() + end);
+        if (!made.empty() && below(4) == 0)
+            made[below(made.size())] = sample();
+        if (below(8) == 0)
+            made.push_back(sample());
+        return made;
     }
 
     const Samples &samples;
     std::mt19937 random{20150930};
+    uint32_t alphabet = 0, first = 0;
 };
 
 /// The plain side: elements, of which those past the count are what is left behind of removed ones.
 struct Plain {
     const Samples &samples;
     const Input &in;
+    const Numbers own; ///< what the part of the block holds
     bool is_link;
     uint32_t capacity;
     bool has_plain_elements;
@@ -178,61 +165,70 @@ struct Plain {
     uint32_t count = static_cast<uint32_t>(all.size());
     Numbers indexes = in.indexes;
     Comparison comparison = in.comparison;
-    uint32_t reports = 0;
-    bool stores = false;    ///< what was given has gone in
-    uint32_t known = count; ///< elements past these are undefined
+    std::vector<const char *> notes = {}; ///< what is reported
+    bool stores = false;                  ///< what was given has gone in
+    uint32_t known = count;               ///< elements past these are undefined
 
-    auto own()
+    ZEB_Comparison compare(uint32_t key, uint32_t element) const
     {
-        return
-            [this](const uint32_t *key, const uint32_t *element) { return samples.compare(*key, *element); };
+        return reference::compare(key, element, samples.precedes);
     }
-    auto asked()
+
+    /// The own order, and the caller's comparison.
+    auto by_order()
+    {
+        return [this](const uint32_t *key, const uint32_t *element) { return compare(*key, *element); };
+    }
+    auto as_told()
     {
         return [this](const uint32_t *key, const uint32_t *element) {
-            return comparison.answer(
-                {position_of(key, all.data(), count), position_of(element, all.data(), count)},
-                samples.compare(*key, *element));
-        };
-    }
-    template <class Compare>
-    static auto precedes(Compare compare)
-    {
-        return [compare](const uint32_t *later, const uint32_t *earlier) {
-            return compare(later, earlier) == ZEB_COMPARED_LESS;
+            return comparison.answer(position_of(key, all.data(), count),
+                                     position_of(element, all.data(), count), compare(*key, *element));
         };
     }
 
-    uint32_t told(reference::Ordered found)
+    bool reports_if(bool happens, const char *note)
     {
-        reports += found.warned;
-        return found.index;
+        if (happens)
+            notes.push_back(note);
+        return happens;
     }
 
     template <class Compare>
-    uint32_t insert(Compare compare)
+    uint32_t find(Compare compare, bool nearest = false)
     {
-        const reference::Ordered place = reference::ordered_insert(all, in.key, compare);
-        if (!place.inserts)
-            return told(place);
-        if (!in.inserts)
-            return ZEB_NOT_FOUND;
-        if (is_link)
-            return refused(ZEB_NOT_FOUND);
-        insert_one(place.index);
-        return place.index;
+        const reference::Ordered found = reference::ordered(all, in.key, compare);
+        reports_if(nearest ? found.warns : found.warns_of_equal,
+                   "Warning: Ordered find stopped on unknown comparison.");
+        return nearest ? found.nearest : found.equal;
     }
 
-    uint32_t refused(uint32_t answer)
+    template <class Compare>
+    uint32_t insert_in_order(Compare compare)
     {
-        ++reports;
-        return answer;
+        const reference::Ordered found = reference::ordered(all, in.key, compare);
+        reports_if(found.warns, "Warning: Ordered insert stopped on unknown comparison.");
+        if (!found.inserts)
+            return found.place;
+        if (!in.inserts || is_link)
+            return reports_if(in.inserts, insert_note), ZEB_NOT_FOUND;
+        insert_key(found.place, insert_note);
+        return found.place;
+    }
+
+    template <class Compare>
+    void sort(Compare compare, Numbers *moved = nullptr)
+    {
+        if (moved == nullptr || moved->size() >= count)
+            reference::sort(all, moved, [&](const uint32_t *later, const uint32_t *earlier) {
+                return compare(later, earlier) == ZEB_COMPARED_LESS;
+            });
     }
 
     uint32_t replace_occurrences()
     {
-        if (is_link)
-            return refused(0);
+        if (reports_if(is_link, "Can not replace occurences through a link"))
+            return 0;
         const uint32_t replaced = reference::replace_occurrences(all, in.run, in.replacement, samples.equal);
         if (replaced != 0 && in.replacement.size() > in.run.size()) {
             capacity = has_plain_elements ? 0 : capacity; // plain elements get a new block
@@ -242,13 +238,10 @@ struct Plain {
         return replaced;
     }
 
-    uint32_t least() const
+    uint64_t extremes() const
     {
-        return count == 0 ? samples.nothing : reference::minimum(all, samples.precedes);
-    }
-    uint32_t greatest() const
-    {
-        return count == 0 ? samples.nothing : reference::maximum(all, samples.precedes);
+        const uint64_t low = reference::minimum(all, samples.precedes, samples.nothing);
+        return low << 32 | reference::maximum(all, samples.precedes, samples.nothing);
     }
 
     void fill(uint32_t first, uint32_t last)
@@ -264,12 +257,7 @@ struct Plain {
         return replaced;
     }
 
-    uint32_t key()
-    {
-        stores = true;
-        return in.key;
-    }
-    Numbers own_run() const { return {all.begin() + in.own_from, all.begin() + in.own_to}; }
+    uint32_t key() { return stores = true, in.key; }
 
     void settle() { known = count = static_cast<uint32_t>(all.size()); }
 
@@ -282,85 +270,71 @@ struct Plain {
             capacity *= 2;
     }
 
-    /// A single element grows by one step only.
-    void insert_one(uint32_t at)
+    /// Puts others in the place of elements, for which there has to be more room than needed.
+    void exchange(uint32_t at, uint32_t gone, const Numbers &others, size_t needed)
     {
-        if (capacity <= count)
-            capacity = capacity < std::max(in.seed, 1u) ? std::max(in.seed, 1u) : 2 * capacity;
-        all.insert(all.begin() + std::min(at, count), key());
+        if (!others.empty())
+            make_room(needed);
+        const auto place = all.begin() + std::min(at, count);
+        all.insert(all.erase(place, place + gone), others.begin(), others.end());
+        stores = true;
         settle();
     }
 
-    void insert(uint32_t at, const Numbers &others)
+    void insert_key(uint32_t at, const char *note)
     {
-        if (is_link) {
-            ++reports;
-        } else if (!others.empty()) {
-            make_room(all.size() + others.size());
-            all.insert(all.begin() + std::min(at, count), others.begin(), others.end());
-            stores = true;
-            settle();
-        }
+        if (!reports_if(is_link, note))
+            exchange(at, 0, {in.key}, count);
+    }
+
+    void insert(uint32_t at, const Numbers &others,
+                const char *note = "Cannot insert array through link, no insertion made.")
+    {
+        if (!reports_if(is_link, note))
+            exchange(at, 0, others, count + others.size());
     }
 
     void append(const Numbers &others)
     {
         if (!others.empty())
-            insert(count, others);
+            insert(count, others, "Cannot append array through link, no append made.");
     }
 
     void replace_element(const Numbers &others)
     {
-        if (is_link) {
-            ++reports;
-        } else if (in.from < count) {
-            if (!others.empty())
-                make_room(count + others.size() - 1);
-            all.erase(all.begin() + in.from);
-            all.insert(all.begin() + in.from, others.begin(), others.end());
-            stores = true;
-            settle();
-        }
+        if (!reports_if(is_link, "Cannot replace element with array through link, no replacement made.") &&
+            in.from < count)
+            exchange(in.from, 1, others, count + others.size() - 1);
     }
 
-    void become(const Numbers &others)
+    void take_over(const Numbers &others, bool exactly)
     {
-        if (is_link)
-            capacity = 0;
+        capacity = is_link ? 0 : capacity;
         is_link = false;
         stores = true;
         all = others;
         settle();
-    }
-
-    void assign(const Numbers &others)
-    {
-        become(others);
-        make_room(count);
-    }
-
-    void copy(const Numbers &others)
-    {
-        become(others);
-        capacity = std::max(count, in.room);
+        exactly ? void(capacity = std::max(count, in.room)) : make_room(count);
     }
 
     /// A changed count; elements that are gained are undefined.
-    void resize(uint64_t length)
+    void resize(uint32_t length, const char *note)
     {
-        if (is_link)
-            return void(++reports);
-        make_room(length);
-        count = static_cast<uint32_t>(length);
-        known = std::min(known, count);
+        reserve(length, note);
+        if (!is_link)
+            known = std::min(known, count = length);
     }
 
-    void make_room_unless_link(uint64_t needed) { is_link ? void(++reports) : make_room(needed); }
+    void reserve(uint64_t needed, const char *note)
+    {
+        if (!reports_if(is_link, note))
+            make_room(needed);
+    }
 
     void trim()
     {
-        if (is_link)
-            return void(++reports);
+        if (reports_if(is_link, "Cannot trim allocation through link, no adjustment made."))
+            return;
         uint32_t proper = std::max(in.seed, 1u);
         while (proper < count)
             proper *= 2;
@@ -369,33 +343,32 @@ struct Plain {
 
     void change_range(bool replaces)
     {
-        if (in.to < in.from) {
-            ++reports;
-        } else if (in.from < count) {
-            if (replaces)
-                all[in.from] = key();
-            close_gap(in.from + replaces, std::min(in.to, count - 1) + 1);
-        }
+        if (reports_if(in.to < in.from, "End index is less than start index in removal.") || in.from >= count)
+            return;
+        if (replaces)
+            all[in.from] = key();
+        close_gap(in.from + replaces, std::min(in.to, count - 1) + 1);
     }
 
     void close_gap(uint32_t start, uint32_t end)
     {
-        for (uint32_t i = end; i < count; ++i)
-            all[start + i - end] = all[i];
+        std::copy(all.begin() + end, all.begin() + count, all.begin() + start);
         known = count -= end - start;
     }
 
-    /// Whether the indexes can be applied; one outside is reported.
-    bool may_permute()
+    void permute(bool inverse)
     {
-        const bool outside =
-            std::any_of(indexes.begin(), indexes.begin() + std::min<size_t>(count, indexes.size()),
-                        [&](uint32_t index) { return index >= count; });
-        reports += outside;
-        return !outside;
+        const size_t used = std::min<size_t>(count, indexes.size());
+        const bool outside = std::any_of(indexes.begin(), indexes.begin() + used,
+                                         [this](uint32_t index) { return index >= count; });
+        if (!reports_if(outside, "Permutation names an element outside the array, no change made."))
+            reference::permute(all, indexes, inverse);
     }
 
     bool both_inside() const { return in.from < count && in.to < count; }
+
+    static constexpr auto insert_note = "Cannot insert element through link, no insertion made.",
+                          room_note = "Cannot update capacity through link, no adjustment made.";
 };
 
 } // namespace differential

@@ -1,18 +1,14 @@
-/// Seeded element runs for the differential tests of the vector algorithms.
+/// Inputs for the kernels: elements of every type at random, and room for them between walls.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#if ZEB_HAS_HIGHWAY
-#include <hwy/highway.h>
-#endif
-
-#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 #include <random>
 #include <span>
+#include <sys/mman.h>
 #include <type_traits>
 #include <vector>
 
@@ -20,9 +16,6 @@ namespace zeb_test
 {
 
 using Element_Types = testing::Types<uint8_t, char, int32_t, uint32_t, int64_t, float, double, void *>;
-
-/// Ways to draw elements: few values with many equals, or the whole width of the type.
-enum class Draw { Few_Values, Any_Bits };
 
 template <class Element>
 Element odd_value(std::mt19937 &random)
@@ -39,106 +32,74 @@ Element odd_value(std::mt19937 &random)
     }
 }
 
+/// One of few values, or of the whole width of the type.
 template <class Element>
-Element draw_element(std::mt19937 &random, Draw draw, bool odd)
+Element draw_element(std::mt19937 &random, bool few)
 {
-    if (odd && random() % 8 == 0)
-        return odd_value<Element>(random);
     const uint64_t bits = uint64_t{random()} << 32 | random();
-    if constexpr (std::is_pointer_v<Element>) {
-        return reinterpret_cast<Element>(
-            static_cast<uintptr_t>(draw == Draw::Any_Bits ? bits : bits % 5 * 8));
-    } else if constexpr (std::is_floating_point_v<Element>) {
-        if (draw == Draw::Any_Bits)
-            return static_cast<Element>(static_cast<int64_t>(bits)) * Element(1e-3);
-        return static_cast<Element>(static_cast<int>(bits % 5) - 2);
-    } else {
-        return static_cast<Element>(draw == Draw::Any_Bits ? bits : bits % 5 + 126);
-    }
+    if constexpr (std::is_pointer_v<Element>)
+        return reinterpret_cast<Element>(static_cast<uintptr_t>(few ? bits % 5 * 8 : bits));
+    else if constexpr (std::is_floating_point_v<Element>)
+        return few ? (bits % 2 == 0 ? -1 : 1) * static_cast<Element>(bits / 2 % 3)
+                   : static_cast<Element>(static_cast<int64_t>(bits)) * Element(1e-3);
+    else
+        return static_cast<Element>(few ? bits % 5 + 126 : bits);
 }
 
+/// Room between pages that cannot be reached. What is put there ends at one of them, begins at the other, or
+/// lies at any offset between them; the bytes around are not to be touched.
 template <class Element>
-std::vector<Element> draw_elements(std::mt19937 &random, size_t count, Draw draw, bool odd = true)
-{
-    std::vector<Element> elements(count);
-    for (Element &element : elements)
-        element = draw_element<Element>(random, draw, odd);
-    return elements;
-}
-
-/// Every length up to a few vectors, then some longer ones.
-inline std::vector<size_t> lengths()
-{
-    std::vector<size_t> all;
-    for (size_t length = 0; length <= 70; ++length)
-        all.push_back(length);
-    for (size_t length : {95, 127, 128, 129, 200, 257, 515, 1031, 4099})
-        all.push_back(length);
-    return all;
-}
-
-/// A copy of elements that starts at any offset from an aligned address, walled in by bytes that nothing
-/// may touch.
-template <class Element>
-class Walled
+class Walled_Room
 {
 public:
-    Walled(const std::vector<Element> &elements, size_t offset)
-        : room(elements.size() + offset + wall), start(offset + wall / 2), count(elements.size())
+    Walled_Room()
+        : block(static_cast<char *>(
+              mmap(nullptr, size + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0)))
     {
-        if (!room.empty())
-            std::memset(static_cast<void *>(room.data()), 0xA5, room.size() * sizeof(Element));
-        std::copy(elements.begin(), elements.end(), room.begin() + static_cast<std::ptrdiff_t>(start));
+        EXPECT_EQ(mprotect(block + page, size, PROT_READ | PROT_WRITE), 0);
+    }
+    ~Walled_Room() { munmap(block, size + 2 * page); }
+
+    Walled_Room(const Walled_Room &) = delete;
+    Walled_Room &operator=(const Walled_Room &) = delete;
+
+    std::span<Element> put(const std::vector<Element> &elements, size_t offset)
+    {
+        const size_t bytes = elements.size() * sizeof(Element), free = size - bytes;
+        before = offset % 3 == 0 ? free : offset % 3 == 1 ? 0 : offset * sizeof(Element);
+        after = free - before;
+        std::memset(first() - wall(before), 0xA5, wall(before));
+        std::memset(first() + bytes, 0xA5, wall(after));
+        if (bytes != 0)
+            std::memcpy(first(), elements.data(), bytes);
+        return {reinterpret_cast<Element *>(first()), elements.size()};
     }
 
-    std::span<Element> span() { return {room.data() + start, count}; }
-    std::vector<Element> elements() { return {span().begin(), span().end()}; }
-    bool wall_stands() const
+    bool walls_stand() const
     {
-        const auto *bytes = reinterpret_cast<const unsigned char *>(room.data());
-        for (size_t i = 0; i < room.size() * sizeof(Element); ++i)
-            if ((i < start * sizeof(Element) || i >= (start + count) * sizeof(Element)) && bytes[i] != 0xA5)
-                return false;
-        return true;
+        const std::vector<char> brick(wall(size), '\xA5');
+        return std::memcmp(first() - wall(before), brick.data(), wall(before)) == 0 &&
+               std::memcmp(block + page + size - after, brick.data(), wall(after)) == 0;
     }
+
+    /// From now on the bytes from a page on cannot be written.
+    void seal(size_t from) { EXPECT_EQ(mprotect(block + page + from, size - from, PROT_READ), 0); }
 
 private:
-    static constexpr size_t wall = 128;
-    std::vector<Element> room;
-    size_t start;
-    size_t count;
+    static constexpr size_t page = 65536, size = size_t{18} << 20;
+    static size_t wall(size_t free) { return std::min<size_t>(free, 64); }
+    char *first() const { return block + page + before; }
+
+    char *block;
+    size_t before = 0, after = 0;
 };
 
 /// True when both are the same, bit for bit.
 template <class Element>
-bool same_bits(const std::vector<Element> &left, const std::vector<Element> &right)
+bool same_bits(std::span<const Element> left, const std::vector<Element> &right)
 {
     return left.size() == right.size() &&
-           (left.empty() || std::memcmp(left.data(), right.data(), left.size() * sizeof(Element)) == 0);
-}
-
-template <class Element>
-bool same_bits(Element left, Element right)
-{
-    return std::memcmp(&left, &right, sizeof left) == 0;
-}
-
-/// Runs the test once for each vector instruction set of this machine.
-template <class Test>
-void on_each_target(Test test)
-{
-#if ZEB_HAS_HIGHWAY
-    for (const int64_t target : hwy::SupportedAndGeneratedTargets()) {
-        SCOPED_TRACE(hwy::TargetName(target));
-        hwy::SetSupportedTargetsForTest(target);
-        hwy::GetChosenTarget().Update(hwy::SupportedTargets());
-        test();
-    }
-    hwy::SetSupportedTargetsForTest(0);
-    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
-#else
-    test();
-#endif
+           (left.empty() || std::memcmp(left.data(), right.data(), left.size_bytes()) == 0);
 }
 
 } // namespace zeb_test

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace reference
@@ -29,15 +30,13 @@ struct Less {
     }
 };
 
-/// How the families order their elements where no function is given.
-template <class Element>
-ZEB_Comparison own_comparison(const Element *key, const Element *element)
+/// How a key compares to an element.
+template <class Element, class Order = Less>
+ZEB_Comparison compare(const Element &key, const Element &element, Order less = {})
 {
-    if (*element > *key)
-        return 2;
-    if (*key > *element)
-        return 3;
-    return 1;
+    if (less(key, element))
+        return ZEB_COMPARED_LESS;
+    return less(element, key) ? ZEB_COMPARED_GREATER : ZEB_COMPARED_EQUAL;
 }
 
 template <class Element, class Equality = Equal>
@@ -56,94 +55,67 @@ uint32_t last_index_of(const Vector<Element> &elements, Element value, Equality 
     return found == ZEB_NOT_FOUND ? found : static_cast<uint32_t>(elements.size()) - 1 - found;
 }
 
-/// The last start is none: an occurrence at the very end is not found.
 template <class Element, class Equality = Equal>
-uint32_t first_index_of_subsequence(const Vector<Element> &elements, const Vector<Element> &pattern,
-                                    Equality equal = {})
+uint32_t find_occurrence(const Vector<Element> &elements, const Vector<Element> &pattern, Equality equal = {})
 {
-    if (pattern.empty() || pattern.size() > elements.size())
-        return ZEB_NOT_FOUND;
-    const auto found =
-        std::search(elements.begin(), elements.end() - 1, pattern.begin(), pattern.end(), equal);
-    return found == elements.end() - 1 ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - elements.begin());
+    const auto found = std::search(elements.begin(), elements.end(), pattern.begin(), pattern.end(), equal);
+    return pattern.empty() || found == elements.end() ? ZEB_NOT_FOUND
+                                                      : static_cast<uint32_t>(found - elements.begin());
 }
 
-/// What an ordered search answers, whether it warned, and whether it would insert at the index.
-struct Ordered {
-    uint32_t index = ZEB_NOT_FOUND;
-    bool warned = false;
-    bool inserts = false;
-};
+/// The last start is none: an occurrence at the very end is not found.
+template <class Element, class Equality = Equal>
+uint32_t first_index_of_subsequence(Vector<Element> elements, const Vector<Element> &pattern,
+                                    Equality equal = {})
+{
+    if (!elements.empty())
+        elements.pop_back();
+    return find_occurrence(elements, pattern, equal);
+}
 
-/// Where a search ended: the last probe, the bounds that were left, and the last answer.
-struct Search_End {
-    uint32_t probe, low, high;
-    ZEB_Comparison compared;
+/// What the ordered operations answer: the element equal to a key, the one nearest to it, and the place where
+/// it belongs, which is that of an element unless the key is to be inserted.
+struct Ordered {
+    uint32_t equal = ZEB_NOT_FOUND, nearest = ZEB_NOT_FOUND, place = 0;
+    bool inserts = true;
+    bool warns = false, warns_of_equal = false; ///< of a comparison that means nothing
 };
 
 /// Probes until an answer is neither less nor greater, or the bounds meet.
 template <class Element, class Compare>
-Search_End search(const Vector<Element> &elements, Element key, Compare compare)
+Ordered ordered(const Vector<Element> &elements, Element key, Compare compare)
 {
-    const auto count = static_cast<uint32_t>(elements.size());
-    Search_End end{count / 2, 0, count - 1, 0};
-    for (;; end.probe = end.low + (end.high - end.low + 1) / 2) {
-        end.compared = compare(&key, &elements[end.probe]);
-        if (end.compared == ZEB_COMPARED_GREATER && end.probe != end.high)
-            end.low = end.probe + 1;
-        else if (end.compared == ZEB_COMPARED_LESS && end.probe != end.low)
-            end.high = end.probe - 1;
+    if (elements.empty())
+        return {};
+    uint32_t low = 0, high = static_cast<uint32_t>(elements.size()) - 1;
+    for (;;) {
+        const uint32_t probe = low + (high - low + 1) / 2;
+        const ZEB_Comparison answer = compare(&key, &elements[probe]);
+        if (answer == ZEB_COMPARED_GREATER && probe != high)
+            low = probe + 1;
+        else if (answer == ZEB_COMPARED_LESS && probe != low)
+            high = probe - 1;
+        else if (answer == ZEB_COMPARED_GREATER || answer == ZEB_COMPARED_LESS)
+            return {ZEB_NOT_FOUND, probe, answer == ZEB_COMPARED_LESS ? low : high + 1};
+        // A lone element has to be equal; of several, any that ends the search is the answer.
+        else if (elements.size() == 1 && answer != ZEB_COMPARED_EQUAL)
+            return {ZEB_NOT_FOUND, probe, probe, false, true, answer == 0};
         else
-            return end;
+            return {probe, probe, probe, false};
     }
 }
 
-template <class Element, class Compare>
-Ordered ordered_find(const Vector<Element> &elements, Element key, Compare compare)
+/// `nothing` is what no element answers.
+template <class Element, class Order = Less>
+Element minimum(const Vector<Element> &elements, Order less = {}, Element nothing = {})
 {
-    if (elements.empty())
-        return {};
-    const Search_End end = search(elements, key, compare);
-    if (end.compared == ZEB_COMPARED_GREATER || end.compared == ZEB_COMPARED_LESS)
-        return {};
-    // A lone element has to be equal; of several, any that ends the search is the answer.
-    if (elements.size() == 1 && end.compared != ZEB_COMPARED_EQUAL)
-        return {ZEB_NOT_FOUND, end.compared == 0, false};
-    return {end.probe, false, false};
-}
-
-template <class Element, class Compare>
-Ordered ordered_find_nearest(const Vector<Element> &elements, Element key, Compare compare)
-{
-    if (elements.empty())
-        return {};
-    const Search_End end = search(elements, key, compare);
-    return {end.probe, elements.size() == 1 && (end.compared < 1 || end.compared > 3), false};
-}
-
-template <class Element, class Compare>
-Ordered ordered_insert(const Vector<Element> &elements, Element key, Compare compare)
-{
-    if (elements.empty())
-        return {0, false, true};
-    const Search_End end = search(elements, key, compare);
-    if (end.compared == ZEB_COMPARED_GREATER)
-        return {end.high + 1, false, true};
-    if (end.compared == ZEB_COMPARED_LESS)
-        return {end.low, false, true};
-    return {end.probe, elements.size() == 1 && end.compared != ZEB_COMPARED_EQUAL, false};
+    return elements.empty() ? nothing : *std::min_element(elements.begin(), elements.end(), less);
 }
 
 template <class Element, class Order = Less>
-Element minimum(const Vector<Element> &elements, Order less = {})
+Element maximum(const Vector<Element> &elements, Order less = {}, Element nothing = {})
 {
-    return elements.empty() ? Element{} : *std::min_element(elements.begin(), elements.end(), less);
-}
-
-template <class Element, class Order = Less>
-Element maximum(const Vector<Element> &elements, Order less = {})
-{
-    return elements.empty() ? Element{} : *std::max_element(elements.begin(), elements.end(), less);
+    return elements.empty() ? nothing : *std::max_element(elements.begin(), elements.end(), less);
 }
 
 template <class Element, class Equality = Equal>
@@ -180,20 +152,13 @@ uint32_t replace_occurrences(Vector<Element> &elements, const Vector<Element> &p
     return replaced;
 }
 
-template <class Element>
-void swap(Vector<Element> &elements, uint32_t i, uint32_t j)
-{
-    std::swap(elements[i], elements[j]);
-}
-
+/// Of an even count the middle two are swapped twice.
 template <class Element>
 void reverse(Vector<Element> &elements)
 {
-    const uint32_t count = static_cast<uint32_t>(elements.size());
-    if (count < 2)
-        return;
-    for (uint32_t front = 0, back = count - 1; front <= count / 2; ++front, --back)
-        swap(elements, front, back);
+    const size_t count = elements.size();
+    for (size_t front = 0; count > 1 && front <= count / 2; ++front)
+        std::swap(elements[front], elements[count - 1 - front]);
 }
 
 template <class Element>
@@ -205,19 +170,11 @@ void move(Vector<Element> &elements, uint32_t from, uint32_t to)
 }
 
 template <class Element>
-void apply_permutation(Vector<Element> &elements, const Vector<uint32_t> &permutation)
+void permute(Vector<Element> &elements, const Vector<uint32_t> &permutation, bool inverse)
 {
     const Vector<Element> copy = elements;
     for (uint32_t i = 0; i < elements.size() && i < permutation.size(); ++i)
-        elements[i] = copy[permutation[i]];
-}
-
-template <class Element>
-void apply_inverse_permutation(Vector<Element> &elements, const Vector<uint32_t> &permutation)
-{
-    const Vector<Element> copy = elements;
-    for (uint32_t i = 0; i < elements.size() && i < permutation.size(); ++i)
-        elements[permutation[i]] = copy[i];
+        elements[inverse ? permutation[i] : i] = copy[inverse ? i : permutation[i]];
 }
 
 template <class Element>
@@ -225,11 +182,9 @@ void transpose(Vector<Element> &elements, uint64_t rows, uint64_t columns)
 {
     if (rows < 2 || columns < 2 || rows * columns != elements.size())
         return;
-    Vector<Element> result;
-    for (uint64_t column = 0; column < columns; ++column)
-        for (uint64_t i = column; i < elements.size(); i += columns)
-            result.push_back(elements[i]);
-    elements = result;
+    const Vector<Element> copy = elements;
+    for (uint64_t i = 0; i < copy.size(); ++i)
+        elements[i % columns * rows + i / columns] = copy[i];
 }
 
 /// Sorts, every swap applied to the permutation too when there is one. `precedes` is asked with pointers
@@ -237,29 +192,19 @@ void transpose(Vector<Element> &elements, uint64_t rows, uint64_t columns)
 template <class Element, class Precedes>
 void sort(Vector<Element> &elements, Vector<uint32_t> *permutation, Precedes precedes)
 {
-    const int64_t count = static_cast<int64_t>(elements.size());
-    if (count < 2)
-        return;
-    int64_t gap = 1;
+    const size_t count = elements.size();
+    size_t gap = 1;
     while (3 * gap < count)
         gap = 3 * gap + 1;
     for (; gap >= 1; gap /= 3) {
-        for (int64_t i = gap; i < count; ++i) {
-            for (int64_t j = i; j >= gap; j -= gap) {
-                if (!precedes(&elements[static_cast<size_t>(j)], &elements[static_cast<size_t>(j - gap)]))
-                    break;
-                swap(elements, static_cast<uint32_t>(j), static_cast<uint32_t>(j - gap));
+        for (size_t i = gap; i < count; ++i) {
+            for (size_t j = i; j >= gap && precedes(&elements[j], &elements[j - gap]); j -= gap) {
+                std::swap(elements[j], elements[j - gap]);
                 if (permutation != nullptr)
-                    swap(*permutation, static_cast<uint32_t>(j), static_cast<uint32_t>(j - gap));
+                    std::swap((*permutation)[j], (*permutation)[j - gap]);
             }
         }
     }
-}
-
-template <class Element, class Equality = Equal>
-bool same_values(const Vector<Element> &left, const Vector<Element> &right, Equality equal = {})
-{
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(), equal);
 }
 
 } // namespace reference

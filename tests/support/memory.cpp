@@ -11,8 +11,7 @@ namespace zeb::engine
 
 void *reallocate(void *block, std::size_t size) noexcept
 {
-    const bool fails = memory.calls_until_failure >= 0 && memory.calls_until_failure-- == 0;
-    if (fails || memory.is_out)
+    if (memory.fails())
         return nullptr;
     void *const moved = std::realloc(block, size);
     memory.blocks += block == nullptr && moved != nullptr;

@@ -2,12 +2,15 @@
 /// 100.
 #pragma once
 
-#import <Korvane_ZEB/Korvane_ZEB.h>
+#include "tests/support/strings.hpp"
+
+#import <objc/runtime.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <span>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -15,86 +18,26 @@
 namespace support
 {
 
-template <class Number>
+template <class Element>
 struct Sample {
-    static Number at(uint32_t i) { return static_cast<Number>(i + 1); }
-};
-
-template <>
-struct Sample<void *> {
-    static void *at(uint32_t i) { return reinterpret_cast<void *>(std::uintptr_t{i} * 16 + 16); }
-};
-
-template <>
-struct Sample<id> {
-    static id at(uint32_t i) { return [NSString stringWithFormat:@"an object with the number %u", i]; }
-};
-
-template <>
-struct Sample<ZEB_String *> {
-    static ZEB_String *at(uint32_t i)
+    static Element at(uint32_t i)
     {
-        const std::string text = "text " + std::to_string(i);
-        return [[[ZEB_String alloc] init_as_copy_of_chars:text.data()
-                                                    count:static_cast<uint32_t>(text.size())] autorelease];
+        if constexpr (std::is_same_v<Element, void *>) {
+            return reinterpret_cast<void *>(std::uintptr_t{i} * 16 + 16);
+        } else if constexpr (std::is_same_v<Element, id>) {
+            return [NSString stringWithFormat:@"an object with the number %u", i];
+        } else if constexpr (std::is_same_v<Element, ZEB_String *>) {
+            return text("text " + std::to_string(i));
+        } else if constexpr (std::is_same_v<Element, ZEB_Wide_String *>) {
+            const uint32_t units[] = {0x1F600 + i, 'w', i};
+            return [[[ZEB_Wide_String alloc] init_as_copy_of_wide_chars:units count:3] autorelease];
+        } else if constexpr (std::is_same_v<Element, ZEB_Byte_Array *>) {
+            return bytes({7, static_cast<char>(i)});
+        } else {
+            return static_cast<Element>(i + 1);
+        }
     }
 };
-
-template <>
-struct Sample<ZEB_Wide_String *> {
-    static ZEB_Wide_String *at(uint32_t i)
-    {
-        const uint32_t units[] = {0x1F600 + i, 'w', i};
-        return [[[ZEB_Wide_String alloc] init_as_copy_of_wide_chars:units count:3] autorelease];
-    }
-};
-
-template <>
-struct Sample<ZEB_Byte_Array *> {
-    static ZEB_Byte_Array *at(uint32_t i)
-    {
-        const uint8_t bytes[] = {7, static_cast<uint8_t>(i)};
-        return [[[ZEB_Byte_Array alloc] init_as_copy_of_bytes:bytes count:2] autorelease];
-    }
-};
-
-template <class Element>
-bool are_same(Element left, Element right)
-{
-    return left == right;
-}
-
-inline bool are_same(id left, id right) { return left == right || [left isEqual:right]; }
-inline bool are_same(ZEB_String *left, ZEB_String *right) { return [left isEqual:right]; }
-inline bool are_same(ZEB_Wide_String *left, ZEB_Wide_String *right) { return [left isEqual:right]; }
-inline bool are_same(ZEB_Byte_Array *left, ZEB_Byte_Array *right) { return [left isEqual:right]; }
-
-/// Whether one element orders before the other in its family's own order.
-template <class Element>
-bool precedes(Element left, Element right)
-{
-    return left < right;
-}
-
-template <>
-inline bool precedes(ZEB_String *left, ZEB_String *right)
-{
-    return std::string([left char_data], [left count]) < std::string([right char_data], [right count]);
-}
-
-template <>
-inline bool precedes(ZEB_Wide_String *left, ZEB_Wide_String *right)
-{
-    return std::lexicographical_compare([left wide_char_data], [left wide_char_data] + [left count],
-                                        [right wide_char_data], [right wide_char_data] + [right count]);
-}
-
-template <>
-inline bool precedes(ZEB_Byte_Array *left, ZEB_Byte_Array *right)
-{
-    return std::lexicographical_compare([left byte_data], [left byte_data] + [left count], [right byte_data],
-                                        [right byte_data] + [right count]);
-}
 
 inline ZEB_UInt_Array *indexes_of(const std::vector<uint32_t> &numbers)
 {
@@ -108,58 +51,85 @@ constexpr bool is_object = std::is_convertible_v<Element, id> && !std::is_same_v
 template <class Element>
 constexpr bool is_held = is_object<Element> && !std::is_same_v<Element, id>;
 
+/// The contents that tell such an element.
+inline std::span<const uint8_t> contents_of(ZEB_String *string)
+{
+    return {reinterpret_cast<const uint8_t *>([string char_data]), [string count]};
+}
+inline std::span<const uint32_t> contents_of(ZEB_Wide_String *string)
+{
+    return {[string wide_char_data], [string count]};
+}
+inline std::span<const uint8_t> contents_of(ZEB_Byte_Array *bytes)
+{
+    return {[bytes byte_data], [bytes count]};
+}
+
 /// Whether two elements are the same bits, the same object, or have the same contents.
 template <class Element>
 bool are_identical(Element left, Element right)
 {
     if constexpr (is_held<Element>)
-        return are_same(left, right);
+        return std::ranges::equal(contents_of(left), contents_of(right));
     else
         return std::memcmp(&left, &right, sizeof left) == 0;
 }
 
-/// The element as it is now: objects that an array holds may be overwritten later.
+/// Whether they are equal in their family.
 template <class Element>
-Element as_it_is(Element element)
+bool are_same(Element left, Element right)
 {
     if constexpr (is_held<Element>)
-        return [element duplicate];
+        return are_identical(left, right);
     else
-        return element;
+        return left == right;
 }
 
-/// References: those to an element, one more, one less; only the family of references has any.
+/// Whether one element orders before the other in its family's own order.
 template <class Element>
-uint32_t references_to(Element)
+bool precedes(Element left, Element right)
 {
+    if constexpr (is_held<Element>)
+        return std::ranges::lexicographical_compare(contents_of(left), contents_of(right));
+    else if constexpr (std::is_same_v<Element, char>)
+        return static_cast<signed char>(left) < static_cast<signed char>(right);
+    else
+        return left < right;
+}
+
+/// How many references there are to an element; only the family of references has any.
+template <class Element>
+uint32_t references_to(Element element)
+{
+    if constexpr (std::is_same_v<Element, id>)
+        return static_cast<uint32_t>([element retainCount]);
     return 0;
 }
-inline uint32_t references_to(id object) { return static_cast<uint32_t>([object retainCount]); }
+
+/// Takes a reference more, or drops one.
 template <class Element>
-void take(Element)
+void change_references(Element element, int by)
 {
+    if constexpr (std::is_same_v<Element, id>)
+        by > 0 ? void([element retain]) : [element release];
 }
-inline void take(id object) { [object retain]; }
-template <class Element>
-void let_go(Element)
-{
-}
-inline void let_go(id object) { [object release]; }
 
 /// The mode of ownership, of a family that has one.
 template <class Array>
-void set_mode(Array *, uint32_t)
+void set_mode(Array *array, uint32_t mode)
 {
+    if constexpr (std::is_same_v<Array, ZEB_Object_Array>)
+        [array set_ownership_mode:mode];
 }
-inline void set_mode(ZEB_Object_Array *array, uint32_t mode) { [array set_ownership_mode:mode]; }
 
-/// Keeps elements that are objects alive for good.
+/// Lets the class of an element that is an object be made by another function.
 template <class Element>
-void keep(const std::vector<Element> &elements)
+void replace_alloc(Element element, id (*alloc)(Class, SEL))
 {
-    if constexpr (is_object<Element>)
-        for (const Element element : elements)
-            [element retain];
+    // Added once; where a compiler binds `alloc` itself it is not met.
+    if constexpr (is_held<Element>)
+        class_addMethod(object_getClass([element class]), @selector(alloc), reinterpret_cast<IMP>(alloc),
+                        "@@:");
 }
 
 /// Elements that are odd among those of their type.
@@ -178,16 +148,16 @@ std::vector<Element> odd_samples()
         return {Element()};
 }
 
-/// The first ten samples and the odd ones, kept alive.
+/// The first ten samples and the odd ones, alive for good.
 template <class Element>
 std::vector<Element> all_samples()
 {
-    std::vector<Element> all;
-    for (uint32_t i = 0; i < 10; ++i)
-        all.push_back(Sample<Element>::at(i));
-    const std::vector<Element> odd = odd_samples<Element>();
-    all.insert(all.end(), odd.begin(), odd.end());
-    keep(all);
+    std::vector<Element> all = odd_samples<Element>();
+    for (uint32_t i = 10; i-- > 0;)
+        all.insert(all.begin(), Sample<Element>::at(i));
+    if constexpr (is_object<Element>)
+        for (const Element element : all)
+            [element retain];
     return all;
 }
 

@@ -16,10 +16,7 @@
 #include "tests/reference/vector_algorithms.hpp"
 #include "tests/support/memory.hpp"
 #include "tests/support/operation.hpp"
-
-#if ZEB_HAS_HIGHWAY
-#include <hwy/highway.h>
-#endif
+#include "tests/support/vector_targets.hpp"
 
 using namespace zeb_test;
 
@@ -117,24 +114,6 @@ const Rows<E> give_and_change = {
         reference::replace_equal(p.all, p.in.value, p.in.other)),
     ROW(engine::sort(o.all), p.sort(nullptr)),
     ROW((void)engine::sort_with_permutation(o.all, o.marks), p.sort(&p.marks))};
-
-/// Runs the test once for each vector instruction set of this machine.
-template <class Test>
-void on_each_target(Test test)
-{
-#if ZEB_HAS_HIGHWAY
-    for (const int64_t target : hwy::SupportedAndGeneratedTargets()) {
-        SCOPED_TRACE(hwy::TargetName(target));
-        hwy::SetSupportedTargetsForTest(target);
-        hwy::GetChosenTarget().Update(hwy::SupportedTargets());
-        test();
-    }
-    hwy::SetSupportedTargetsForTest(0);
-    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
-#else
-    test();
-#endif
-}
 
 } // namespace
 

@@ -2,11 +2,13 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 #import <Korvane_ZEB/ZEB_String_Views.hpp>
 
-#include "tests/arrays/random_elements.hpp"
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
 #include "tests/support/sanitizer.hpp"
 #include "tests/support/strings.hpp"
+#include "tests/support/vector_targets.hpp"
+
+#include <random>
 
 using namespace support;
 using zeb::view;

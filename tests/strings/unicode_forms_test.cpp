@@ -1,10 +1,12 @@
 #include "strings/engine/utf.hpp"
 
 #include "core/engine/namespace.hpp"
-#include "tests/arrays/random_elements.hpp"
 #include "tests/support/sanitizer.hpp"
+#include "tests/support/vector_targets.hpp"
 
 #include <gtest/gtest.h>
+
+#include <random>
 
 using namespace zeb_test;
 

@@ -117,7 +117,7 @@ HWY_INLINE bool holds(D d, const Lane *lanes, hn::Vec<D> values)
     return !hn::AllFalse(d, found);
 }
 
-/// Repositions in one block, by stores that do not touch the lanes outside their mask.
+/// Replaces in one block, by stores that do not touch the lanes outside their mask.
 template <class D, class Lane>
 HWY_INLINE std::size_t replace_under_mask(D d, Lane *lanes, hn::Vec<D> values, Lane replacement)
 {
@@ -131,7 +131,7 @@ HWY_INLINE std::size_t replace_under_mask(D d, Lane *lanes, hn::Vec<D> values, L
     return replaced;
 }
 
-/// Repositions in one block, by first listing the matching positions. Appends `stride` entries per step and
+/// Replaces in one block, by first listing the matching positions. Appends `stride` entries per step and
 /// keeps the matching ones; a branch per match would be mispredicted.
 template <class D, class Lane>
 HWY_INLINE std::size_t replace_by_list(D d, Lane *lanes, hn::Vec<D> values, Lane replacement)

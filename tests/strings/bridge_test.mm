@@ -161,9 +161,13 @@ TEST_F(Bridge, forms_are_taken_from_well_formed_text_alone)
 TEST_F(Bridge, what_is_no_character_has_no_utf8_and_stays_as_it_is)
 {
     for (const uint32_t none : {0xD800u, 0xDFFFu, 0x110000u, UINT32_MAX}) {
-        const std::u32string units = {'a', none};
-        EXPECT_EQ([wide_text(units) write_code_points_as_utf8:back], 0);
+        [back copy_c_string:"kept" length:4];
+        EXPECT_EQ([wide_text({'a', none}) write_code_points_as_utf8:back], 0);
+        EXPECT_EQ(view(back), "kept");
     }
+    [other copy_c_string:"kept" length:4];
+    EXPECT_EQ([other set_code_points_from_utf8:text("xyz\xC3")], 0);
+    EXPECT_EQ(view(other), U"kept");
     ZEB_Wide_String *const mixed = wide_text({0xD800, 0x110000, 0x1F600, 'x', 0xDC00, 0xD83D});
     [mixed join_surrogate_pairs];
     [mixed split_to_surrogate_pairs];

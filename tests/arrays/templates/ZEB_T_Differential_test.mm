@@ -172,8 +172,8 @@ public:
         selector = selector_of(row.text);
         for (const Place place : places)
             for (const uint32_t mode : {ZEB_OWNERSHIP_RETAINS, ZEB_OWNERSHIP_BORROWS, ZEB_OWNERSHIP_ADOPTS})
-                for (int turn = 0; turn < ZEB_TURNS && (counts_references || mode == ZEB_OWNERSHIP_RETAINS);
-                     ++turn) {
+                for (int turn = 0;
+                     turn < turns_of_each && (counts_references || mode == ZEB_OWNERSHIP_RETAINS); ++turn) {
                     const auto targets = static_cast<uint32_t>(zeb_test::target_count());
                     const uint32_t target = turns % targets, round = turns++ / targets;
                     const bool fails = (target + round) % 4 == 0;
@@ -189,12 +189,12 @@ public:
     }
 
 private:
-    /// Every length below 71 on each target, one after the other, and some longer ones. Objects are made one
-    /// by one: with many of them, too many allocations would fail.
+    /// Every length below 71 on each target in turn, and some longer ones. Objects are made one by one: with
+    /// many of them, too many allocations would fail.
     static uint32_t length_in(uint32_t round, bool fails)
     {
-        const uint32_t length = round % (support::is_object<Element> && fails ? 8 : 75);
-        return length < 71 ? length : std::array{129u, 257u, 640u, 1031u}[length - 71];
+        const uint32_t length = round * 29 % (support::is_object<Element> && fails ? 8 : 75);
+        return length < 71 ? length : std::array{129u, 257u, 1031u, 4099u}[length - 71];
     }
 
     /// Whether an allocation failed, the one after so many.
@@ -284,6 +284,9 @@ private:
         for (const uint32_t number : left)
             support::change_references(samples()[number], -1);
     }
+
+    /// Plain elements go through vectors, at every length.
+    static constexpr int turns_of_each = (support::is_object<Element> ? 1 : 3) * ZEB_TURNS;
 
     Inputs inputs{facts()};
     uint32_t turns = 0;

@@ -2,44 +2,8 @@
 /// two loads reads it; the file's bytes follow.
 #include "fuzz/fuzz.hpp"
 
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include <cstdio>
-#include <cstdlib>
-#include <string>
-#include <unistd.h>
-
-namespace
-{
-
-/// A file of this process's own, removed at its end.
-const std::string &path()
-{
-    static const std::string made = [] {
-        const char *const folder = std::getenv("TMPDIR");
-        const std::string name =
-            std::string(folder != nullptr ? folder : "/tmp") + "/zeb-fuzz-" + std::to_string(getpid());
-        return name;
-    }();
-    static const int is_registered = std::atexit([] { unlink(path().c_str()); });
-    (void)is_registered;
-    return made;
-}
-
-ZEB_File *new_file(bool is_compressed)
-{
-    ZEB_File *const file = [[ZEB_File alloc] init];
-    ZEB_String *const name = [[ZEB_String alloc] init_as_copy_of_chars:path().data()
-                                                                 count:static_cast<uint32_t>(path().size())];
-    [file set_path:name];
-    [file set_report_errors:0];
-    [file set_contents_compressed:is_compressed];
-    [file set_greatest_contents_size:1 << 20];
-    [name release];
-    return file;
-}
-
-} // namespace
+#include "tests/support/scratch_folder.hpp"
+#include "tests/support/strings.hpp"
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
@@ -47,22 +11,24 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     [[ZEB_Error_Stream shared_error_stream] set_verbose:0];
     NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
-    FILE *const out = std::fopen(path().c_str(), "wb");
-    fuzz::require(out != nullptr && std::fwrite(data + 1, 1, size - 1, out) == size - 1);
-    std::fclose(out);
+    static const support::Scratch_Folder folder;
+    const std::string path = folder / "document", contents(data + 1, data + size);
+    support::put_file(path, contents);
+    fuzz::require(support::file_text(path) == contents);
 
-    ZEB_File *const file = new_file(data[0] & 1);
-    ZEB_Wide_String_Array *const table = [[ZEB_Wide_String_Array alloc] init];
+    ZEB_File *const file = [[[ZEB_File alloc] init] autorelease];
+    [file set_path:support::text(path)];
+    [file set_report_errors:0];
+    [file set_contents_compressed:data[0] & 1];
+    [file set_greatest_contents_size:1 << 20];
+    ZEB_Wide_String_Array *const table = [ZEB_Wide_String_Array array_with_capacity:0];
     const auto load = data[0] & 2 ? ZC_load_checked_document : ZC_load_document;
     const uint32_t answer = load(table, file);
     fuzz::require((answer == 1) == ([file last_error] == 0));
     fuzz::require(answer == 1 || [table count] == 0);
-    ZEB_Wide_String_Array *const again = [[ZEB_Wide_String_Array alloc] init];
+    ZEB_Wide_String_Array *const again = [ZEB_Wide_String_Array array_with_capacity:0];
     fuzz::require(answer == 0 || (ZC_save_checked_document(table, file) == 1 &&
                                   ZC_load_checked_document(again, file) == 1 && [again isEqual:table]));
-    [again release];
-    [table release];
-    [file release];
     [pool drain];
     return 0;
 }

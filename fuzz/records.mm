@@ -2,14 +2,9 @@
 /// order; the record follows.
 #include "fuzz/fuzz.hpp"
 
-#import <Korvane_ZEB/Korvane_ZEB.h>
+#include "tests/support/framework_classes.hpp"
 
-#import <objc/runtime.h>
-
-#include <algorithm>
 #include <cstring>
-#include <memory>
-#include <vector>
 
 @interface NSObject (Binary_Contents)
 - (void)ZEB_encode_binary_contents:(ZEB_String *)buffer;
@@ -23,19 +18,12 @@ namespace
 std::vector<id> find_families()
 {
     const SEL decode = @selector(ZEB_decode_binary_contents:needs_swap:);
-    // g++ knows no size of what a Class points to.
-    std::vector<id> classes(static_cast<size_t>(objc_getClassList(nullptr, 0)));
-    objc_getClassList(reinterpret_cast<Class *>(classes.data()), static_cast<int>(classes.size()));
-    const auto is_no_family = [=](id named) {
-        const Class one = (Class)named;
-        return std::strncmp(class_getName(one), "ZEB_", 4) != 0 ||
-               class_getInstanceMethod(one, decode) == nullptr ||
+    std::vector<id> classes = support::framework_classes();
+    std::erase_if(classes, [=](id named) {
+        const Class one = static_cast<Class>(named);
+        return class_getInstanceMethod(one, decode) == nullptr ||
                class_getInstanceMethod(class_getSuperclass(one), decode) != nullptr ||
                one == [ZEB_Object_Array class];
-    };
-    classes.erase(std::remove_if(classes.begin(), classes.end(), is_no_family), classes.end());
-    std::sort(classes.begin(), classes.end(), [](id left, id right) {
-        return std::strcmp(class_getName((Class)left), class_getName((Class)right)) < 0;
     });
     return classes;
 }
@@ -44,18 +32,15 @@ std::vector<id> find_families()
 /// size.
 void check_round_trip(id decoded, uint32_t consumed, const char *record, bool was_swapped)
 {
-    ZEB_String *const buffer = [[ZEB_String alloc] init];
+    ZEB_String *const buffer = [ZEB_String array_with_capacity:0];
     [decoded ZEB_encode_binary_contents:buffer];
     fuzz::require([buffer count] == consumed);
     fuzz::require(was_swapped || std::memcmp([buffer char_data], record, consumed) == 0);
-    id again = [[[decoded class] alloc] init];
+    const id again = [[[[decoded class] alloc] init] autorelease];
     fuzz::require([again ZEB_decode_binary_contents:buffer needs_swap:0] == consumed);
-    ZEB_String *const second = [[ZEB_String alloc] init];
+    ZEB_String *const second = [ZEB_String array_with_capacity:0];
     [again ZEB_encode_binary_contents:second];
     fuzz::require([second isEqual:buffer]);
-    [second release];
-    [again release];
-    [buffer release];
 }
 
 } // namespace
@@ -69,19 +54,15 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
     const bool is_swapped = data[1] & 1;
     // A block of its own size, so that the sanitizer sees what is read behind it.
-    const std::unique_ptr<char[]> record(new char[size - 2]);
-    std::copy(data + 2, data + size, record.get());
-    ZEB_String *const source = [[ZEB_String alloc] init_as_link_to_chars:record.get()
-                                                                   count:static_cast<uint32_t>(size - 2)];
-    id array = [[(Class)families[data[0] % families.size()] alloc] init];
+    std::vector<char> record(data + 2, data + size);
+    ZEB_String *const source = [ZEB_String link_to_chars:record.data() count:static_cast<uint32_t>(size - 2)];
+    const id array = [[[(Class)families[data[0] % families.size()] alloc] init] autorelease];
     const uint32_t consumed = [array ZEB_decode_binary_contents:source needs_swap:is_swapped];
     fuzz::require(consumed <= size - 2);
     if (consumed != 0)
-        check_round_trip(array, consumed, record.get(), is_swapped);
+        check_round_trip(array, consumed, record.data(), is_swapped);
     else
         fuzz::require([static_cast<ZEB_Byte_Array *>(array) count] == 0);
-    [array release];
-    [source release];
     [pool drain];
     return 0;
 }

@@ -5,15 +5,32 @@
 #include "tests/reference/vector_algorithms.hpp"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <functional>
 #include <numeric>
+#include <optional>
 #include <random>
 #include <vector>
 
 namespace differential
 {
 
-using Numbers = std::vector<uint32_t>;
+using reference::Numbers;
+
+/// What an operation answers, as bits; nothing where it has no answer.
+template <class Operation>
+std::optional<uint64_t> answer_of(Operation operation)
+{
+    if constexpr (std::is_void_v<std::invoke_result_t<Operation>>) {
+        return operation(), std::nullopt;
+    } else {
+        const auto answer = operation();
+        uint64_t bits = 0;
+        std::memcpy(&bits, &answer, sizeof answer);
+        return bits;
+    }
+}
 
 template <class Element>
 int64_t position_of(const Element *element, const Element *first, size_t count)
@@ -43,7 +60,7 @@ struct Comparison {
 /// How the samples of a family compare.
 struct Samples {
     uint32_t count;
-    std::function<bool(uint32_t, uint32_t)> equal, precedes;
+    reference::Relation equal, precedes;
     uint32_t nothing; ///< the one that an empty vector answers; ZEB_NOT_FOUND when none is that
 };
 
@@ -64,24 +81,26 @@ struct Input {
 /// What an operation needs of its input.
 enum Needs { anything, an_element, order, a_permutation, a_shape, a_likeness };
 
-/// Draws inputs of few and many values, of ordinary samples and odd ones.
+/// Draws inputs of few and many values, of ordinary samples and odd ones, in order, in turn and in disorder.
 class Inputs
 {
 public:
     explicit Inputs(const Samples &all) : samples(all) {}
 
-    Input draw(Needs needs, bool is_short)
+    /// At best of that length.
+    Input draw(Needs needs, uint32_t length)
     {
-        static constexpr uint32_t longest[] = {3, 8, 40, 40, 250};
-        const uint32_t length = (needs == an_element) + below(longest[below(is_short ? 2 : 5)]);
-        alphabet = below(3) == 0 ? 3 : samples.count;
+        length = std::max(length, uint32_t{needs == an_element});
+        alphabet = std::min(std::array{1u, 3u, 12u, samples.count}[below(4)], samples.count);
         first = below(samples.count - alphabet + 1);
         Input in{};
         in.elements = numbers(length);
-        if (needs == order && below(4) != 0)
+        if (below(4) != 0 ? needs == order : needs != order)
             reference::sort(in.elements, nullptr, [this](const uint32_t *later, const uint32_t *earlier) {
                 return samples.precedes(*later, *earlier);
             });
+        if (below(6) == 0)
+            std::reverse(in.elements.begin(), in.elements.end());
         in.left_behind = numbers(below(3) == 0 ? below(9) : 0);
         in.own_from = below(length + 1 + in.left_behind.size());
         in.own_to = in.own_from + below(length + 1);
@@ -109,7 +128,9 @@ private:
     Numbers numbers(size_t length)
     {
         Numbers made(length);
-        std::generate(made.begin(), made.end(), [this] { return sample(); });
+        uint32_t i = 0;
+        const bool in_turn = below(4) == 0;
+        std::generate(made.begin(), made.end(), [&] { return in_turn ? first + i++ % alphabet : sample(); });
         return made;
     }
 
@@ -240,8 +261,10 @@ struct Plain {
 
     uint64_t extremes() const
     {
-        const uint64_t low = reference::minimum(all, samples.precedes, samples.nothing);
-        return low << 32 | reference::maximum(all, samples.precedes, samples.nothing);
+        if (all.empty())
+            return uint64_t{samples.nothing} << 32 | samples.nothing;
+        const uint64_t low = *std::min_element(all.begin(), all.end(), samples.precedes);
+        return low << 32 | *std::max_element(all.begin(), all.end(), samples.precedes);
     }
 
     void fill(uint32_t first, uint32_t last)

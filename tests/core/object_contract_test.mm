@@ -1,32 +1,12 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#import <objc/runtime.h>
+#include "tests/support/framework_classes.hpp"
 
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
-
-namespace
-{
-
-/// Every class of the framework: what the runtime knows by the framework's prefix, below its root.
-std::vector<id> framework_classes()
-{
-    std::vector<id> all(static_cast<size_t>(objc_getClassList(nullptr, 0)));
-    objc_getClassList(reinterpret_cast<Class *>(all.data()), static_cast<int>(all.size()));
-    std::erase_if(all, [](id named) {
-        return std::string(class_getName(static_cast<Class>(named))).rfind("ZEB_", 0) != 0 ||
-               ![static_cast<Class>(named) isSubclassOfClass:[ZEB_Object class]];
-    });
-    EXPECT_GE(all.size(), 45u);
-    return all;
-}
-
-} // namespace
 
 TEST(Every_Class, answers_the_root_operations_and_its_own_notice)
 {
-    for (const id each : framework_classes()) {
+    const std::vector<id> all = support::framework_classes();
+    EXPECT_GE(all.size(), 45u);
+    for (const id each : all) {
         const Class named = static_cast<Class>(each);
         SCOPED_TRACE(class_getName(named));
         EXPECT_STREQ([named get_KVX_proprietary_software_notice],

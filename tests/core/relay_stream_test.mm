@@ -2,6 +2,7 @@
 
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
+#include "tests/support/ints.hpp"
 #include "tests/support/strings.hpp"
 
 #include <gtest/gtest.h>
@@ -60,9 +61,7 @@ protected:
 
 TEST_F(Relay, every_write_is_echoed_and_told)
 {
-    ZEB_Int_Array *const list = [ZEB_Int_Array array_with_capacity:0];
-    [list append_int:1];
-    [list append_int:2];
+    ZEB_Int_Array *const list = ints({1, 2});
     const auto write = [&] {
         [stream write_int:1];
         [stream write_double_with_format:0.5 format:"<%g>"];

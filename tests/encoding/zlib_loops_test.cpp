@@ -1,11 +1,12 @@
-#include "core/engine/namespace.hpp"
-#include "encoding/engine/zlib_loops.hpp"
-#include "tests/strings/random_text.hpp"
+#include "tests/support/random_text.hpp"
+#include "tests/support/zlib_sink.hpp"
 
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
 #include <zlib.h>
+
+using support::Sink;
 
 static std::uint64_t bytes_inflated = 0;
 
@@ -22,40 +23,11 @@ extern "C" int inflate(z_streamp stream, int flush)
 namespace
 {
 
-/// Contents, and the room behind them that is offered for more.
-struct Sink {
-    std::string contents;
-    std::string room = {};
-
-    engine::Zlib_Output output()
-    {
-        return {this,
-                [](void *sink, const char *bytes, std::uint32_t length) {
-                    static_cast<Sink *>(sink)->contents.append(bytes, length);
-                    return true;
-                },
-                [](void *sink) {
-                    std::string &room = static_cast<Sink *>(sink)->room;
-                    return engine::Output_Room{room.data(), static_cast<std::uint32_t>(room.size())};
-                },
-                [](void *sink, std::uint32_t length) {
-                    Sink &all = *static_cast<Sink *>(sink);
-                    all.contents.append(all.room, 0, length);
-                }};
-    }
-};
-
 std::string compressed(const std::string &source)
 {
     Sink stored;
-    EXPECT_EQ(engine::compress(source.data(), static_cast<std::uint32_t>(source.size()), stored.output()), 0);
+    EXPECT_EQ(stored.compress(source), 0);
     return stored.contents;
-}
-
-std::int32_t decompress(const std::string &source, engine::Zlib_Output output,
-                        std::uint64_t bound = engine::unbounded)
-{
-    return engine::decompress(source.data(), static_cast<std::uint32_t>(source.size()), output, bound);
 }
 
 /// The required loop, with zlib alone; gives up, with 1, after some passes that all end alike.
@@ -101,14 +73,14 @@ TEST(Zlib, gives_zlib_s_own_bytes_and_takes_them_back)
         EXPECT_EQ(stored, expected.substr(0, size));
         for (const std::size_t room : {0u, 20000u, 100000u}) {
             Sink sink{"before ", std::string(room, '-')};
-            EXPECT_EQ(decompress(stored, sink.output()), 0);
+            EXPECT_EQ(sink.decompress(stored), 0);
             EXPECT_EQ(sink.contents, "before " + source);
             Sink again{"", sink.room};
-            engine::compress(source.data(), static_cast<std::uint32_t>(source.size()), again.output());
+            again.compress(source);
             EXPECT_EQ(again.contents, stored);
             for (const std::uint64_t bound : {length - 1, length, length + 1}) {
                 Sink bounded{"", sink.room};
-                EXPECT_EQ(decompress(stored, bounded.output(), bound), bound < length ? Z_BUF_ERROR : 0);
+                EXPECT_EQ(bounded.decompress(stored, bound), bound < length ? Z_BUF_ERROR : 0);
                 EXPECT_EQ(bounded.contents, source.substr(0, bound));
             }
         }
@@ -132,10 +104,10 @@ TEST(Zlib, answers_for_damaged_streams_as_the_plain_loop_does)
         std::string expected;
         const std::int32_t answer = literal_decompress(damaged, expected);
         if (answer != 1) {
-            EXPECT_EQ(decompress(damaged, sink.output()), answer);
+            EXPECT_EQ(sink.decompress(damaged), answer);
             EXPECT_EQ(sink.contents, expected);
         } else if (++endless <= 2) { // it takes its time
-            EXPECT_EQ(decompress(damaged, sink.output()), Z_DATA_ERROR);
+            EXPECT_EQ(sink.decompress(damaged), Z_DATA_ERROR);
         }
     }
     EXPECT_GT(endless, 0);
@@ -151,8 +123,8 @@ TEST(Zlib, a_fault_right_behind_a_whole_chunk_discards_it_as_the_plain_loop_does
         stored += some_text(length) + std::string("\x07 and no block", 14);
         Sink sink{"", std::string(100000, '-')};
         std::string expected;
-        EXPECT_EQ(decompress(stored, sink.output()), literal_decompress(stored, expected));
-        EXPECT_EQ(sink.contents.size(), expected.size());
+        EXPECT_EQ(sink.decompress(stored), literal_decompress(stored, expected));
+        EXPECT_EQ(sink.contents, expected);
     }
 }
 
@@ -165,7 +137,7 @@ TEST(Zlib, ends_on_input_that_gives_next_to_no_output)
     empty_blocks.append("\x00\x02\x00\xFD\xFF", 5);
     Sink sink;
     bytes_inflated = 0;
-    EXPECT_EQ(decompress(empty_blocks, sink.output()), Z_DATA_ERROR);
+    EXPECT_EQ(sink.decompress(empty_blocks), Z_DATA_ERROR);
     constexpr std::uint64_t bound = std::uint64_t{256} << 20;
     EXPECT_GE(bytes_inflated, bound);
     EXPECT_LE(bytes_inflated, bound + 2 * empty_blocks.size());
@@ -179,12 +151,13 @@ TEST(Zlib, says_what_is_wrong)
         {std::string("\x78\x9C\x00\xFF\xFF\x00\x00 :-", 10), Z_DATA_ERROR}};
     for (const auto &[source, status] : rows) {
         Sink sink;
-        EXPECT_EQ(decompress(source, sink.output()), status) << source;
+        EXPECT_EQ(sink.decompress(source), status) << source;
     }
-    const std::string source = some_text(5000);
+    const std::string source = some_text(5000), stored = compressed(source);
     const engine::Zlib_Output full = {nullptr, [](void *, const char *, std::uint32_t) { return false; },
                                       [](void *) { return engine::Output_Room{}; },
                                       [](void *, std::uint32_t) {}};
-    EXPECT_EQ(decompress(compressed(source), full), Z_MEM_ERROR);
+    EXPECT_EQ(engine::decompress(stored.data(), static_cast<std::uint32_t>(stored.size()), full),
+              Z_MEM_ERROR);
     EXPECT_EQ(engine::compress(source.data(), 5000, full), Z_MEM_ERROR);
 }

@@ -19,9 +19,8 @@ class Documents : public testing::Test
 protected:
     Documents()
     {
-        [table append_wide_string:wide_text(U"first")];
-        [table append_wide_string:wide_text(U"")];
-        [table append_wide_string:wide_text(U"\U0001F600 and more")];
+        for (const char32_t *const one : {U"first", U"", U"\U0001F600 and more"})
+            [table append_wide_string:wide_text(one)];
         [file set_path:text(path)];
     }
 
@@ -84,8 +83,7 @@ TEST_F(Documents, one_of_the_other_byte_order_is_read)
         const std::size_t records_end = document.size() - (is_checked ? 4 : 0);
         for (std::size_t at = 32; at < records_end; at += 4)
             if (at != 60)
-                std::reverse(document.begin() + static_cast<long>(at),
-                             document.begin() + static_cast<long>(at) + 4);
+                std::reverse(&document[at], &document[at] + 4);
         put_file(path, document);
         EXPECT_EQ(load(ZC_load_document), 1u);
         EXPECT_TRUE(is_the_same);

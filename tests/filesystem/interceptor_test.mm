@@ -77,13 +77,8 @@ Outcome outcome_of(uint32_t decision, const std::string &path)
     const uint32_t backstored = answer_of([&] { return [file backstore]; });
     EXPECT_EQ(asked, (std::vector<uint32_t>{ZEB_FILE_REFRESH_STATUS, ZEB_FILE_WRITE_CONTENTS,
                                             ZEB_FILE_READ_CONTENTS, ZEB_FILE_BACKSTORE}));
-    return {refreshed,
-            written,
-            backstored,
-            interceptor->acted,
-            contents,
-            text_of(target),
-            text_of([file path]).substr(path.size())};
+    const std::string suffix = text_of([file path]).substr(path.size());
+    return Outcome(refreshed, written, backstored, interceptor->acted, contents, text_of(target), suffix);
 }
 
 using Interceptor = File_Test;

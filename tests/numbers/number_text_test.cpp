@@ -27,18 +27,15 @@ std::string fraction(std::uint32_t n, double x)
 
 } // namespace
 
-TEST(Number_Text, known_texts_of_all_ranges_and_their_edges)
+// Numbers of every range at random: tests/exhaustive.
+TEST(Number_Text, known_texts_at_the_edges_of_the_ranges)
 {
     const std::pair<std::string, const char *> rows[] = {
-        {pretty(1.0 / 3.0), "0.333333333333"},
         {pretty(-0.1234567), "-0.1234567"},
         {pretty(0.12345678), "0.12345678"},
         {pretty(0.0001), "0.0001"},
         {pretty(std::nextafter(0.0001, 0.0)), "1e-04"},
-        {pretty(1.5e-7), "1.5e-07"},
         {pretty(std::nextafter(1.0, 0.0)), "1"},
-        {pretty(1000000.0), "1e+06"},
-        {pretty(-12345000000.0), "-1.2345e+10"},
         {pretty(999999999999999.5), "1e+15"},
         {pretty(1000000000000005.0), "1e+15"}, // a tie goes to the even digit
         {pretty(1000000000000015.0), "1.00000000000002e+15"},
@@ -49,8 +46,6 @@ TEST(Number_Text, known_texts_of_all_ranges_and_their_edges)
         {pretty(-std::numeric_limits<double>::max()), "-1.79769313486232e+308"},
         {pretty(1.0F / 3.0F), "0.3333"},
         {pretty(0.0001F), "1e-04"}, // just below the double 0.0001
-        {pretty(1234.56789F), "1234.5679"},
-        {pretty(-1.5e-7F), "-1.5e-07"},
         {fixed(2, -0.004), "0"},
         {fixed(13, 1.0 / 3.0), "0.3333333333333"},
         {fixed(4294967295U, 1.0 / 3.0), "0.3333333333333"}, // counts as 13

@@ -1,4 +1,5 @@
-/// Every vector algorithm in its plainest form, one step at a time, as slow as that is.
+/// Every vector algorithm in its plainest form, one step at a time, as slow as that is. Elements are numbers
+/// of samples, which a relation compares.
 ///
 /// The framework's own versions may take any faster way; these say what the result has to be.
 #pragma once
@@ -13,64 +14,41 @@
 namespace reference
 {
 
-template <class Element>
-using Vector = std::vector<Element>;
+using Numbers = std::vector<uint32_t>;
+using Relation = std::function<bool(uint32_t, uint32_t)>;
 
-using Equal = std::equal_to<>;
-/// Characters are signed bytes, whatever plain `char` is here.
-struct Less {
-    template <class Element>
-    bool operator()(const Element &left, const Element &right) const
-    {
-        return std::less<>()(left, right);
-    }
-    bool operator()(const char &left, const char &right) const
-    {
-        return static_cast<signed char>(left) < static_cast<signed char>(right);
-    }
-};
-
-/// How a key compares to an element.
-template <class Element, class Order = Less>
-ZEB_Comparison compare(const Element &key, const Element &element, Order less = {})
+inline auto is(uint32_t value, const Relation &equal)
 {
-    if (less(key, element))
-        return ZEB_COMPARED_LESS;
-    return less(element, key) ? ZEB_COMPARED_GREATER : ZEB_COMPARED_EQUAL;
+    return [=](uint32_t element) { return equal(element, value); };
 }
 
-template <class Element, class Equality = Equal>
-uint32_t first_index_of(const Vector<Element> &elements, Element value, Equality equal = {})
+/// How a key compares to an element.
+inline ZEB_Comparison compare(uint32_t key, uint32_t element, const Relation &precedes)
 {
-    const auto found = std::find_if(elements.begin(), elements.end(),
-                                    [&](const Element &element) { return equal(element, value); });
+    if (precedes(key, element))
+        return ZEB_COMPARED_LESS;
+    return precedes(element, key) ? ZEB_COMPARED_GREATER : ZEB_COMPARED_EQUAL;
+}
+
+inline uint32_t first_index_of(const Numbers &elements, uint32_t value, const Relation &equal)
+{
+    const auto found = std::find_if(elements.begin(), elements.end(), is(value, equal));
     return found == elements.end() ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - elements.begin());
 }
 
-template <class Element, class Equality = Equal>
-uint32_t last_index_of(const Vector<Element> &elements, Element value, Equality equal = {})
+inline uint32_t last_index_of(const Numbers &elements, uint32_t value, const Relation &equal)
 {
-    const Vector<Element> reversed(elements.rbegin(), elements.rend());
-    const uint32_t found = first_index_of(reversed, value, equal);
+    const uint32_t found = first_index_of({elements.rbegin(), elements.rend()}, value, equal);
     return found == ZEB_NOT_FOUND ? found : static_cast<uint32_t>(elements.size()) - 1 - found;
 }
 
-template <class Element, class Equality = Equal>
-uint32_t find_occurrence(const Vector<Element> &elements, const Vector<Element> &pattern, Equality equal = {})
-{
-    const auto found = std::search(elements.begin(), elements.end(), pattern.begin(), pattern.end(), equal);
-    return pattern.empty() || found == elements.end() ? ZEB_NOT_FOUND
-                                                      : static_cast<uint32_t>(found - elements.begin());
-}
-
 /// The last start is none: an occurrence at the very end is not found.
-template <class Element, class Equality = Equal>
-uint32_t first_index_of_subsequence(Vector<Element> elements, const Vector<Element> &pattern,
-                                    Equality equal = {})
+inline uint32_t first_index_of_subsequence(const Numbers &elements, const Numbers &pattern,
+                                           const Relation &equal)
 {
-    if (!elements.empty())
-        elements.pop_back();
-    return find_occurrence(elements, pattern, equal);
+    const auto end = elements.end() - !elements.empty();
+    const auto found = std::search(elements.begin(), end, pattern.begin(), pattern.end(), equal);
+    return pattern.empty() || found == end ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - elements.begin());
 }
 
 /// What the ordered operations answer: the element equal to a key, the one nearest to it, and the place where
@@ -82,8 +60,8 @@ struct Ordered {
 };
 
 /// Probes until an answer is neither less nor greater, or the bounds meet.
-template <class Element, class Compare>
-Ordered ordered(const Vector<Element> &elements, Element key, Compare compare)
+template <class Compare>
+Ordered ordered(const Numbers &elements, uint32_t key, Compare compare)
 {
     if (elements.empty())
         return {};
@@ -105,40 +83,22 @@ Ordered ordered(const Vector<Element> &elements, Element key, Compare compare)
     }
 }
 
-/// `nothing` is what no element answers.
-template <class Element, class Order = Less>
-Element minimum(const Vector<Element> &elements, Order less = {}, Element nothing = {})
+inline uint32_t replace_equal(Numbers &elements, uint32_t value, uint32_t replacement, const Relation &equal)
 {
-    return elements.empty() ? nothing : *std::min_element(elements.begin(), elements.end(), less);
-}
-
-template <class Element, class Order = Less>
-Element maximum(const Vector<Element> &elements, Order less = {}, Element nothing = {})
-{
-    return elements.empty() ? nothing : *std::max_element(elements.begin(), elements.end(), less);
-}
-
-template <class Element, class Equality = Equal>
-uint32_t replace_equal(Vector<Element> &elements, Element value, Element replacement, Equality equal = {})
-{
-    const auto is_value = [&](const Element &element) { return equal(element, value); };
-    const auto replaced = std::count_if(elements.begin(), elements.end(), is_value);
-    std::replace_if(elements.begin(), elements.end(), is_value, replacement);
+    const auto replaced = std::count_if(elements.begin(), elements.end(), is(value, equal));
+    std::replace_if(elements.begin(), elements.end(), is(value, equal), replacement);
     return static_cast<uint32_t>(replaced);
 }
 
 /// Answers the new count; the elements beyond it are left where they were.
-template <class Element, class Equality = Equal>
-uint32_t remove_equal(Vector<Element> &elements, Element value, Equality equal = {})
+inline uint32_t remove_equal(Numbers &elements, uint32_t value, const Relation &equal)
 {
-    const auto end = std::remove_if(elements.begin(), elements.end(),
-                                    [&](const Element &element) { return equal(element, value); });
+    const auto end = std::remove_if(elements.begin(), elements.end(), is(value, equal));
     return static_cast<uint32_t>(end - elements.begin());
 }
 
-template <class Element, class Equality = Equal>
-uint32_t replace_occurrences(Vector<Element> &elements, const Vector<Element> &pattern,
-                             const Vector<Element> &replacement, Equality equal = {})
+inline uint32_t replace_occurrences(Numbers &elements, const Numbers &pattern, const Numbers &replacement,
+                                    const Relation &equal)
 {
     uint32_t replaced = 0;
     for (auto at = elements.begin(); !pattern.empty(); ++replaced) {
@@ -153,44 +113,40 @@ uint32_t replace_occurrences(Vector<Element> &elements, const Vector<Element> &p
 }
 
 /// Of an even count the middle two are swapped twice.
-template <class Element>
-void reverse(Vector<Element> &elements)
+inline void reverse(Numbers &elements)
 {
     const size_t count = elements.size();
     for (size_t front = 0; count > 1 && front <= count / 2; ++front)
         std::swap(elements[front], elements[count - 1 - front]);
 }
 
-template <class Element>
-void move(Vector<Element> &elements, uint32_t from, uint32_t to)
+inline void move(Numbers &elements, uint32_t from, uint32_t to)
 {
-    const Element moved = elements[from];
+    const uint32_t moved = elements[from];
     elements.erase(elements.begin() + from);
     elements.insert(elements.begin() + to, moved);
 }
 
-template <class Element>
-void permute(Vector<Element> &elements, const Vector<uint32_t> &permutation, bool inverse)
+inline void permute(Numbers &elements, const Numbers &permutation, bool inverse)
 {
-    const Vector<Element> copy = elements;
+    const Numbers copy = elements;
     for (uint32_t i = 0; i < elements.size() && i < permutation.size(); ++i)
         elements[inverse ? permutation[i] : i] = copy[inverse ? i : permutation[i]];
 }
 
-template <class Element>
-void transpose(Vector<Element> &elements, uint64_t rows, uint64_t columns)
+inline void transpose(Numbers &elements, uint64_t rows, uint64_t columns)
 {
     if (rows < 2 || columns < 2 || rows * columns != elements.size())
         return;
-    const Vector<Element> copy = elements;
+    const Numbers copy = elements;
     for (uint64_t i = 0; i < copy.size(); ++i)
         elements[i % columns * rows + i / columns] = copy[i];
 }
 
 /// Sorts, every swap applied to the permutation too when there is one. `precedes` is asked with pointers
 /// to the later and the earlier element.
-template <class Element, class Precedes>
-void sort(Vector<Element> &elements, Vector<uint32_t> *permutation, Precedes precedes)
+template <class Precedes>
+void sort(Numbers &elements, Numbers *permutation, Precedes precedes)
 {
     const size_t count = elements.size();
     size_t gap = 1;

@@ -49,11 +49,50 @@ protected:
         ASSERT_EQ([chars capacity], [platform_chars capacity]);
     }
 
+    /// A text of code points in all its forms, of which the platform tells one by the other.
+    void expect_all_forms(const std::u32string &code_points)
+    {
+        std::vector<unichar> units;
+        for (const char32_t c : code_points) {
+            if (c >= 0x10000)
+                units.push_back(static_cast<unichar>(0xD7C0 + c / 1024));
+            units.push_back(static_cast<unichar>(c < 0x10000 ? c : 0xDC00 + c % 1024));
+        }
+        NSString *const given = [NSString stringWithCharacters:units.data() length:units.size()];
+        NSData *const data = [given dataUsingEncoding:NSUTF8StringEncoding];
+        const std::string utf8(static_cast<const char *>([data bytes]), [data length]);
+        const std::u32string utf16(units.begin(), units.end());
+        expect_same_decoding(utf8);
+        expect_same_encoding(utf16);
+        ASSERT_EQ([other set_code_points_from_utf8:text(utf8)], 1);
+        ASSERT_EQ(view(other), code_points);
+        [other split_to_surrogate_pairs];
+        ASSERT_EQ(view(other), utf16);
+        [other join_surrogate_pairs];
+        ASSERT_EQ([other write_code_points_as_utf8:back], 1);
+        ASSERT_EQ(view(back), utf8);
+    }
+
+    /// Bytes that may be no UTF-8: what is taken for it is given back by its code points.
+    void expect_nothing_ill_formed(const std::string &bytes)
+    {
+        NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
+        ZEB_String *const given = text(bytes);
+        const bool is_valid = [given is_valid_utf8];
+        EXPECT_EQ([other set_code_points_from_utf8:given], is_valid);
+        EXPECT_TRUE(!is_valid || ([other write_code_points_as_utf8:back] == 1 && view(back) == bytes))
+            << testing::PrintToString(bytes);
+        expect_same_decoding(bytes);
+        [pool drain];
+    }
+
     ZEB_Wide_String_Converter *const to_wide = [[[ZEB_Wide_String_Converter alloc] init] autorelease];
     ZEB_String_Converter *const to_chars = [[[ZEB_String_Converter alloc] init] autorelease];
     ZEB_Wide_String *const wide = wide_text(U""), *const platform_wide = wide_text(U"");
     ZEB_String *const chars = [[[ZEB_String alloc] init] autorelease];
     ZEB_String *const platform_chars = [[[ZEB_String alloc] init] autorelease];
+    ZEB_Wide_String *const other = wide_text(U"");
+    ZEB_String *const back = text("");
 };
 
 } // namespace
@@ -64,7 +103,9 @@ TEST_F(Bridge, texts_of_any_form_come_over_as_the_platform_brings_them)
     const std::string bytes = std::string(60, 'a') + "\xC3\xA9\xE2\x82\xACz\xF0\x9F\x98\x80\xEF\xBB\xBFz\xC3 "
                                                      "\xED\xA0\x80 \xC0\x80 \xF5 \xFF";
     const std::u32string units = std::u32string(60, 'a') + U"\u00E9\u20ACz\uFEFFz\uFFFEz" +
-                                 std::u32string{0xD83D, 0xDE00, 'z', 0xD83D, 'z', 0xDE00};
+                                 std::u32string{0xD83D, 0xDE00, 'z', 0xD83D, 'z', 0xDE00, 0xABCD0041};
+    const std::u32string scalars =
+        std::u32string(60, 'a') + U"\u00E9\u20ACz\U0001F600z\U0010FFFFz" + std::u32string{0, 'z'};
     zeb_test::on_each_target([&] {
         std::mt19937 random(1);
         const auto piece_of = [&](const auto &text) {
@@ -74,10 +115,63 @@ TEST_F(Bridge, texts_of_any_form_come_over_as_the_platform_brings_them)
             NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
             expect_same_decoding(piece_of(bytes) + piece_of(bytes) + 'z');
             expect_same_encoding(piece_of(units) + piece_of(units) + U'z');
+            expect_all_forms(U'z' + piece_of(scalars) + piece_of(scalars));
             [pool drain];
             ASSERT_FALSE(HasFatalFailure());
         }
     });
+}
+
+TEST_F(Bridge, every_character_takes_every_form)
+{
+    std::mt19937 random(5);
+    for (char32_t next = 0; next <= 0x10FFFF; next += 100 * (slowness - 1)) {
+        NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
+        std::u32string text = U"z";
+        for (const char32_t end = next + random() % 128; next < end && next <= 0x10FFFF; ++next)
+            if (next < 0xD800 || next > 0xDFFF)
+                text += next;
+        expect_all_forms(text);
+        [pool drain];
+        ASSERT_FALSE(HasFatalFailure());
+    }
+}
+
+TEST_F(Bridge, forms_are_taken_from_well_formed_text_alone)
+{
+    for (unsigned pair = 0; pair < 0x10000; pair += 2 * slowness - 1)
+        expect_nothing_ill_formed({static_cast<char>(pair / 256), static_cast<char>(pair % 256)});
+    // Where the rules of UTF-8 change.
+    const std::string bounds =
+        "a\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xC1\xC2\xDF\xE0\xE1\xED\xEE\xEF\xF0\xF1\xF4\xF5\xF8\xFE\xFF";
+    for (const std::string lead : {"", "\xF0", "\xF1", "\xF4", "\xF5", "\xF8"})
+        for (const char second : bounds)
+            for (const char third : bounds)
+                for (const char last : bounds)
+                    expect_nothing_ill_formed(lead + second + third + last);
+    const std::string well_formed = "plain text \xC3\xA9\xE2\x82\xAC and \xF0\x9F\x98\x80 at its end";
+    for (size_t at = 0; at < well_formed.size(); ++at)
+        for (const char bound : bounds) {
+            std::string spoiled = well_formed;
+            spoiled[at] = bound;
+            expect_nothing_ill_formed(spoiled);
+        }
+}
+
+TEST_F(Bridge, what_is_no_character_has_no_utf8_and_stays_as_it_is)
+{
+    for (const uint32_t none : {0xD800u, 0xDFFFu, 0x110000u, UINT32_MAX}) {
+        [back copy_c_string:"kept" length:4];
+        EXPECT_EQ([wide_text({'a', none}) write_code_points_as_utf8:back], 0);
+        EXPECT_EQ(view(back), "kept");
+    }
+    [other copy_c_string:"kept" length:4];
+    EXPECT_EQ([other set_code_points_from_utf8:text("xyz\xC3")], 0);
+    EXPECT_EQ(view(other), U"kept");
+    ZEB_Wide_String *const mixed = wide_text({0xD800, 0x110000, 0x1F600, 'x', 0xDC00, 0xD83D});
+    [mixed join_surrogate_pairs];
+    [mixed split_to_surrogate_pairs];
+    EXPECT_EQ(view(mixed), (std::u32string{0xD800, 0x110000, 0xD83D, 0xDE00, 'x', 0xDC00, 0xD83D}));
 }
 
 TEST_F(Bridge, encoding_types_choose_the_platform_s_encodings)

@@ -1,7 +1,7 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
-#include "tests/strings/random_text.hpp"
 #include "tests/support/comma_locale.hpp"
+#include "tests/support/random_text.hpp"
 #include "tests/support/sanitizer.hpp"
 #include "tests/support/strings.hpp"
 #include "tests/support/vector_targets.hpp"

@@ -85,24 +85,6 @@ TEST(String_Operations, refuse_on_links_under_their_own_names)
     EXPECT_EQ(zeb::view(narrow), "a");
 }
 
-TEST(String_Operations, turn_utf8_into_code_points_and_back)
-{
-    ZEB_String *const utf8 = text("a\xC3\xA9\xF0\x9F\x98\x80"), *const back = text("kept");
-    ZEB_String *const ill_formed = text("xyz\xC3");
-    ZEB_Wide_String *const wide = wide_text(U"kept");
-    EXPECT_EQ([ill_formed is_valid_utf8] + [wide set_code_points_from_utf8:ill_formed], 0);
-    EXPECT_EQ(zeb::view(wide), U"kept");
-    EXPECT_EQ([utf8 is_valid_utf8] + [wide set_code_points_from_utf8:utf8], 2);
-    EXPECT_EQ(zeb::view(wide), U"a\u00E9\U0001F600");
-    [wide split_to_surrogate_pairs];
-    EXPECT_EQ(zeb::view(wide), (std::u32string{'a', 0xE9, 0xD83D, 0xDE00}));
-    EXPECT_EQ([wide write_code_points_as_utf8:back], 0);
-    EXPECT_EQ(zeb::view(back), "kept");
-    [wide join_surrogate_pairs];
-    EXPECT_EQ([wide write_code_points_as_utf8:back], 1);
-    EXPECT_EQ(zeb::view(back), zeb::view(utf8));
-}
-
 TEST(String_Operations, serve_as_keys_of_a_dictionary)
 {
     NSMutableDictionary *const table = [NSMutableDictionary dictionary];

@@ -1,9 +1,9 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 #import <Korvane_ZEB/ZEB_String_Views.hpp>
 
-#include "tests/strings/random_text.hpp"
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
+#include "tests/support/random_text.hpp"
 #include "tests/support/sanitizer.hpp"
 #include "tests/support/vector_targets.hpp"
 

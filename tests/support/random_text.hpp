@@ -1,4 +1,4 @@
-/// Seeded texts that come close to what a scanner reads, and miss it in many ways.
+/// Seeded texts: any, and such as come close to what a scanner reads and miss it in many ways.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +10,16 @@
 
 namespace zeb_test
 {
+
+/// A text of `length` characters out of `alphabet`; out of all 256 bytes when that is empty.
+template <class Random>
+std::string draw_text(Random &random, size_t length, const std::string &alphabet)
+{
+    std::string text(length, ' ');
+    for (char &c : text)
+        c = alphabet.empty() ? static_cast<char>(random()) : alphabet[random() % alphabet.size()];
+    return text;
+}
 
 /// The words of a text, which white space parts.
 inline std::vector<std::string> words_of(const std::string &text)

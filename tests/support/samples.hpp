@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <random>
 #include <span>
 #include <string>
 #include <type_traits>
@@ -132,14 +133,24 @@ void replace_alloc(Element element, id (*alloc)(Class, SEL))
                         "@@:");
 }
 
-/// Elements that are odd among those of their type.
+/// Elements that are odd among those of their type; numbers that differ in their last bits only stand beside
+/// one that is far away.
 template <class Element>
 std::vector<Element> odd_samples()
 {
     using Limits = std::numeric_limits<Element>;
     if constexpr (std::is_floating_point_v<Element>)
-        return {Limits::quiet_NaN(), -Limits::quiet_NaN(), Element(0),
-                -Element(0),         Limits::infinity(),   -Limits::infinity()};
+        return {1 + Limits::epsilon(),
+                1 + 2 * Limits::epsilon(),
+                Limits::max(),
+                Limits::infinity(),
+                Element(0),
+                Limits::denorm_min(),
+                -Element(0),
+                -Element(2),
+                -Limits::infinity(),
+                Limits::quiet_NaN(),
+                -Limits::quiet_NaN()};
     else if constexpr (std::is_arithmetic_v<Element>)
         return {Limits::min(), Limits::max()};
     else if constexpr (is_held<Element>)
@@ -148,13 +159,21 @@ std::vector<Element> odd_samples()
         return {Element()};
 }
 
-/// The first ten samples and the odd ones, alive for good.
+/// The first ten samples, the odd ones, and plain ones of any bits; each once, and alive for good.
 template <class Element>
 std::vector<Element> all_samples()
 {
     std::vector<Element> all = odd_samples<Element>();
     for (uint32_t i = 10; i-- > 0;)
         all.insert(all.begin(), Sample<Element>::at(i));
+    std::mt19937_64 random(1);
+    while (!is_object<Element> && all.size() < 40) {
+        Element any;
+        const uint64_t bits = random();
+        std::memcpy(&any, &bits, sizeof any);
+        if (std::ranges::none_of(all, [=](Element other) { return are_identical(any, other); }))
+            all.push_back(any);
+    }
     if constexpr (is_object<Element>)
         for (const Element element : all)
             [element retain];

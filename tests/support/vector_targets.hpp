@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 
 #if ZEB_HAS_HIGHWAY
@@ -12,22 +13,42 @@
 namespace zeb_test
 {
 
-/// Runs the test once for each vector instruction set of this machine.
+#if ZEB_HAS_HIGHWAY
+inline size_t target_count() { return hwy::SupportedAndGeneratedTargets().size(); }
+
+inline void choose_target(int64_t target)
+{
+    hwy::SetSupportedTargetsForTest(target);
+    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
+}
+
+/// Runs the test with one of the vector instruction sets.
+template <class Test>
+void on_target(size_t number, Test test)
+{
+    hwy::SetSupportedTargetsForTest(0);
+    const int64_t target = hwy::SupportedAndGeneratedTargets()[number];
+    SCOPED_TRACE(hwy::TargetName(target));
+    choose_target(target);
+    test();
+    choose_target(0);
+}
+#else
+inline size_t target_count() { return 1; }
+
+template <class Test>
+void on_target(size_t, Test test)
+{
+    test();
+}
+#endif
+
+/// Runs the test once with each of them.
 template <class Test>
 void on_each_target(Test test)
 {
-#if ZEB_HAS_HIGHWAY
-    for (const int64_t target : hwy::SupportedAndGeneratedTargets()) {
-        SCOPED_TRACE(hwy::TargetName(target));
-        hwy::SetSupportedTargetsForTest(target);
-        hwy::GetChosenTarget().Update(hwy::SupportedTargets());
-        test();
-    }
-    hwy::SetSupportedTargetsForTest(0);
-    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
-#else
-    test();
-#endif
+    for (size_t number = 0; number < target_count(); ++number)
+        on_target(number, test);
 }
 
 } // namespace zeb_test

@@ -33,9 +33,9 @@ struct Less {
 template <class Element>
 ZEB_Comparison own_comparison(const Element *key, const Element *element)
 {
-    if (*element > *key)
+    if (Less()(*key, *element))
         return 2;
-    if (*key > *element)
+    if (Less()(*element, *key))
         return 3;
     return 1;
 }

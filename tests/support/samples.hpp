@@ -77,6 +77,12 @@ bool precedes(Element left, Element right)
 }
 
 template <>
+inline bool precedes(char left, char right)
+{
+    return static_cast<signed char>(left) < static_cast<signed char>(right);
+}
+
+template <>
 inline bool precedes(ZEB_String *left, ZEB_String *right)
 {
     return std::string([left char_data], [left count]) < std::string([right char_data], [right count]);

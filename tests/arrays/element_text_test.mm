@@ -35,7 +35,7 @@ TEST(Element_Text, goes_by_the_writer_of_the_type)
     EXPECT_EQ(listed([ZEB_Double_Array link_to_doubles:doubles count:3]), "{0.1, 1e+07, 123457}");
     EXPECT_EQ(printed([ZEB_Double_Array link_to_doubles:doubles count:3]), "{0.1, 1e+07, 123456.789}");
 
-    char chars[] = {'a', -1};
+    char chars[] = {'a', '\xFF'};
     ZEB_String *const text = [ZEB_String link_to_chars:chars count:1];
     EXPECT_EQ(listed(text), "{a}");
     EXPECT_EQ(printed([ZEB_String link_to_chars:chars count:2]), "{97, -1}");

@@ -11,7 +11,7 @@ namespace
 
 uint8_t bytes[] = {7, 200, 3};
 double doubles[] = {0.1, 1e7, 123456.789};
-char chars[] = {'a', -1};
+char chars[] = {'a', '\xFF'};
 uint32_t units[] = {0x41, 0xE9};
 void *pointers[] = {reinterpret_cast<void *>(12)};
 

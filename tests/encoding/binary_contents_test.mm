@@ -11,13 +11,23 @@
 
 using namespace support;
 
+namespace
+{
+
+/// Words as this machine has them in memory.
+std::string words(std::initializer_list<uint32_t> values)
+{
+    return {reinterpret_cast<const char *>(values.begin()), values.size() * sizeof(uint32_t)};
+}
+
+} // namespace
+
 TEST(Binary_Header, is_recognised_in_both_byte_orders_and_else_not)
 {
     ZEB_String *const header = text("");
     ZEB_write_binary_header(header);
-    const uint32_t words[] = {0x50AB40CD, 0, 2, 4, 2, 1, 1};
-    EXPECT_EQ(text_of(header), "ZEB_EXTERNAL_BINARY_FORMAT_V1000" +
-                                   std::string(reinterpret_cast<const char *>(words), sizeof words) + "1111");
+    EXPECT_EQ(text_of(header),
+              "ZEB_EXTERNAL_BINARY_FORMAT_V1000" + words({0x50AB40CD, 0, 2, 4, 2, 1, 1}) + "1111");
     const auto needs_swap = [](ZEB_Char_Vector *text) {
         uint8_t answer = 9;
         ZEB_read_binary_header(text, &answer);
@@ -78,14 +88,14 @@ TEST(Binary_Contents, records_follow_one_another_without_padding)
     [bytes("") ZEB_encode_binary_contents:record];
     [bytes("\1\2\3") ZEB_encode_binary_contents:record];
     [indexes_of({1, 0xFFFFFFFE}) ZEB_encode_binary_contents:record];
-    EXPECT_EQ(text_of(record), std::string("\0\0\0\0\3\0\0\0\1\2\3\2\0\0\0\1\0\0\0\xFE\xFF\xFF\xFF", 23));
+    EXPECT_EQ(text_of(record), words({0, 3}) + "\1\2\3" + words({2, 1, 0xFFFFFFFE}));
 }
 
 TEST(Binary_Contents, a_buffer_may_be_its_own_record_and_a_link_refuses)
 {
     ZEB_String *const buffer = text("0123456789abcd");
     [buffer ZEB_encode_binary_contents:buffer];
-    EXPECT_EQ(text_of(buffer), "0123456789abcd" + std::string("\xE\0\0\0", 4) + "0123456789abcd");
+    EXPECT_EQ(text_of(buffer), "0123456789abcd" + words({14}) + "0123456789abcd");
     ZEB_String *const link = [ZEB_String link_to_chars:[buffer char_data] count:3];
     EXPECT_EQ(standard_error_of([&] { [buffer ZEB_encode_binary_contents:link]; }),
               fix_line("ZEB_encode_binary_contents:", "ZEB_String",

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <clocale>
 #include <cstdlib>
 #include <string>
@@ -12,8 +13,9 @@ inline bool set_made_locale(int category, const std::string &name, const std::st
 {
     const std::string folder = testing::TempDir() + "zeb_locales", locale = name + '.' + charset,
                       path = folder + '/' + locale;
-    const std::string make = "mkdir -p '" + folder + "' && { test -d '" + path + "' || localedef -i " + name +
-                             " -f " + charset + " '" + path + "'; } >/dev/null 2>&1";
+    const std::string order = std::endian::native == std::endian::big ? "--big-endian" : "--little-endian";
+    const std::string make = "mkdir -p '" + folder + "' && { test -d '" + path + "' || localedef " + order +
+                             " -i " + name + " -f " + charset + " '" + path + "'; } >/dev/null 2>&1";
     setenv("LOCPATH", folder.c_str(), 1);
     return std::system(make.c_str()) == 0 && std::setlocale(category, locale.c_str()) != nullptr;
 }

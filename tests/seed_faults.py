@@ -87,7 +87,8 @@ class Copy:
         built = run(["ninja", "-C", self.build, *targets])
         if built.returncode != 0:
             return False, "does not build"
-        tested = run(["ctest", "--test-dir", self.build, "-L", f"^{label}$", "--timeout", "300"])
+        # The corpora have programs of their own.
+        tested = run(["ctest", "--test-dir", self.build, "-L", f"^{label}$", "-E", "corpus_of", "--timeout", "300"])
         return tested.returncode == 0, "tests fail" if tested.returncode != 0 else "tests pass"
 
 def main():

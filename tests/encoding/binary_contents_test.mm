@@ -82,15 +82,6 @@ TEST(Binary_Contents, object_references_leave_no_trace)
     EXPECT_EQ([objects count], 0u);
 }
 
-TEST(Binary_Contents, records_follow_one_another_without_padding)
-{
-    ZEB_String *const record = text("");
-    [bytes("") ZEB_encode_binary_contents:record];
-    [bytes("\1\2\3") ZEB_encode_binary_contents:record];
-    [indexes_of({1, 0xFFFFFFFE}) ZEB_encode_binary_contents:record];
-    EXPECT_EQ(text_of(record), words({0, 3}) + "\1\2\3" + words({2, 1, 0xFFFFFFFE}));
-}
-
 TEST(Binary_Contents, a_buffer_may_be_its_own_record_and_a_link_refuses)
 {
     ZEB_String *const buffer = text("0123456789abcd");

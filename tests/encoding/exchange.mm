@@ -42,34 +42,6 @@ bool reads_document(const std::string &path)
     return load(table, file_at(path)) == 1 && [table isEqual:own_table()];
 }
 
-/// The raw values begin with a one that tells the byte order.
-bool write_values(const std::string &path)
-{
-    ZEB_Binary_File_Stream *const stream = [[[ZEB_Binary_File_Stream alloc] init] autorelease];
-    [stream open_for_writing:text(path)];
-    [stream write_unsigned:1];
-    for (uint32_t i = 0; i < 100; ++i) {
-        [stream write_double:i / 7.0];
-        [stream write_int:exchanged<int32_t>(i)];
-        [stream write_char:exchanged<char>(i)];
-    }
-    return [stream close] == 1;
-}
-
-bool reads_values(const std::string &path)
-{
-    ZEB_Binary_File_Stream *const stream = [[[ZEB_Binary_File_Stream alloc] init] autorelease];
-    [stream open_for_reading:text(path)];
-    [stream set_needs_swap:[stream read_unsigned] != 1];
-    bool is_the_same = true;
-    for (uint32_t i = 0; i < 100; ++i) {
-        is_the_same &= [stream read_double] == i / 7.0;
-        is_the_same &= [stream read_int] == exchanged<int32_t>(i);
-        is_the_same &= static_cast<char>([stream read_char]) == exchanged<char>(i);
-    }
-    return [stream close] == 1 && is_the_same;
-}
-
 } // namespace
 
 int main(int count, const char **arguments)
@@ -85,7 +57,6 @@ int main(int count, const char **arguments)
                                write_document<ZC_save_checked_document>,
                                reads_document<ZC_load_checked_document>});
     }
-    exchanges().push_back({"values", write_values, reads_values});
     std::filesystem::create_directories(arguments[2]);
     int status = 0;
     for (const Exchange &exchange : exchanges()) {

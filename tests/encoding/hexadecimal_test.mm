@@ -27,9 +27,6 @@ TEST(Hexadecimal, digits_and_fixed_text)
         ZEB_scan_hex32(&read, text_of_value);
         EXPECT_EQ(read, low);
     }
-    uint32_t kept = 7;
-    ZEB_scan_hex32(&kept, "none");
-    EXPECT_EQ(kept, 7u);
 }
 
 TEST(Hexadecimal, contents_are_listed_behind_what_is_there)

@@ -3,8 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Stream.h>
 
-#include <stddef.h>
 #include <stdarg.h>
+#include <stddef.h>
 
 #include <span>
 
@@ -32,8 +32,8 @@ inline void put(ZEB_Stream *stream, ZEB_Char_Span span)
 /// The size of the buffers through which streams print.
 inline constexpr size_t printing_size = 512;
 
-/// Prints the arguments through a format, in `buffer` if it is large enough, and writes the resulting bytes to
-/// a stream, if there are any. Returns false if they cannot be printed.
+/// Prints the arguments through a format, in `buffer` if it is large enough, and writes the resulting bytes
+/// to a stream, if there are any. Returns false if they cannot be printed.
 bool put_printed(ZEB_Stream *stream, std::span<char> buffer, const char *format, va_list arguments);
 
 } // namespace zeb::engine

@@ -5,8 +5,8 @@
 
 /**
  * Writes each value's bytes as they are in memory: 8 for a double and an unsigned long, 4 for an int, an
- * unsigned, a float, a character code and a hexadecimal number, 1 for a char. Strings are written as they are;
- * formats are ignored. The delimiters of a delimited list are text, also here.
+ * unsigned, a float, a character code and a hexadecimal number, 1 for a char. Strings are written as they
+ * are; formats are ignored. The delimiters of a delimited list are text, also here.
  *
  * A reader reads the same number of bytes and reverses them if `needs_swap` is set. Where fewer are left, it
  * returns 0 and increments `failure_count`.

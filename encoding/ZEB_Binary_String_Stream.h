@@ -5,12 +5,12 @@
 
 /**
  * Appends each value's bytes as they are in memory: 8 for a double and an unsigned long, 4 for an int, an
- * unsigned, a float, a character code and a hexadecimal number, 1 for a char. Strings are appended as they are;
- * formats are ignored.
+ * unsigned, a float, a character code and a hexadecimal number, 1 for a char. Strings are appended as they
+ * are; formats are ignored.
  *
- * A list has no delimiters, in either form. A delimited list that is not empty is followed by one more element:
- * what the slot behind its last element holds, or a zero value (nothing for strings and objects) where the
- * list is a link or its block ends there.
+ * A list has no delimiters, in either form. A delimited list that is not empty is followed by one more
+ * element: what the slot behind its last element holds, or a zero value (nothing for strings and objects)
+ * where the list is a link or its block ends there.
  */
 ZEB_EXPORT
 @interface ZEB_Binary_String_Stream : ZEB_String_Stream {

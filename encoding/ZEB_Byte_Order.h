@@ -9,7 +9,7 @@
 ZEB_EXTERN_C_BEGIN
 
 /** Each returns its argument with the bytes reversed. A float or double that comes out as a NaN keeps its
-   bits where the machine passes them unchanged; to be safe swap those as integers. */
+    bits where the machine passes them unchanged; to be safe swap those as integers. */
 ZEB_EXPORT int16_t ZC_swap_short(int16_t value);
 ZEB_EXPORT uint16_t ZC_swap_unsigned_short(uint16_t value);
 ZEB_EXPORT int32_t ZC_swap_int(int32_t value);

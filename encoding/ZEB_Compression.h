@@ -30,9 +30,9 @@ ZEB_EXPORT int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *source, ZEB_Str
                                                  uint32_t offset);
 
 /**
- * The same for foreign data: each appends at most `most` bytes. A stream that holds more, of whatever size, ends
- * with -5 (Z_BUF_ERROR) when they are appended; the destination has grown by its rule for that many, and not
- * beyond.
+ * The same for foreign data: each appends at most `most` bytes. A stream that holds more, of whatever size,
+ * ends with -5 (Z_BUF_ERROR) when they are appended; the destination has grown by its rule for that many, and
+ * not beyond.
  */
 ZEB_EXPORT int32_t ZC_decompress_string_to_string_within(ZEB_String *source, ZEB_String *destination,
                                                          uint32_t offset, uint32_t most);

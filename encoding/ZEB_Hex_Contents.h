@@ -8,10 +8,10 @@
 @class ZEB_String;
 
 /*
- * Each operation appends "{", the elements as lower-case digits without leading zeros and with ", " between them,
- * and "}"; "{}" for an empty vector. The buffer grows as for 6 characters a byte, 10 a 32-bit character, 18 a
- * pointer. A buffer that is a link reports "Cannot update capacity through link, no adjustment made."; then, for
- * nil, and if allocation fails, nothing is appended.
+ * Each operation appends "{", the elements as lower-case digits without leading zeros and with ", " between
+ * them, and "}"; "{}" for an empty vector. The buffer grows as for 6 characters a byte, 10 a 32-bit
+ * character, 18 a pointer. A buffer that is a link reports "Cannot update capacity through link, no
+ * adjustment made."; then, for nil, and if allocation fails, nothing is appended.
  */
 
 @interface ZEB_Byte_Vector (Hex_Contents)

@@ -12,7 +12,7 @@ ZEB_EXTERN_C_BEGIN
 ZEB_EXPORT void ZEB_format_hex32(char *text, uint32_t value);
 
 /** Reads a value from a terminated text, as scanf's "%08X" does: white space, an optional sign and "0x", and
-   at most eight characters of digits. A text without a digit leaves the value unchanged. */
+    at most eight characters of digits. A text without a digit leaves the value unchanged. */
 ZEB_EXPORT void ZEB_scan_hex32(uint32_t *value, const char *text);
 
 /** Write lower-case digits without leading zeros ("0" for 0) and a terminating null, a pointer to which is

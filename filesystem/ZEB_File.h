@@ -132,8 +132,8 @@ ZEB_EXPORT
 /** The platform's error code, as in <errno.h>, of the last operation that failed or lost bytes; 0 after a
     success. In addition to the platform's own causes: EINVAL for a path with a null inside, ENOMEM for an
     array that could not grow, ENODATA for a file without contents or shorter than the snapshot's size, EILSEQ
-    for contents that cannot be decompressed or are no document, EFBIG for contents above the greatest size, EIO for bytes that were not written, ECANCELED for a refusal by
-    the interceptor. */
+    for contents that cannot be decompressed or are no document, EFBIG for contents above the greatest size,
+    EIO for bytes that were not written, ECANCELED for a refusal by the interceptor. */
 - (int32_t)last_error;
 
 /** Sets the error, for an interceptor that acts in place of the entry. Each action starts with 0. */
@@ -160,8 +160,8 @@ ZEB_EXPORT
 - (uint8_t)contents_compressed;
 - (void)set_contents_compressed:(uint8_t)value;
 
-/** The greatest size of contents that are read, as stored and as decompressed; 0, the first value, for any that
-    an array can hold. Set it before you read foreign files. */
+/** The greatest size of contents that are read, as stored and as decompressed; 0, the first value, for any
+    that an array can hold. Set it before you read foreign files. */
 - (uint32_t)greatest_contents_size;
 - (void)set_greatest_contents_size:(uint32_t)value;
 

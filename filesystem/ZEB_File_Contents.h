@@ -12,9 +12,10 @@
 
 /** Replaces the contents of the destination with those of the file, decompressed if `contents_compressed` is
     set. A failure empties the destination and reports "Error opening file: ", "Error, zero content size for
-    file: " (the snapshot has no size), "Error, contents too large for file: " (`greatest_contents_size`), "Error reading contents of file: ", or "Error: Decompress failed while
-    reading contents of file: ". A file shorter than the snapshot's size is reported as a warning; the missing
-    bytes are read as zero, and `last_error` is ENODATA. */
+    file: " (the snapshot has no size), "Error, contents too large for file: " (`greatest_contents_size`),
+    "Error reading contents of file: ", or "Error: Decompress failed while reading contents of file: ". A file
+    shorter than the snapshot's size is reported as a warning; the missing bytes are read as zero, and
+    `last_error` is ENODATA. */
 - (void)read_contents:(ZEB_Byte_Array *)destination;
 
 /** The same operation under another name. */

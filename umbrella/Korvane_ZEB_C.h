@@ -1,5 +1,6 @@
 /*
- * The plain C headers of the framework: value types, calendar, number and byte-order functions, and the version.
+ * The plain C headers of the framework: value types, the functions of calendar, numbers and byte order, and
+ * the version.
  */
 #ifndef KORVANE_ZEB_C_H
 #define KORVANE_ZEB_C_H

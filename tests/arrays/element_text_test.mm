@@ -31,17 +31,16 @@ TEST(Element_Text, goes_by_the_writer_of_the_type)
     const struct {
         id array;
         const char *listed, *printed;
-    } rows[] = {
-        {some_bytes, "{7, 200, 3}", "{7, 200, 3}"},
-        {[ZEB_Double_Array link_to_doubles:doubles count:3], "{0.1, 1e+07, 123457}",
-         "{0.1, 1e+07, 123456.789}"},
-        {support::text("a"), "{a}", "{97}"},
-        {wide, "{'\\041', '\\0E9'}", "{65, 233}"},
-        {strings, "{a}", "{a}"},
-        {wides, "{A\xC3\xA9}", "{A\xC3\xA9}"},
-        {objects, "{{a}}", "{{a}}"},
-        {[ZEB_Pointer_Array link_to_pointers:pointers count:1], "{12}", "{12}"},
-        {[ZEB_Pointer_Array array_with_capacity:0], "{}", "{}"}};
+    } rows[] = {{some_bytes, "{7, 200, 3}", "{7, 200, 3}"},
+                {[ZEB_Double_Array link_to_doubles:doubles count:3], "{0.1, 1e+07, 123457}",
+                 "{0.1, 1e+07, 123456.789}"},
+                {support::text("a"), "{a}", "{97}"},
+                {wide, "{'\\041', '\\0E9'}", "{65, 233}"},
+                {strings, "{a}", "{a}"},
+                {wides, "{A\xC3\xA9}", "{A\xC3\xA9}"},
+                {objects, "{{a}}", "{{a}}"},
+                {[ZEB_Pointer_Array link_to_pointers:pointers count:1], "{12}", "{12}"},
+                {[ZEB_Pointer_Array array_with_capacity:0], "{}", "{}"}};
     ZEB_Stream *const stream = [ZEB_Stream shared_stream];
     for (const auto &row : rows) {
         EXPECT_EQ(support::standard_output_of([&] { [stream write_object:row.array]; }), row.listed);

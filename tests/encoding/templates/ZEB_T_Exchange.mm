@@ -32,7 +32,8 @@ bool write(const std::string &path)
 bool reads_the_same(const std::string &path)
 {
     std::string found = file_text(path);
-    ZEB_String *const file = [ZEB_String link_to_chars:found.data() count:static_cast<uint32_t>(found.size())];
+    ZEB_String *const file = [ZEB_String link_to_chars:found.data()
+                                                 count:static_cast<uint32_t>(found.size())];
     uint8_t needs_swap = 0;
     ZEB_read_binary_header(file, &needs_swap);
     [file relink_to_chars:found.data() + ZEB_BINARY_HEADER_SIZE count:[file count] - ZEB_BINARY_HEADER_SIZE];
@@ -41,7 +42,6 @@ bool reads_the_same(const std::string &path)
            encoded(decoded) == own_file();
 }
 
-[[maybe_unused]] const bool is_added =
-    (exchanges().push_back({"ZEB_T_Array", write, reads_the_same}), true);
+[[maybe_unused]] const bool is_added = (exchanges().push_back({"ZEB_T_Array", write, reads_the_same}), true);
 
 } // namespace

@@ -3,8 +3,7 @@
  */
 #import <Korvane_ZEB/ZEB_Object.h>
 
-@class ZEB_Char_Vector, ZEB_Stream;
-@class ZEB_Wide_String;
+@class ZEB_Char_Vector, ZEB_Stream, ZEB_Wide_String;
 
 /**
  * Keeps message text in a 32-bit string, as UTF-16 units, one per element.
@@ -38,6 +37,9 @@ ZEB_EXPORT
 /** Whether the other object is a message text with equal contents; `hash` agrees. */
 - (BOOL)isEqual:(id)other;
 - (NSUInteger)hash;
+
+/** Returns the text. */
+- (NSString *)description;
 
 /** Writes the text as UTF-8. */
 - (void)send_to_stream:(ZEB_Stream *)stream;

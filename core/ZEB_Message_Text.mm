@@ -3,6 +3,7 @@
 #import <Korvane_ZEB/ZEB_Stream.h>
 
 #import "arrays/ZEB_Printing_Private.h"
+#import "core/ZEB_Description_Stream_Private.h"
 #import "strings/ZEB_Text_Private.h"
 
 #include "core/engine/namespace.hpp"
@@ -52,7 +53,8 @@
 - (id)copyWithZone:(NSZone *)zone
 {
     ZEB_Message_Text *const made = [[[self class] allocWithZone:zone] init];
-    [made->text set_contents_of_array:text];
+    if (made != nil)
+        [made->text set_contents_of_array:text];
     return made;
 }
 
@@ -67,6 +69,11 @@
 - (NSUInteger)hash
 {
     return [text hash];
+}
+
+- (NSString *)description
+{
+    return engine::description_of(self);
 }
 
 - (void)send_to_stream:(ZEB_Stream *)stream

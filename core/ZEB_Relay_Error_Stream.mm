@@ -7,7 +7,6 @@
 #import "core/ZEB_Error_Stream_Private.h"
 #import "core/ZEB_Stream_Private.h"
 
-#include "core/engine/c_locale.hpp"
 #include "core/engine/formatted_text.hpp"
 #include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
@@ -175,7 +174,6 @@ void append_pieces(ZEB_String *string, engine::Message_Pieces pieces)
 {
     va_list arguments;
     va_start(arguments, format);
-    const engine::C_Locale_Scope in_c_locale;
     char buffer[engine::printing_size];
     const engine::Formatted_Text text(buffer, format, arguments);
     va_end(arguments);

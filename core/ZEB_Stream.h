@@ -96,7 +96,7 @@ ZEB_EXPORT
  * All output of a stream (values, strings, objects, lists, and the diagnostics of an error stream) ends in
  * `put_bytes:length:`, so a subclass that overrides this one operation redirects all of it; the unsigned-long
  * writers of an error stream alone write to the shared stream. All input comes from
- * `take_format:arguments:`. While a value is formatted or scanned the thread is in the "C" locale.
+ * `take_format:arguments:`, which is called in the "C" locale.
  *
  *     @interface Log_Stream : ZEB_Stream {
  *         NSMutableData *log;
@@ -116,8 +116,8 @@ ZEB_EXPORT
     receive a length of 0. */
 - (void)put_bytes:(const char *)bytes length:(uint32_t)length;
 
-/** Prints the arguments through a printf format, and puts the resulting bytes; nothing if there are none or
-    the C library fails. Values in their first format do not pass through here. */
+/** Prints the arguments through a printf format in the "C" locale, and puts the resulting bytes; nothing if
+   there are none or the C library fails. Values in their first format do not pass through here. */
 - (void)put_format:(const char *)format arguments:(va_list)arguments;
 
 /** Scans standard input through a scanf format and returns the number of fields stored. */

@@ -19,7 +19,6 @@ void put_formatted(ZEB_Stream *stream, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
-    const engine::C_Locale_Scope in_c_locale;
     [stream put_format:format arguments:arguments];
     va_end(arguments);
 }

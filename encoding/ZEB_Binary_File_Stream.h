@@ -20,9 +20,6 @@ ZEB_EXPORT
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** Initialises a stream without a file. */
-- (id)init;
-
 /** Whether the file was written on a machine of the other byte order: 1 for yes, 0 at first. */
 - (uint8_t)needs_swap;
 - (void)set_needs_swap:(uint8_t)value;

@@ -15,11 +15,6 @@
     return engine::proprietary_software_notice;
 }
 
-- (id)init
-{
-    return [super init];
-}
-
 - (uint8_t)needs_swap
 {
     return needs_swap;

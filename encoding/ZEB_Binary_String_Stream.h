@@ -9,7 +9,7 @@
  * are; formats are ignored.
  *
  * A list has no delimiters, in either form. A delimited list that is not empty is followed by one more
- * element: what the slot behind its last element holds, or a zero value (nothing for strings and objects)
+ * element: what the slot after its last element holds, or a zero value (nothing for strings and objects)
  * where the list is a link or its block ends there.
  */
 ZEB_EXPORT

@@ -61,8 +61,8 @@ ZEB_EXPORT
     string is then unchanged or, if fewer bytes came, filled up with zeros. */
 - (void)read_contents:(ZEB_String *)string;
 
-/** The path, which the stream owns, with a null behind its last character. Setting it opens nothing; a path
-    that does not begin with "/" is put behind the default directory. A null at the end of
+/** The path, which the stream owns, with a null after its last character. Setting it opens nothing; a path
+    that does not begin with "/" is appended to the default directory. A null at the end of
     the counted path is left out. */
 - (ZEB_String *)path;
 - (void)set_path:(ZEB_String *)name;

@@ -44,6 +44,18 @@ std::optional<uint64_t> size_of_file(ZEB_String *path)
     return static_cast<uint64_t>(status.st_size);
 }
 
+/// Reads `length` bytes into a string, which is filled up with zeros if fewer come and unchanged if it cannot
+/// hold them. Returns whether all came.
+bool read_all(FILE *file, ZEB_String *string, uint32_t length)
+{
+    [string set_length:length];
+    if ([string count] != length)
+        return false;
+    const size_t count = fread([string char_data], 1, length, file);
+    memset([string char_data] + count, 0, length - count);
+    return count == length;
+}
+
 } // namespace
 
 @interface ZEB_File_Stream (Opening)
@@ -126,9 +138,7 @@ std::optional<uint64_t> size_of_file(ZEB_String *path)
 
 - (uint8_t)flush
 {
-    std::optional<engine::Without_Pipe_Signal> scope;
-    if (may_signal)
-        scope.emplace();
+    const engine::Without_Pipe_Signal scope(may_signal);
     if (file == NULL || fflush(file) != 0)
         ++failure_count;
     return [self is_good];
@@ -152,16 +162,7 @@ std::optional<uint64_t> size_of_file(ZEB_String *path)
     const std::optional<uint64_t> size = size_of_file(path);
     if (file != NULL && size == 0U)
         return;
-    const uint32_t length = size.value_or(0) <= UINT32_MAX ? static_cast<uint32_t>(size.value_or(0)) : 0;
-    if (file != NULL && length != 0)
-        [string set_length:length];
-    if (file == NULL || length == 0 || [string count] != length) {
-        ++failure_count;
-        return;
-    }
-    const size_t count = fread([string char_data], 1, length, file);
-    memset([string char_data] + count, 0, length - count);
-    if (count < length)
+    if (file == NULL || !size || *size > UINT32_MAX || !read_all(file, string, static_cast<uint32_t>(*size)))
         ++failure_count;
 }
 
@@ -241,9 +242,7 @@ std::optional<uint64_t> size_of_file(ZEB_String *path)
 /// Closes the file and returns whether that succeeded.
 - (BOOL)forget_file
 {
-    std::optional<engine::Without_Pipe_Signal> scope;
-    if (may_signal)
-        scope.emplace();
+    const engine::Without_Pipe_Signal scope(may_signal);
     const BOOL is_closed = file == NULL || fclose(file) == 0;
     file = NULL;
     may_signal = 0;
@@ -252,9 +251,7 @@ std::optional<uint64_t> size_of_file(ZEB_String *path)
 
 - (BOOL)put_all:(const char *)bytes length:(uint32_t)length
 {
-    std::optional<engine::Without_Pipe_Signal> scope;
-    if (may_signal)
-        scope.emplace();
+    const engine::Without_Pipe_Signal scope(may_signal);
     return file != NULL && (length == 0 || fwrite(bytes, 1, length, file) == length);
 }
 

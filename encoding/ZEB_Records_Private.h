@@ -42,6 +42,13 @@ void encode(Vector_Storage<Counted_References<Policy>> vector, Record_Buffer buf
     encode_references(vector, buffer, report);
 }
 
+/// Returns the size of the record of an array of objects.
+template <class Policy>
+uint64_t size_of_record(Vector_Storage<Held_Objects<Policy>> vector)
+{
+    return extent_of_record(vector, {}, Storage_Of_Object()).size;
+}
+
 template <class Element>
 uint32_t decode(Array_Storage<Plain_Elements<Element>> array, Record_Source source, Fix_Report report)
 {

@@ -26,7 +26,7 @@ ZEB_EXPORT uint32_t ZC_save_document(ZEB_Wide_String_Array *table, ZEB_File *fil
  */
 ZEB_EXPORT uint32_t ZC_load_document(ZEB_Wide_String_Array *table, ZEB_File *file);
 
-/** Saves a document in the same way, with the CRC-32 of all its bytes behind the record, and "CRC1" in place
+/** Saves a document in the same way, with the CRC-32 of all its bytes after the record, and "CRC1" in place
     of the last four characters of the header. */
 ZEB_EXPORT uint32_t ZC_save_checked_document(ZEB_Wide_String_Array *table, ZEB_File *file);
 

@@ -7,12 +7,11 @@
 #import <Korvane_ZEB/ZEB_Wide_String_Array.h>
 #import <Korvane_ZEB/ZEB_Wide_String_Binary_Contents.h>
 
-#import "arrays/ZEB_Char_Storage_Private.h"
 #import "arrays/ZEB_Wide_String_Storage_Private.h"
+#import "encoding/ZEB_Records_Private.h"
 #import "filesystem/ZEB_File_Private.h"
 
 #include "core/engine/namespace.hpp"
-#include "encoding/engine/binary_record.hpp"
 #include "encoding/engine/checked_document.hpp"
 #include "filesystem/engine/file_messages.hpp"
 
@@ -25,33 +24,30 @@ namespace
 
 enum class Form { plain, checked };
 
-/// Returns the size of a table's record.
-uint64_t record_size(ZEB_Wide_String_Array *table)
+/// Appends the check sum. Returns false, after a report, if there is no memory for it.
+bool append_check_sum(ZEB_String *document)
 {
-    uint64_t size = engine::record_count_size;
-    for (ZEB_Wide_String *const string : engine::storage_of_array(table).elements())
-        size += engine::record_count_size + uint64_t{[string count]} * sizeof(uint32_t);
-    return size;
+    const uint32_t length = [document count];
+    [document extend_length_by:engine::check_sum_size];
+    if ([document count] == length)
+        return false;
+    engine::add_check_sum([document char_data], length);
+    return true;
 }
 
 /// Returns a new document, owned by the caller; nil, after a report, if there is no memory for it.
 ZEB_String *new_document(ZEB_Wide_String_Array *table, Form form)
 {
-    constexpr uint64_t allowance = 196 - engine::record_count_size;
-    const uint64_t size = ZEB_BINARY_HEADER_SIZE + record_size(table);
-    const uint64_t estimate = size - ZEB_BINARY_HEADER_SIZE + allowance;
+    constexpr uint64_t allowance = 192; // the header, and more
+    const uint64_t size = engine::size_of_record(engine::storage_of_array(table));
     ZEB_String *const document = [[ZEB_String alloc]
-        init_with_capacity:static_cast<uint32_t>(std::min<uint64_t>(estimate, UINT32_MAX))];
+        init_with_capacity:static_cast<uint32_t>(std::min<uint64_t>(size + allowance, UINT32_MAX))];
     ZEB_write_binary_header(document);
     [table ZEB_encode_binary_contents:document];
-    const bool is_whole = [document count] == size;
-    if (is_whole && form == Form::plain)
+    const bool is_whole = [document count] == ZEB_BINARY_HEADER_SIZE + size &&
+                          (form == Form::plain || append_check_sum(document));
+    if (is_whole)
         return document;
-    [document extend_length_by:engine::check_sum_size];
-    if (is_whole && [document count] == size + engine::check_sum_size) {
-        engine::add_check_sum([document char_data], static_cast<uint32_t>(size));
-        return document;
-    }
     [document release];
     return nil;
 }
@@ -74,16 +70,14 @@ uint32_t save(ZEB_Wide_String_Array *table, ZEB_File *file, Form form)
 /// Whether the contents of a file may be decoded. Reports if not.
 bool is_document(ZEB_File *file, ZEB_Char_Vector *contents, uint8_t needs_swap, Form form)
 {
-    const bool is_long_enough = [contents count] > ZEB_BINARY_HEADER_SIZE;
-    if (!is_long_enough)
+    if ([contents count] <= ZEB_BINARY_HEADER_SIZE) {
         engine::report_failure(file, messages::error_no_document, EILSEQ);
-    if (!is_long_enough || form == Form::plain)
-        return is_long_enough;
-    const bool is_damaged = engine::check_document([contents char_data], [contents count], needs_swap != 0) ==
-                            engine::Document_Check::damaged;
-    if (is_damaged)
-        engine::report_failure(file, messages::error_check_sum, EILSEQ);
-    return !is_damaged;
+        return false;
+    }
+    if (form == Form::plain || !engine::is_damaged([contents char_data], [contents count], needs_swap != 0))
+        return true;
+    engine::report_failure(file, messages::error_check_sum, EILSEQ);
+    return false;
 }
 
 void number_elements(ZEB_Wide_String_Array *table)

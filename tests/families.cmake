@@ -3,5 +3,4 @@ zeb_class_templates(TESTS
   tests/arrays/templates/ZEB_T_Differential_test.mm
   tests/arrays/templates/ZEB_T_Samples.hpp
   tests/arrays/templates/ZEB_T_Storage_test.mm
-  tests/encoding/templates/ZEB_T_Exchange.mm
   tests/encoding/templates/ZEB_T_Round_Trip_test.mm)

@@ -1,5 +1,7 @@
 #include "core/engine/formatted_text.hpp"
 
+#include "core/engine/c_locale.hpp"
+
 #include <cstddef>
 #include <cstdio>
 #include <new>
@@ -10,6 +12,7 @@ namespace zeb::engine
 Formatted_Text::Formatted_Text(std::span<char> buffer, const char *format, va_list arguments) noexcept
     : short_text(buffer.data())
 {
+    const C_Locale_Scope in_c_locale;
     va_list again;
     va_copy(again, arguments);
     length = std::vsnprintf(buffer.data(), buffer.size(), format, arguments);

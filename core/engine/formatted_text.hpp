@@ -9,8 +9,8 @@
 namespace zeb::engine
 {
 
-/// The text of a printf format and its arguments, of any length that 32 bits can count: in the buffer given,
-/// or in memory of its own if that is too small.
+/// The text of a printf format and its arguments in the "C" locale, of any length that 32 bits can count: in
+/// the buffer given, or in memory of its own if that is too small.
 class Formatted_Text
 {
 public:

@@ -22,7 +22,7 @@ struct Record_Source {
 
 inline constexpr std::uint32_t record_count_size = sizeof(std::uint32_t);
 
-/// Writes a record and returns the position behind it.
+/// Writes a record and returns the position after it.
 inline char *put_record(char *out, std::uint32_t count, const void *elements, std::size_t size) noexcept
 {
     std::memcpy(out, &count, record_count_size);
@@ -63,24 +63,24 @@ void encode_plain(Vector_Storage<Plain_Elements<Element>> vector, Record_Buffer 
     append_record(buffer, vector.count, vector.data, std::uint64_t{vector.count} * sizeof(Element), report);
 }
 
-/// What the records of an array of objects come to.
-struct Records_Extent {
+/// The size of the record of an array of objects, and whether an object views a block.
+struct Record_Extent {
     std::uint64_t size;
-    bool overlaps_buffer;
+    bool overlaps_block;
 };
 
-/// Adds up the records of an array's objects.
+/// Measures the record of an array of objects. `storage_of` returns an object's storage.
 template <class Policy, class Storage_Of>
-Records_Extent extent_of_records(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer,
-                                 Storage_Of storage_of) noexcept
+Record_Extent extent_of_record(Vector_Storage<Held_Objects<Policy>> vector, std::span<const char> block,
+                               Storage_Of storage_of) noexcept
 {
-    Records_Extent extent{record_count_size, false};
+    Record_Extent extent{record_count_size, false};
     for (const typename Policy::Element element : vector.elements()) {
         const auto elements = storage_of(element).elements();
         const std::span<const char> bytes(reinterpret_cast<const char *>(elements.data()),
                                           elements.size_bytes());
         extent.size += record_count_size + bytes.size();
-        extent.overlaps_buffer = extent.overlaps_buffer || overlaps(bytes, buffer.data, buffer.capacity);
+        extent.overlaps_block = extent.overlaps_block || overlaps(bytes, block.data(), block.size());
     }
     return extent;
 }
@@ -98,22 +98,21 @@ void put_records(char *out, Vector_Storage<Held_Objects<Policy>> vector, Storage
 }
 
 /// Appends the count of an array of objects and the record of each object, which may view the buffer.
-/// `storage_of` returns an object's storage.
 template <class Policy, class Storage_Of, class Report>
 void encode_held(Vector_Storage<Held_Objects<Policy>> vector, Record_Buffer buffer, Storage_Of storage_of,
                  Report report) noexcept
 {
     if (buffer.is_link())
         return report(notes::room_through_link);
-    const Records_Extent extent = extent_of_records(vector, buffer, storage_of);
-    const Scratch<char> aside(extent.overlaps_buffer ? extent.size : 0);
+    const Record_Extent extent = extent_of_record(vector, {buffer.data, buffer.capacity}, storage_of);
+    const Scratch<char> aside(extent.overlaps_block ? extent.size : 0);
     if (aside.get() != nullptr)
         put_records(aside.get(), vector, storage_of);
-    else if (extent.overlaps_buffer)
+    else if (extent.overlaps_block)
         return report(notes::reallocate_failed);
     if (!grow(buffer, buffer.count + extent.size, report))
         return;
-    if (extent.overlaps_buffer)
+    if (extent.overlaps_block)
         std::memcpy(buffer.data + buffer.count, aside.get(), extent.size);
     else
         put_records(buffer.data + buffer.count, vector, storage_of);
@@ -139,7 +138,8 @@ inline std::uint32_t record_size(Record_Source source, std::size_t element_size)
     return size <= source.length ? static_cast<std::uint32_t>(size) : 0;
 }
 
-inline Record_Source behind(Record_Source source, std::uint32_t size) noexcept
+/// Returns what follows the first `size` bytes.
+inline Record_Source rest_of(Record_Source source, std::uint32_t size) noexcept
 {
     return {source.bytes + size, source.length - size, source.needs_swap};
 }
@@ -151,7 +151,7 @@ inline std::uint32_t nested_record_size(Record_Source source, std::size_t elemen
         return 0;
     std::uint32_t size = record_count_size;
     for (std::uint32_t left = read_count(source.bytes, source.needs_swap); left != 0; --left) {
-        const std::uint32_t nested = record_size(behind(source, size), element_size);
+        const std::uint32_t nested = record_size(rest_of(source, size), element_size);
         if (nested == 0)
             return 0;
         size += nested;
@@ -226,7 +226,7 @@ inline Record_Elements take_record(Record_Source &source, std::size_t element_si
 {
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
     const Record_Elements elements{source.bytes + record_count_size, count};
-    source = behind(source, static_cast<std::uint32_t>(record_count_size + count * element_size));
+    source = rest_of(source, static_cast<std::uint32_t>(record_count_size + count * element_size));
     return elements;
 }
 
@@ -267,7 +267,7 @@ std::uint32_t decode_held(Array_Storage<Held_Objects<Policy>> array, Record_Sour
             return decode_held(array, {aside.elements().data(), size, source.needs_swap}, storage_of, report);
     }
     const std::uint32_t count = read_count(source.bytes, source.needs_swap);
-    Record_Source nested = behind(source, record_count_size);
+    Record_Source nested = rest_of(source, record_count_size);
     if (!grow_for_record(array, count, report) ||
         !grow_for_nested_records(array, count, nested, storage_of, report))
         return 0;

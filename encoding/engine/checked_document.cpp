@@ -27,16 +27,15 @@ void add_check_sum(char *document, std::uint32_t length) noexcept
     std::memcpy(document + length, &sum, check_sum_size);
 }
 
-Document_Check check_document(const char *document, std::uint32_t length, bool needs_swap) noexcept
+bool is_damaged(const char *document, std::uint32_t length, bool needs_swap) noexcept
 {
     if (length < binary_header_size + check_sum_size)
-        return Document_Check::damaged;
+        return true;
     if (has_tail(document, plain_header_tail))
-        return Document_Check::plain;
+        return false;
     const std::uint32_t summed = length - check_sum_size;
     const std::uint32_t stored = read_count(document + summed, needs_swap);
-    const bool is_intact = has_tail(document, checked_header_tail) && stored == check_sum(document, summed);
-    return is_intact ? Document_Check::intact : Document_Check::damaged;
+    return !has_tail(document, checked_header_tail) || stored != check_sum(document, summed);
 }
 
 } // namespace zeb::engine

@@ -6,7 +6,7 @@
 namespace zeb::engine
 {
 
-/// Returns what the slot behind the last element holds, if the array owns a block that has one: a value of
+/// Returns what the slot after the last element holds, if the array owns a block that has one: a value of
 /// any kind for plain elements, an object that the array made and keeps for reuse; else 0 or nil.
 template <class Kind>
 typename Kind::Element element_past_end(Array_Storage<Kind> array) noexcept

@@ -4,8 +4,6 @@
 #include "arrays/engine/storage/insertion.hpp"
 #include "encoding/engine/hexadecimal.hpp"
 
-#include <cstring>
-
 namespace zeb::engine
 {
 
@@ -20,14 +18,11 @@ void append_hex_contents(Vector_Storage<Plain_Elements<Element>> vector,
     const Unaliased_Values<Element> source({}, vector.elements(), buffer.data, buffer.capacity);
     if (!source.is_valid())
         return report(notes::reallocate_failed);
-    const std::uint64_t n = vector.count;
-    const std::uint64_t room = n == 0 ? 2 : n * hex_room_per_value<Element>;
+    const std::uint64_t room = vector.count == 0 ? 2 : vector.count * hex_room_per_value<Element>;
     if (!grow(buffer, buffer.count + room, report))
         return;
-    char *const text = buffer.data + buffer.count;
-    if (n == 0)
-        std::memcpy(text, "{}", 2);
-    const char *const end = n == 0 ? text + 2 : put_hex_list(text, source.elements().data(), n);
+    const char *const end =
+        put_hex_list(buffer.data + buffer.count, source.elements().data(), source.elements().size());
     buffer.count = static_cast<std::uint32_t>(end - buffer.data);
 }
 

@@ -26,19 +26,22 @@ constexpr Byte_Texts make_byte_texts() noexcept
 
 constexpr Byte_Texts byte_texts = make_byte_texts();
 
-/// Writes a list whose values `put` writes, each with the separator behind it, the last of which becomes "}".
+/// Writes a list whose values `put` writes, each with the separator after it, the last of which becomes "}".
 template <class Value, class Put>
 char *put_list(char *out, const Value *values, std::size_t n, Put put) noexcept
 {
     *out++ = '{';
     for (std::size_t i = 0; i + 1 < n; ++i)
         out = put(out, values[i]);
-    // The room may end with the list.
-    char last[24];
-    const std::size_t length = static_cast<std::size_t>(put(last, values[n - 1]) - last) - 2;
-    std::memcpy(out, last, length);
-    out[length] = '}';
-    return out + length + 1;
+    if (n != 0) {
+        // The room may end with the list.
+        char last[24];
+        const std::size_t length = static_cast<std::size_t>(put(last, values[n - 1]) - last) - 2;
+        std::memcpy(out, last, length);
+        out += length;
+    }
+    *out = '}';
+    return out + 1;
 }
 
 char *put_separated(char *out, std::uint64_t value) noexcept

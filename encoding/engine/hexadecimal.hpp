@@ -20,8 +20,7 @@ template <>
 inline constexpr std::uint64_t hex_room_per_value<std::uint8_t> = 6;
 
 /// Writes "{", the values with ", " between them, and "}". There must be room for `hex_room_per_value`
-/// characters for each value, of which there must be one at least. Returns the position after the last
-/// character.
+/// characters for each value; for two if there is none. Returns the position after the last character.
 char *put_hex_list(char *out, const std::uint8_t *values, std::size_t n) noexcept;
 char *put_hex_list(char *out, const std::uint32_t *values, std::size_t n) noexcept;
 char *put_hex_list(char *out, void *const *values, std::size_t n) noexcept;

@@ -31,13 +31,14 @@ bool may_raise_pipe_signal(int descriptor) noexcept
     return fstat(descriptor, &status) == 0 && (S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode));
 }
 
-Without_Pipe_Signal::Without_Pipe_Signal() noexcept : was_pending(is_pending())
+void Without_Pipe_Signal::block() noexcept
 {
+    was_pending = is_pending();
     const sigset_t set = pipe_signal();
     pthread_sigmask(SIG_BLOCK, &set, &former);
 }
 
-Without_Pipe_Signal::~Without_Pipe_Signal()
+void Without_Pipe_Signal::unblock() noexcept
 {
     const int error = errno;
     const sigset_t set = pipe_signal();

@@ -40,6 +40,8 @@ void copy_swapped(Word *words, const std::uint8_t *bytes, std::size_t count)
 #else
     const Bytes d;
     const std::size_t N = hn::Lanes(d) / sizeof(Word);
+    if (reinterpret_cast<std::uintptr_t>(words) % sizeof(Word) != 0)
+        return plain::copy_swapped(words, bytes, count);
     std::uint8_t *const out = reinterpret_cast<std::uint8_t *>(words);
     const auto swapped = [=](std::size_t index) HWY_ATTR {
         return reversed_words<Word>(hn::LoadU(d, bytes + index * sizeof(Word)));

@@ -8,7 +8,7 @@ namespace zeb::engine::kernels
 {
 
 struct Swap_Kernels {
-    /// Copies `count` values from `bytes`, which need no alignment and may lie behind the start
+    /// Copies `count` values from `bytes`, which need no alignment and may lie after the start
     /// of the words in the same memory.
     void (*copy_swapped_32)(std::uint32_t *words, const std::uint8_t *bytes, std::size_t count);
     void (*copy_swapped_64)(std::uint64_t *words, const std::uint8_t *bytes, std::size_t count);

@@ -18,7 +18,8 @@ void copy_swapped(Word *words, const std::uint8_t *bytes, std::size_t count) noe
     for (std::size_t i = 0; i < count; ++i) {
         Word word;
         std::memcpy(&word, bytes + i * sizeof word, sizeof word);
-        words[i] = swap_bytes(word);
+        word = swap_bytes(word);
+        std::memcpy(words + i, &word, sizeof word);
     }
 }
 

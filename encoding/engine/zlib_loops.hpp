@@ -27,7 +27,7 @@ struct Zlib_Output {
     /// Appends a chunk; false if the destination cannot grow.
     bool (*append)(void *destination, const char *bytes, std::uint32_t length);
 
-    /// Returns the room behind the contents that an append would fill without growing; size 0 for none.
+    /// Returns the room after the contents that an append would fill without growing; size 0 for none.
     Output_Room (*room)(void *destination);
 
     /// Makes the first `length` bytes of that room contents.

@@ -61,7 +61,6 @@ protected:
 
 TEST_F(Relay, every_write_is_echoed_and_told)
 {
-    ZEB_Int_Array *const list = ints({1, 2});
     const auto write = [&] {
         [stream write_int:1];
         [stream write_double_with_format:0.5 format:"<%g>"];
@@ -71,7 +70,7 @@ TEST_F(Relay, every_write_is_echoed_and_told)
         [stream write_string:text("\xE9")];
         [stream write_bytes:"" length:0];
         [stream write_unsigned_long:5];
-        [stream ZEB_send_delimited_list:list];
+        [stream ZEB_send_delimited_list:ints({1, 2})];
         [stream write_class:[ZEB_String class]];
         [stream write_selector_with_format:@selector(count) format:"(%s)"];
         [stream set_char_format:"[%c]"];
@@ -123,5 +122,5 @@ TEST_F(Relay, a_holder_keeps_its_own_text)
     EXPECT_FALSE([first isEqual:[own text]]);
     [own set_from_string:nil];
     EXPECT_EQ([[own text] count], 0u);
-    EXPECT_EQ(standard_output_of([&] { [copy send_to_stream:[ZEB_Stream shared_stream]]; }), "2");
+    EXPECT_STREQ([[copy description] UTF8String], "2");
 }

@@ -3,7 +3,9 @@
 // some and GTEST_TOTAL_SHARDS makes shares for several processes; else a slice of each.
 
 #include "calendar/ZEB_Calendar_Functions.h"
+#include "core/engine/namespace.hpp"
 #include "numbers/ZEB_Number_Functions.h"
+#include "numbers/engine/general_text.hpp"
 #include "tests/reference/calendar.hpp"
 #include "tests/reference/number_text.hpp"
 
@@ -120,6 +122,21 @@ std::string double_text(std::uint64_t index)
     return text_difference(reference::pretty_double(value), ZC_pretty_format_double, value);
 }
 
+// Every float, and doubles.
+std::string general_text(std::uint64_t index)
+{
+    const auto bits = static_cast<std::uint32_t>(index / 2);
+    const double value = index % 2 == 0 ? static_cast<double>(std::bit_cast<float>(bits)) : double_at(index);
+    char expected[64];
+    std::snprintf(expected, sizeof expected, "%g", value);
+    const auto write = [](char *text, double x) {
+        char *const end = engine::put_general(text, x);
+        *end = '\0';
+        return end;
+    };
+    return text_difference(expected, write, value);
+}
+
 // Every count of decimals, in the range that has a fixed text; half of the numbers have few decimals or ties.
 std::string fixed_text(std::uint64_t index)
 {
@@ -151,6 +168,7 @@ const Sweep all_sweeps[] = {
     {"float_text", all_32_bit_values, float_text},
     {"double_text", 128000000, double_text},
     {"fixed_text", 128000000, fixed_text},
+    {"general_text", 2 * all_32_bit_values, general_text},
 };
 
 #ifdef ZEB_SWEEP_ALL

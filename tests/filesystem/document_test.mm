@@ -1,6 +1,7 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
 #include "tests/support/captured.hpp"
+#include "tests/support/exchange.hpp"
 #include "tests/support/scratch_folder.hpp"
 #include "tests/support/strings.hpp"
 
@@ -60,6 +61,10 @@ TEST_F(Documents, either_form_is_read_by_both)
         for (const auto save : {ZC_save_document, ZC_save_checked_document})
             for (const auto load_table : {ZC_load_document, ZC_load_checked_document}) {
                 EXPECT_EQ(save(table, file), 1u);
+                const std::string name = std::string("document_") + (is_compressed ? "z" : "") +
+                                         (save == ZC_save_document ? "plain" : "checked");
+                leave_for_others(name, file_text(path));
+                put_file(path, left_by_others(name).value_or(file_text(path)));
                 EXPECT_EQ(load(load_table), 1u);
                 EXPECT_TRUE(is_the_same);
                 EXPECT_EQ(last_index, 2);

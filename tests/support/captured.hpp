@@ -51,8 +51,6 @@ private:
     int saved;
 };
 
-using Captured_Output = Redirection;
-
 template <class Work>
 std::string standard_error_of(Work work)
 {

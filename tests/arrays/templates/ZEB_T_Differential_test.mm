@@ -292,7 +292,7 @@ private:
     uint32_t turns = 0;
     const char *failure;
     std::string selector, lines;
-    support::Captured_Output captured{stderr};
+    support::Redirection captured{stderr};
 };
 
 uint64_t extremes_of(ZEB_T_Vector *vector)

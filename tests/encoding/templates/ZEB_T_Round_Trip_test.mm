@@ -2,6 +2,7 @@
 #include "tests/arrays/ZEB_T_Samples.hpp"
 #include "tests/support/captured.hpp"
 #include "tests/support/diagnostic.hpp"
+#include "tests/support/exchange.hpp"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,7 @@ using namespace support;
 namespace
 {
 
-/// The record of a machine of the other byte order: every value behind the count reversed.
+/// The record of a machine of the other byte order: every value after the count reversed.
 ZEB_String *swapped(ZEB_String *record)
 {
     ZEB_String *const made = [record duplicate];
@@ -47,6 +48,17 @@ TEST(ZEB_T_Round_Trip, comes_back_the_same_or_not_at_all)
         ZEB_T_Array *const from_afar = array_of({9});
         EXPECT_EQ(decode(from_afar, swapped(record), 1), [record count]);
         EXPECT_EQ(numbers_of(from_afar), all);
+    }
+    ZEB_String *const file = text("");
+    ZEB_write_binary_header(file);
+    [file append_array:record];
+    leave_for_others("ZEB_T_Array", text_of(file));
+    if (const auto theirs = left_by_others("ZEB_T_Array")) {
+        uint8_t needs_swap;
+        ZEB_read_binary_header(text(*theirs), &needs_swap);
+        ZEB_T_Array *const from_others = array_of({9});
+        decode(from_others, text(theirs->substr(std::min<size_t>(64, theirs->size()))), needs_swap);
+        EXPECT_EQ(numbers_of(from_others), all);
     }
     for (const uint32_t length : {0u, 3u, 4u, 5u, [record count] - 1}) {
         ZEB_String *const part = [ZEB_String link_to_chars:[record char_data] count:length];

@@ -74,19 +74,30 @@ ZEB_EXPORT
     rights of the previous snapshot stay set. Returns 1, or the interceptor's result. */
 - (uint32_t)refresh_status;
 
+/** Reads the status of the entry itself, in the same way: a symbolic link has the kind of one, and is not
+    followed. */
+- (uint32_t)refresh_link_status;
+
 @end
 
 /** The snapshot taken by the last `refresh_status`, and the attributes of created entries. */
 @interface ZEB_File (Status)
 
-/** Returns 1 if an entry existed. */
+/** Whether an entry existed, its type, and its size in bytes. An interceptor that refreshes the status sets
+    them; nothing changes on disk. */
 - (uint8_t)exists;
-
-/** Returns the type of the entry. */
+- (void)set_exists:(uint8_t)value;
 - (ZEB_File_Kind)kind;
-
-/** Returns the size in bytes. */
+- (void)set_kind:(ZEB_File_Kind)value;
 - (uint64_t)size;
+- (void)set_size:(uint64_t)value;
+
+/** Returns 1 if something exists at the path now. The snapshot does not change. */
+- (uint8_t)exists_now;
+
+/** Whether the snapshot's effective access has every requested right. */
+- (uint8_t)has_access:(uint8_t)execute write:(uint8_t)write read:(uint8_t)read;
+- (uint8_t)has_access:(uint8_t)write read:(uint8_t)read;
 
 /** Times since 1970-01-01 00:00. */
 - (ZEB_Time_Value)access_time;

@@ -10,6 +10,8 @@
 #include "core/engine/notice.hpp"
 #include "filesystem/engine/file_status.hpp"
 
+#include <fcntl.h>
+
 namespace
 {
 
@@ -55,6 +57,8 @@ void set_rights(engine::Access_Rights rights, uint8_t &read, uint8_t &write, uin
 - (id)copyWithZone:(NSZone *)zone
 {
     ZEB_File *const made = [[[self class] allocWithZone:zone] init];
+    if (made == nil)
+        return nil;
     [made set_path:path];
     made->exists = exists;
     made->kind = kind;
@@ -76,13 +80,7 @@ void set_rights(engine::Access_Rights rights, uint8_t &read, uint8_t &write, uin
     made->can_read = can_read;
     made->can_write = can_write;
     made->can_execute = can_execute;
-    made->first_general_setting = first_general_setting;
-    made->second_general_setting = second_general_setting;
-    made->third_general_setting = third_general_setting;
-    made->load_details = load_details;
-    made->contents_compressed = contents_compressed;
-    made->log_actions = log_actions;
-    made->report_errors = report_errors;
+    engine::take_settings(made, self);
     made->interceptor = interceptor;
     made->greatest_contents_size = greatest_contents_size;
     // A path that could not be copied is the copy's own error.
@@ -123,32 +121,44 @@ void set_rights(engine::Access_Rights rights, uint8_t &read, uint8_t &write, uin
     set_rights(rights, can_read, can_write, can_execute);
 }
 
-- (uint32_t)take_status
+- (void)take_status:(const engine::File_Status &)status error:(int)error
 {
-    const engine::Platform_Path platform_path(path);
-    engine::File_Status status;
-    const int error = platform_path.cause_of(engine::read_status(platform_path.c_string(), status));
-    if (error != 0) {
-        exists = 0;
-        size = 0;
-        last_error = error == ENOENT || error == ENOTDIR ? 0 : error;
-        return 1;
-    }
-    exists = 1;
+    exists = error == 0;
+    size = error == 0 ? status.size : 0;
+    last_error = error == ENOENT || error == ENOTDIR ? 0 : error;
+    if (error != 0)
+        return;
     kind = status.kind;
-    size = status.size;
     if (load_details)
         [self take_details:status];
+}
+
+- (uint32_t)read_status:(engine::Links)links
+{
+    const engine::Platform_Path platform_path(path);
+    engine::File_Status status{};
+    const int error = engine::read_status_in(AT_FDCWD, platform_path.c_string(), links, status);
+    [self take_status:status error:platform_path.cause_of(error)];
     return 1;
 }
 
-- (uint32_t)refresh_status
+- (uint32_t)refresh_status_with:(engine::Links)links
 {
     ZEB_File *const file = self;
     return engine::intercepted(
         file, ZEB_FILE_REFRESH_STATUS, @selector(intercept_refresh_status:),
         [=](id<ZEB_File_Interceptor> other) { return [other intercept_refresh_status:file]; },
-        [=] { return [file take_status]; }, engine::After_Acting::stops);
+        [=] { return [file read_status:links]; }, engine::After_Acting::stops);
+}
+
+- (uint32_t)refresh_status
+{
+    return [self refresh_status_with:engine::Links::are_followed];
+}
+
+- (uint32_t)refresh_link_status
+{
+    return [self refresh_status_with:engine::Links::are_entries];
 }
 
 @end

@@ -2,11 +2,24 @@
  * Shared parts of the operations of file entries.
  */
 #import <Korvane_ZEB/ZEB_File.h>
+#import <Korvane_ZEB/ZEB_Stream.h>
 
 #include "core/engine/c_text.hpp"
+#include "filesystem/engine/file_status.hpp"
 #include "filesystem/engine/path_text.hpp"
 
 #include <errno.h>
+#include <initializer_list>
+
+@interface ZEB_File (Private)
+
+/** Takes over the status of an entry, or, for an error, that there is none. */
+- (void)take_status:(const zeb::engine::File_Status &)status error:(int)error;
+
+/** Removes the entry without asking the interceptor; a directory with all that is in it. */
+- (uint32_t)remove_itself;
+
+@end
 
 namespace zeb::engine
 {
@@ -25,6 +38,9 @@ public:
     /// and if allocation failed.
     const char *c_string() const { return text.c_string(); }
 
+    /// Whether the platform can take it.
+    bool is_usable() const { return fault == 0; }
+
     /// Returns the cause of a platform error: the reason for an empty path, or the error itself.
     int cause_of(int error) const { return error != 0 && fault != 0 ? fault : error; }
 
@@ -32,6 +48,12 @@ private:
     C_Text text;
     int fault;
 };
+
+/// Returns the effective access of the snapshot.
+Access_Rights access_of(ZEB_File *file);
+
+/// Gives an entry the seven settings of another.
+void take_settings(ZEB_File *file, ZEB_File *other);
 
 /// Whether the entry acts after the interceptor did.
 enum class After_Acting { runs, stops };
@@ -69,11 +91,28 @@ uint32_t intercepted(ZEB_File *file, ZEB_File_Action action, SEL operation, Act 
     return intercepted(file, action, operation, act, run, after, [](uint32_t) {});
 }
 
-/// Reports a success if the entry logs actions: a line of `message` and the path.
+/// Writes the pieces and a line break onto a stream.
+void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces);
+
+/// Reports a success if the entry logs actions: a line of the pieces, or of `message` and the path.
+void report_success(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces);
 void report_success(ZEB_File *file, ZEB_Char_Span message);
 
-/// Stores the error and, if the entry reports errors, reports a line of `message` and the path.
+/// Stores the error and, if the entry reports errors, reports such a line.
+void report_failure(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces, int error);
 void report_failure(ZEB_File *file, ZEB_Char_Span message, int error);
+
+/// A number as text. The error stream's unsigned-long writer writes to standard output.
+class Number_Text
+{
+public:
+    explicit Number_Text(uint64_t number);
+    ZEB_Char_Span text() const { return {characters, length}; }
+
+private:
+    char characters[24];
+    uint32_t length;
+};
 
 /// Stores the error and, if the entry reports errors, reports that `actual` bytes were transferred instead of
 /// `expected`.

@@ -12,18 +12,6 @@ namespace
 
 constexpr Char_Span line_break = span_of("\n");
 
-void write(ZEB_Stream *stream, ZEB_Char_Span text)
-{
-    [stream write_bytes:text.char_c_array length:text.length];
-}
-
-void write_line(ZEB_Stream *stream, ZEB_Char_Span message, ZEB_File *file)
-{
-    write(stream, message);
-    write(stream, visible_path([file path]));
-    write(stream, line_break);
-}
-
 } // namespace
 
 ZEB_Char_Span visible_path(ZEB_String *path)
@@ -55,35 +43,49 @@ uint32_t decision_on(ZEB_File *file, ZEB_File_Action action, SEL operation)
                                                                                           : entry_acts;
 }
 
-void report_success(ZEB_File *file, ZEB_Char_Span message)
+void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
+{
+    for (const ZEB_Char_Span piece : pieces)
+        [stream write_bytes:piece.char_c_array length:piece.length];
+    [stream write_bytes:line_break.char_c_array length:line_break.length];
+}
+
+void report_success(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces)
 {
     if ([file log_actions])
-        write_line([ZEB_Stream shared_stream], message, file);
+        write_line([ZEB_Stream shared_stream], pieces);
+}
+
+void report_success(ZEB_File *file, ZEB_Char_Span message)
+{
+    report_success(file, {message, visible_path([file path])});
+}
+
+void report_failure(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces, int error)
+{
+    [file set_last_error:error];
+    if ([file report_errors])
+        write_line([ZEB_Error_Stream shared_error_stream], pieces);
 }
 
 void report_failure(ZEB_File *file, ZEB_Char_Span message, int error)
 {
-    [file set_last_error:error];
-    if ([file report_errors])
-        write_line([ZEB_Error_Stream shared_error_stream], message, file);
+    report_failure(file, {message, visible_path([file path])}, error);
+}
+
+Number_Text::Number_Text(uint64_t number)
+    : length(static_cast<uint32_t>(
+          snprintf(characters, sizeof characters, "%llu", static_cast<unsigned long long>(number))))
+{
 }
 
 void report_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
                         uint64_t expected, ZEB_Char_Span occasion, int error)
 {
-    [file set_last_error:error];
-    if (![file report_errors])
-        return;
-    // As text, because the error stream's unsigned-long writer writes to standard output.
-    char numbers[2][24];
-    ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
-    const int actual_length = snprintf(numbers[0], sizeof numbers[0], "%llu", (unsigned long long)actual);
-    const int expected_length = snprintf(numbers[1], sizeof numbers[1], "%llu", (unsigned long long)expected);
-    write(stream, lead);
-    [stream write_bytes:numbers[0] length:(uint32_t)actual_length];
-    write(stream, against);
-    [stream write_bytes:numbers[1] length:(uint32_t)expected_length];
-    write_line(stream, occasion, file);
+    const Number_Text actual_text(actual), expected_text(expected);
+    report_failure(
+        file, {lead, actual_text.text(), against, expected_text.text(), occasion, visible_path([file path])},
+        error);
 }
 
 } // namespace zeb::engine

@@ -1,4 +1,17 @@
-#import <Korvane_ZEB/ZEB_File.h>
+#import "filesystem/ZEB_File_Private.h"
+
+#include "core/engine/namespace.hpp"
+
+void engine::take_settings(ZEB_File *file, ZEB_File *other)
+{
+    file->first_general_setting = other->first_general_setting;
+    file->second_general_setting = other->second_general_setting;
+    file->third_general_setting = other->third_general_setting;
+    file->load_details = other->load_details;
+    file->contents_compressed = other->contents_compressed;
+    file->log_actions = other->log_actions;
+    file->report_errors = other->report_errors;
+}
 
 @implementation ZEB_File (Errors)
 

@@ -1,5 +1,14 @@
 #import <Korvane_ZEB/ZEB_File.h>
 
+#import "filesystem/ZEB_File_Private.h"
+
+#include "core/engine/namespace.hpp"
+
+engine::Access_Rights engine::access_of(ZEB_File *file)
+{
+    return {file->can_read != 0, file->can_write != 0, file->can_execute != 0};
+}
+
 @implementation ZEB_File (Status)
 
 - (uint8_t)exists
@@ -7,14 +16,44 @@
     return exists;
 }
 
+- (void)set_exists:(uint8_t)value
+{
+    exists = value != 0;
+}
+
 - (ZEB_File_Kind)kind
 {
     return kind;
 }
 
+- (void)set_kind:(ZEB_File_Kind)value
+{
+    kind = value;
+}
+
 - (uint64_t)size
 {
     return size;
+}
+
+- (void)set_size:(uint64_t)value
+{
+    size = value;
+}
+
+- (uint8_t)exists_now
+{
+    return engine::exists_at(engine::Platform_Path(path).c_string()) ? 1 : 0;
+}
+
+- (uint8_t)has_access:(uint8_t)execute write:(uint8_t)write read:(uint8_t)read
+{
+    return engine::covers(engine::access_of(self), {read != 0, write != 0, execute != 0}) ? 1 : 0;
+}
+
+- (uint8_t)has_access:(uint8_t)write read:(uint8_t)read
+{
+    return engine::covers(engine::access_of(self), {read != 0, write != 0, false}) ? 1 : 0;
 }
 
 - (ZEB_Time_Value)access_time

@@ -30,6 +30,9 @@ public:
 
     const char *c_string() const noexcept { return text != nullptr ? text : ""; }
 
+    /// Returns the copy itself; null if allocation failed.
+    char *data() noexcept { return text; }
+
 private:
     char *text;
 };

@@ -1,5 +1,7 @@
 #include "filesystem/engine/file_contents.hpp"
 
+#include "filesystem/engine/interruption.hpp"
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -14,16 +16,6 @@ namespace
 constexpr std::size_t max_transfer = std::size_t{1} << 30;
 
 constexpr mode_t mode_of_new_files = 0666;
-
-/// Repeats a call while a signal interrupts it. Returns its result; a negative one leaves the error in errno.
-template <class Call>
-auto uninterrupted(Call call) noexcept
-{
-    auto answer = call();
-    while (answer < 0 && errno == EINTR)
-        answer = call();
-    return answer;
-}
 
 /// Transfers `size` bytes in pieces. `move` returns the number of bytes moved, 0 at the end, or a negative
 /// value for an error.

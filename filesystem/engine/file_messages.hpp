@@ -31,4 +31,40 @@ inline constexpr Char_Span error_backstoring = span_of("Error backstoring file: 
 inline constexpr Char_Span restored = span_of("Restored file: ");
 inline constexpr Char_Span error_restoring = span_of("Error restoring file: ");
 
+inline constexpr Char_Span arrow = span_of(" -> ");
+
+inline constexpr Char_Span error_relative_file = span_of("Cannot make relative file: ");
+inline constexpr Char_Span error_creating_file = span_of("Error creating file with name: ");
+inline constexpr Char_Span created_file = span_of("Created file with name: ");
+
+inline constexpr Char_Span error_relative_directory = span_of("Cannot make relative directory: ");
+inline constexpr Char_Span error_creating_directory = span_of("Error creating directory with name: ");
+inline constexpr Char_Span because = span_of("; because: ");
+inline constexpr Char_Span no_prefix = span_of("A component of the path prefix does not exist.");
+inline constexpr Char_Span no_directory = span_of("A component of the path prefix is not a directory.");
+inline constexpr Char_Span exists_already = span_of("The named file exists.");
+inline constexpr Char_Span full_stop = span_of(".");
+inline constexpr Char_Span created_directory = span_of("Created directory with name: ");
+
+inline constexpr Char_Span error_creating_level = span_of("Error creating level ");
+inline constexpr Char_Span created_level = span_of("Created level ");
+inline constexpr Char_Span partial_path = span_of(" partial path: ");
+
+inline constexpr Char_Span error_link_over_file =
+    span_of("Cannot create a symbolic link entry over the regular file: ");
+inline constexpr Char_Span error_removing_link = span_of("Error removing symbolic link entry: ");
+inline constexpr Char_Span removed_link = span_of("Removed symbolic link entry: ");
+inline constexpr Char_Span error_making_link = span_of("Error making symbolic link: ");
+inline constexpr Char_Span made_link = span_of("Made symbolic link: ");
+
+inline constexpr Char_Span error_no_unique_path =
+    span_of("Maximum tries exceeded, the file name is not be unique. The last path name tried is:");
+
+inline constexpr Char_Span removed_file = span_of("Removed file: ");
+inline constexpr Char_Span error_removing_file = span_of("Error removing file: ");
+inline constexpr Char_Span tested_directory = span_of("Tested accessibility of directory: ");
+inline constexpr Char_Span error_missing_directory = span_of("Error removing nonexistent directory: ");
+inline constexpr Char_Span removed_directory = span_of("Removed directory: ");
+inline constexpr Char_Span error_removing_directory = span_of("Error removing directory: ");
+
 } // namespace zeb::engine::messages

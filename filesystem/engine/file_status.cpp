@@ -1,6 +1,7 @@
 #include "filesystem/engine/file_status.hpp"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace zeb::engine
@@ -34,20 +35,9 @@ ZEB_Time_Value time_of(const struct timespec &time) noexcept
     return {static_cast<std::uint64_t>(time.tv_sec), static_cast<std::uint64_t>(time.tv_nsec)};
 }
 
-void add(Access_Rights &rights, Access_Rights further) noexcept
+File_Status status_of(const struct stat &found) noexcept
 {
-    rights.read = rights.read || further.read;
-    rights.write = rights.write || further.write;
-    rights.execute = rights.execute || further.execute;
-}
-
-} // namespace
-
-int read_status(const char *path, File_Status &status) noexcept
-{
-    struct stat found;
-    if (stat(path, &found) != 0)
-        return errno;
+    File_Status status;
     status.kind = kind_of(found.st_mode);
     status.size = static_cast<std::uint64_t>(found.st_size);
     status.owner = rights_of(found.st_mode, 6);
@@ -64,7 +54,42 @@ int read_status(const char *path, File_Status &status) noexcept
 #endif
     status.uid = found.st_uid;
     status.gid = found.st_gid;
+    return status;
+}
+
+void add(Access_Rights &rights, Access_Rights further) noexcept
+{
+    rights.read = rights.read || further.read;
+    rights.write = rights.write || further.write;
+    rights.execute = rights.execute || further.execute;
+}
+
+} // namespace
+
+int read_status(const char *path, File_Status &status) noexcept
+{
+    return read_status_in(AT_FDCWD, path, Links::are_followed, status);
+}
+
+int read_status_in(int directory, const char *name, Links links, File_Status &status) noexcept
+{
+    struct stat found;
+    if (fstatat(directory, name, &found, links == Links::are_entries ? AT_SYMLINK_NOFOLLOW : 0) != 0)
+        return errno;
+    status = status_of(found);
     return 0;
+}
+
+bool exists_at(const char *path) noexcept
+{
+    File_Status status;
+    return read_status(path, status) == 0;
+}
+
+bool covers(Access_Rights granted, Access_Rights wanted) noexcept
+{
+    return (!wanted.read || granted.read) && (!wanted.write || granted.write) &&
+           (!wanted.execute || granted.execute);
 }
 
 Access_Rights effective_rights(const File_Status &status, bool is_owner, bool is_in_group,

@@ -32,6 +32,19 @@ struct File_Status {
 /// platform's error with `status` unchanged.
 int read_status(const char *path, File_Status &status) noexcept;
 
+/// Whether symbolic links stand for themselves or for what they lead to.
+enum class Links { are_entries, are_followed };
+
+/// Reads the status of `name` below an open directory, or below the working directory for AT_FDCWD, in the
+/// same way.
+int read_status_in(int directory, const char *name, Links links, File_Status &status) noexcept;
+
+/// Whether something exists at a path, following symbolic links.
+bool exists_at(const char *path) noexcept;
+
+/// Whether every right that is wanted is granted.
+bool covers(Access_Rights granted, Access_Rights wanted) noexcept;
+
 /// Returns the rights of a process to an entry: the owner's if it is the owner, joined with the group's if it
 /// is in the group, and with those of others. A process that is not the owner starts from `before`.
 Access_Rights effective_rights(const File_Status &status, bool is_owner, bool is_in_group,

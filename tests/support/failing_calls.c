@@ -1,6 +1,7 @@
 #define _GNU_SOURCE
 #include "failing_calls.h"
 
+#include <dirent.h>
 #include <dlfcn.h>
 #include <errno.h>
 #include <fcntl.h>
@@ -14,10 +15,18 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-enum { OPEN, READ, WRITE, CLOSE, RENAME, FTRUNCATE, STAT, REMOVE, MEMORY, ANY_FILE, CALL_COUNT };
+/* What begins with another name stands before it. */
+#define CALLS(X)                                                                                             \
+    X(OPENAT, "openat") X(OPEN, "open") X(READDIR, "readdir") X(READLINK, "readlink") X(READ, "read")        \
+    X(WRITE, "write") X(CLOSE, "close") X(RENAME, "rename") X(FTRUNCATE, "ftruncate") X(STAT, "stat")        \
+    X(REMOVE, "remove") X(UNLINKAT, "unlinkat") X(MKDIR, "mkdir") X(SYMLINK, "symlink")                      \
+    X(FCHMOD, "fchmod") X(FCHOWN, "fchown") X(LCHOWN, "lchown") X(FSTAT, "fstat") X(FDOPENDIR, "fdopendir")  \
+    X(MEMORY, "memory") X(ANY_FILE, "file")
 
-static const char *const call_names[CALL_COUNT] = {"open",      "read", "write",  "close",  "rename",
-                                                   "ftruncate", "stat", "remove", "memory", "file"};
+#define CALL_NUMBER(number, name) number,
+#define CALL_NAME(number, name) name,
+enum { CALLS(CALL_NUMBER) CALL_COUNT };
+static const char *const call_names[CALL_COUNT] = {CALLS(CALL_NAME)};
 
 static char folder[4096];
 static int planned_call = CALL_COUNT;
@@ -95,6 +104,18 @@ static int is_watched_file(int file)
     return file >= 0 && file < (int)sizeof is_watched && is_watched[file];
 }
 
+/* A path below an open folder, or below the working one. */
+static int is_below(int folder_file, const char *path)
+{
+    return is_inside(path) || (path[0] != '/' && is_watched_file(folder_file));
+}
+
+static void watch(int file)
+{
+    if (file >= 0 && file < (int)sizeof is_watched)
+        is_watched[file] = 1;
+}
+
 static int refusal(void)
 {
     errno = outcome;
@@ -102,6 +123,21 @@ static int refusal(void)
 }
 
 #define PLATFORM(name) ((__typeof__(&name))dlsym(RTLD_NEXT, #name))
+
+int openat(int folder_file, const char *path, int flags, ...)
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = flags & O_CREAT ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    if (!is_below(folder_file, path))
+        return PLATFORM(openat)(folder_file, path, flags, mode);
+    if (is_due(OPENAT))
+        return refusal();
+    const int file = PLATFORM(openat)(folder_file, path, flags, mode);
+    watch(file);
+    return file;
+}
 
 int open(const char *path, int flags, ...)
 {
@@ -114,8 +150,7 @@ int open(const char *path, int flags, ...)
     if (is_due(OPEN))
         return refusal();
     const int file = PLATFORM(open)(path, flags, mode);
-    if (file >= 0 && file < (int)sizeof is_watched)
-        is_watched[file] = 1;
+    watch(file);
     return file;
 }
 
@@ -156,6 +191,30 @@ MAY_FAIL(ftruncate, (int file, off_t size), (file, size), is_watched_file(file),
 MAY_FAIL(rename, (const char *from, const char *to), (from, to), is_inside(from), RENAME)
 MAY_FAIL(remove, (const char *path), (path), is_inside(path), REMOVE)
 MAY_FAIL(stat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path), STAT)
+MAY_FAIL(fstat, (int file, struct stat *found), (file, found), is_watched_file(file), FSTAT)
+MAY_FAIL(fstatat, (int folder, const char *restrict path, struct stat *restrict found, int flags),
+         (folder, path, found, flags), is_below(folder, path), STAT)
+MAY_FAIL(unlinkat, (int folder, const char *path, int flags), (folder, path, flags), is_below(folder, path), UNLINKAT)
+MAY_FAIL(mkdir, (const char *path, mode_t mode), (path, mode), is_inside(path), MKDIR)
+MAY_FAIL(symlink, (const char *target, const char *path), (target, path), is_inside(path), SYMLINK)
+MAY_FAIL(fchmod, (int file, mode_t mode), (file, mode), is_watched_file(file), FCHMOD)
+MAY_FAIL(fchown, (int file, uid_t user, gid_t group), (file, user, group), is_watched_file(file), FCHOWN)
+MAY_FAIL(lchown, (const char *path, uid_t user, gid_t group), (path, user, group), is_inside(path), LCHOWN)
+
+ssize_t readlink(const char *restrict path, char *restrict target, size_t size)
+{
+    return is_inside(path) && is_due(READLINK) ? refusal() : PLATFORM(readlink)(path, target, size);
+}
+
+DIR *fdopendir(int file)
+{
+    return is_watched_file(file) && is_due(FDOPENDIR) && refusal() != 0 ? NULL : PLATFORM(fdopendir)(file);
+}
+
+struct dirent *readdir(DIR *stream)
+{
+    return is_watched_file(dirfd(stream)) && is_due(READDIR) && refusal() != 0 ? NULL : PLATFORM(readdir)(stream);
+}
 
 /* The C library's own names for these, which serve before the loader can be asked for others. */
 void *__libc_malloc(size_t size);

@@ -56,9 +56,9 @@ ZEB_EXPORT
 
 /** Removes the directory with all that is in it. Reports "Removed file: " and "Removed directory: ", or
    "Error removing file: " and "Error removing directory: ", for each entry; what can be removed is removed
-   even if something else cannot. Returns 0 if the directory is still there, also after "Error removing
-   nonexistent directory: ". A path that is a symbolic link itself is not removed, and what it leads to is not
-   touched, unless `links_are_entries` is off. */
+   even if something else cannot. Returns 0 if the directory is still there, with the cause of the first
+   failure in `last_error`; also after "Error removing nonexistent directory: ". A path that is a symbolic
+   link itself is not removed, and what it leads to is not touched, unless `links_are_entries` is off. */
 - (uint32_t)remove;
 
 @end

@@ -23,7 +23,7 @@ public:
     {
         if (is_directory(entry))
             return Walk_Step::into;
-        report.tell(entry.path, false, removal_error(entry, 0));
+        tell(entry, false, removal_error(entry, 0));
         return Walk_Step::next;
     }
 
@@ -31,19 +31,24 @@ public:
     {
         // An entry that was exchanged since its name was read, or a link back into the walk, is no directory.
         if (!was_opened && directory.directory != AT_FDCWD && (error == ELOOP || error == ENOTDIR)) {
-            report.tell(directory.path, false, removal_error(directory, 0));
+            tell(directory, false, removal_error(directory, 0));
             return Walk_Step::next;
         }
-        last_error = removal_error(directory, AT_REMOVEDIR);
-        if (last_error != 0 && error != 0)
-            last_error = error;
-        report.tell(directory.path, true, last_error);
+        const int own_error = removal_error(directory, AT_REMOVEDIR);
+        tell(directory, true, own_error != 0 && error != 0 ? error : own_error);
         return Walk_Step::next;
     }
 
-    int error_of_top() const { return last_error; }
+    int error() const { return first_error; }
 
 private:
+    void tell(const Walk_Entry &entry, bool is_directory, int error)
+    {
+        if (first_error == 0)
+            first_error = error;
+        report.tell(entry.path, is_directory, error);
+    }
+
     bool is_directory(const Walk_Entry &entry) const noexcept
     {
         const bool has_unknown_type = entry.type == Entry_Type::unknown ||
@@ -57,7 +62,7 @@ private:
 
     const Links links;
     Removal_Report &report;
-    int last_error = 0;
+    int first_error = 0;
 };
 
 } // namespace
@@ -68,7 +73,7 @@ int remove_tree(const char *place, Char_Span path, Links links, Removal_Report &
     const int error = walk_tree(place, path, links, removal);
     if (error != 0)
         report.tell(path, true, error);
-    return error != 0 ? error : removal.error_of_top();
+    return error != 0 ? error : removal.error();
 }
 
 } // namespace zeb::engine

@@ -18,9 +18,9 @@ protected:
 };
 
 /// Removes the directory at the null-terminated `place`; `path` is its path for the report. An entry that
-/// cannot be removed is told, and the others are removed all the same. Returns why the directory itself is
-/// still there, which is told too; 0 if it was removed. With Links::are_entries nothing outside the tree is
-/// touched, whatever other processes do to it meanwhile.
+/// cannot be removed is told, and the others are removed all the same. Returns 0 if the directory was
+/// removed, else the first error. With Links::are_entries nothing outside the tree is touched, whatever other
+/// processes do to it meanwhile.
 int remove_tree(const char *place, Char_Span path, Links links, Removal_Report &report) noexcept;
 
 } // namespace zeb::engine

@@ -79,13 +79,13 @@ TEST_F(Directories, are_removed_with_all_that_is_in_them_and_nothing_else)
     }
     ZEB_Directory *const directory = directory_at(tree);
     [directory set_log_actions:1];
-    EXPECT_EQ(lines_of([=] { EXPECT_EQ([directory remove], 1u); }),
-              Lines({"Removed directory: /tree", "Removed directory: /tree/sub",
-                     "Removed directory: /tree/sub/deep", "Removed file: /tree/dangling",
-                     "Removed file: /tree/file", "Removed file: /tree/loop",
-                     "Removed file: /tree/sub/deep/file", "Removed file: /tree/sub/inside",
-                     "Removed file: /tree/sub/to_directory", "Removed file: /tree/sub/to_file",
-                     "Removed file: /tree/to_itself"}));
+    EXPECT_EQ(
+        lines_of([=] { EXPECT_EQ([directory remove], 1u); }),
+        Lines({"Removed directory: /tree", "Removed directory: /tree/sub",
+               "Removed directory: /tree/sub/deep", "Removed file: /tree/dangling",
+               "Removed file: /tree/file", "Removed file: /tree/loop", "Removed file: /tree/sub/deep/file",
+               "Removed file: /tree/sub/inside", "Removed file: /tree/sub/to_directory",
+               "Removed file: /tree/sub/to_file", "Removed file: /tree/to_itself"}));
     EXPECT_EQ([directory last_error], 0);
     EXPECT_FALSE(fs::exists(tree));
     EXPECT_TRUE(outside_is_whole());
@@ -102,7 +102,7 @@ TEST_F(Directories, are_emptied_through_links_only_when_told)
               Lines({"Error removing directory: /tree", "Error removing directory: /tree/sub",
                      "Error removing directory: /tree/sub/inside",
                      "Error removing directory: /tree/sub/to_directory"}));
-    EXPECT_EQ([directory last_error], ENOTEMPTY);
+    EXPECT_EQ([directory last_error], ENOTDIR);
     EXPECT_TRUE(fs::is_empty(folder / "outside"));
     EXPECT_FALSE(fs::exists(fs::symlink_status(tree + "/to_itself")));
 }
@@ -115,7 +115,7 @@ TEST_F(Directories, may_be_deep_or_full_or_have_any_names)
             names.push_back(static_cast<char>(c));
     for (const std::string &name : {names, std::string(255, '\n'), std::string(" "), std::string("...")})
         put_file(tree + "/" + name, "");
-    for (int i = 0; i < 100000; ++i)
+    for (int i = 0; i < 20000; ++i)
         put_file(tree + "/sub/" + std::to_string(i), "");
     std::string deep = tree;
     for (int level = 0; level < 500; ++level)
@@ -167,9 +167,10 @@ TEST_F(Directories, are_accessible_if_all_in_them_is)
     const auto test = [=](uint8_t execute, uint8_t write, uint8_t read) {
         return [directory has_access:execute write:write read:read];
     };
-    EXPECT_EQ(lines_of([&] { EXPECT_EQ(test(1, 1, 1), 1); }),
-              Lines({"Tested accessibility of directory: /tree", "Tested accessibility of directory: /tree/sub",
-                     "Tested accessibility of directory: /tree/sub/deep"}));
+    EXPECT_EQ(
+        lines_of([&] { EXPECT_EQ(test(1, 1, 1), 1); }),
+        Lines({"Tested accessibility of directory: /tree", "Tested accessibility of directory: /tree/sub",
+               "Tested accessibility of directory: /tree/sub/deep"}));
     [directory set_log_actions:0];
     const std::string below = tree + "/sub/deep/file";
     fs::permissions(below, fs::perms(0400));

@@ -12,8 +12,9 @@ namespace fs = std::filesystem;
 namespace
 {
 
-/// An operation, on an entry at `path`, and what is to come of it. "@" stands for the folder of the test, in which are the file "file", the
-/// empty directory "empty", the full one "full" with "full/inside", and the links "link" to the file and "broken".
+/// An operation, on an entry at `path`, and what is to come of it. "@" stands for the folder of the test, in
+/// which are the file "file", the empty directory "empty", the full one "full" with "full/inside", and the
+/// links "link" to the file and "broken".
 struct Row {
     std::string path;
     std::function<uint32_t(ZEB_File *)> work;
@@ -84,8 +85,8 @@ protected:
             expected.insert(std::upper_bound(expected.begin(), expected.end(), row.change), row.change);
         uint32_t answer = 99;
         std::string errors;
-        const std::string output = standard_output_of(
-            [&] { errors = standard_error_of([&] { answer = row.work(file); }); });
+        const std::string output =
+            standard_output_of([&] { errors = standard_error_of([&] { answer = row.work(file); }); });
         const auto line = [&](const std::string &text) {
             return text.empty() || !is_telling ? std::string() : placed(text) + "\n";
         };
@@ -116,7 +117,8 @@ const Row rows[] = {
     {"@/link", create_directory, 2, 0, "", "", ""},
     {"new", create_directory, 0, EINVAL, "", "Cannot make relative directory: new", ""},
     {"@/none/new", create_directory, 0, ENOENT, "",
-     "Error creating directory with name: @/none/new; because: A component of the path prefix does not exist.",
+     "Error creating directory with name: @/none/new; because: A component of the path prefix does not "
+     "exist.",
      ""},
     {"@/file/new", create_directory, 0, ENOTDIR, "",
      "Error creating directory with name: @/file/new; because: A component of the path prefix is not a "
@@ -234,8 +236,8 @@ TEST_F(Entries, a_unique_path_names_nothing_yet)
 
     ZEB_File *const file = entry(folder / std::string("a\0b", 3));
     [file set_report_errors:0];
-    const std::string said = standard_error_of(
-        [&] { EXPECT_EQ([file make_unique_path:text("p") extension:text("e")], 0u); });
+    const std::string said =
+        standard_error_of([&] { EXPECT_EQ([file make_unique_path:text("p") extension:text("e")], 0u); });
     EXPECT_EQ(said.rfind(placed("Maximum tries exceeded, the file name is not be unique. The last path name "
                                 "tried is:@/a"),
                          0),
@@ -247,8 +249,9 @@ TEST_F(Entries, paths_are_taken_apart_and_put_together)
 {
     const struct {
         std::string path, parent, last;
-    } parts[] = {{"/a/b", "/a", "b"}, {"/a", "", "a"},    {"name", "/", "name"}, {"/a/b/", "/a/b", ""},
-                 {"", "/", ""},       {"/", "", ""},      {"a//b", "a/", "b"},   {std::string("/a/b\0", 5), "/a", "b"}};
+    } parts[] = {
+        {"/a/b", "/a", "b"}, {"/a", "", "a"}, {"name", "/", "name"}, {"/a/b/", "/a/b", ""},
+        {"", "/", ""},       {"/", "", ""},   {"a//b", "a/", "b"},   {std::string("/a/b\0", 5), "/a", "b"}};
     ZEB_File *const file = [[[ZEB_File alloc] init] autorelease];
     ZEB_String *const found = text("before");
     for (const auto &part : parts) {

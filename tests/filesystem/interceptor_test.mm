@@ -4,6 +4,7 @@
 #include <cstring>
 #import <objc/runtime.h>
 #include <tuple>
+#include <unistd.h>
 #include <vector>
 
 using namespace support;
@@ -47,6 +48,10 @@ static std::vector<uint32_t> asked;
 ACT(intercept_read_contents : (ZEB_File *)file destination : (ZEB_Byte_Array *)destination)
 ACT(intercept_write_contents : (ZEB_File *)file bytes : (const void *)bytes length : (uint32_t)length)
 ACT(intercept_backstore : (ZEB_File *)file)
+ACT(intercept_create_file : (ZEB_File *)file)
+ACT(intercept_create_directory : (ZEB_File *)file)
+ACT(intercept_create_parent_directories : (ZEB_File *)file)
+ACT(intercept_remove : (ZEB_File *)file)
 
 @end
 
@@ -94,6 +99,45 @@ TEST_F(Interceptor, is_obeyed_by_its_code)
     EXPECT_EQ(outcome_of(2, path), Outcome(1, 1, 1, 1, "old", "kept", suffix));
     EXPECT_EQ(outcome_of(3, path), Outcome(1, 1, 1, 1, "new", "kept", suffix));
     EXPECT_EQ(outcome_of(1, path), Outcome(1, 1, 1, 0, "new", "new", suffix));
+}
+
+TEST_F(Interceptor, decides_on_creation_and_removal)
+{
+    using Work = uint32_t (*)(ZEB_File *);
+    const struct {
+        ZEB_File_Action action;
+        Class kind;
+        std::string name;
+        Work work;
+    } rows[] = {
+        {ZEB_FILE_CREATE_FILE, [ZEB_File class], "new", [](ZEB_File *f) { return [f create_file]; }},
+        {ZEB_FILE_CREATE_DIRECTORY, [ZEB_File class], "new",
+         [](ZEB_File *f) { return [f create_directory]; }},
+        {ZEB_FILE_CREATE_PARENT_DIRECTORIES, [ZEB_File class], "new/below",
+         [](ZEB_File *f) { return [f create_parent_directories]; }},
+        {ZEB_FILE_REMOVE, [ZEB_File class], "old", [](ZEB_File *f) { return [f remove]; }},
+        {ZEB_FILE_REMOVE, [ZEB_Directory class], "tree", [](ZEB_File *f) { return [f remove]; }},
+    };
+    for (const auto &row : rows)
+        for (const uint32_t decision : {0u, 1u, 2u, 3u, 99u}) {
+            const Scratch_Folder place;
+            put_file(place / "old", "");
+            mkdir((place / "tree").c_str(), 0700);
+            put_file(place / "tree/inside", "");
+            asked.clear();
+            Recording_Interceptor *const interceptor = [[[Recording_Interceptor alloc] init] autorelease];
+            interceptor->decision = decision;
+            interceptor->acted = 40;
+            ZEB_File *const file = [[[row.kind alloc] init] autorelease];
+            [file set_path:text(place / row.name)];
+            [file set_interceptor:interceptor];
+            EXPECT_EQ(row.work(file), decision == 0 ? 0u : decision == 2 ? 41u : 1u);
+            EXPECT_EQ(asked, std::vector<uint32_t>{row.action});
+            EXPECT_EQ(interceptor->acted, decision == 2 || decision == 3 ? 41u : 40u);
+            const bool is_new_there = access((place / "new").c_str(), F_OK) == 0;
+            const bool is_there = access((place / row.name).c_str(), F_OK) == 0;
+            EXPECT_EQ(is_new_there || (!is_there && row.action == ZEB_FILE_REMOVE), decision % 2 == 1);
+        }
 }
 
 TEST_F(Interceptor, that_lacks_an_operation_lets_the_entry_act)

@@ -6,6 +6,10 @@
 
 #include "sanitizer.hpp"
 
+#include <cstdlib>
+#include <grp.h>
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -39,10 +43,21 @@ void warm_up_foundation()
 #endif
 }
 
+/// Gives up root's rights for those of the user whose number the environment has.
+bool become_user()
+{
+    const char *const user = std::getenv("ZEB_TEST_USER");
+    const unsigned number = user != nullptr ? static_cast<unsigned>(std::atoi(user)) : 0;
+    return number == 0 || geteuid() != 0 ||
+           (setgroups(0, nullptr) == 0 && setgid(number) == 0 && setuid(number) == 0);
+}
+
 } // namespace
 
 int main(int count, char **arguments)
 {
+    if (!become_user())
+        return 1;
     warm_up_foundation();
     testing::InitGoogleTest(&count, arguments);
     testing::UnitTest::GetInstance()->listeners().Append(new Pool_Around_Each_Test);

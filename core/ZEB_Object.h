@@ -11,6 +11,16 @@
 #define ZEB_PROTECTED @protected
 #endif
 
+/* Under automatic reference counting a field of the framework's is not the compiler's to retain. */
+#if defined(__OBJC__) && defined(__has_feature)
+#if __has_feature(objc_arc)
+#define ZEB_UNRETAINED __unsafe_unretained
+#endif
+#endif
+#if !defined(ZEB_UNRETAINED)
+#define ZEB_UNRETAINED
+#endif
+
 /**
  * Provides the root operations under the framework's own names. The methods below call NSObject's
  * implementation even if a subclass overrides it. Adds no state.

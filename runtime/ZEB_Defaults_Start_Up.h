@@ -11,14 +11,9 @@ ZEB_EXTERN_C_BEGIN
 ZEB_EXPORT void ZC_start_up_defaults_domain(void);
 ZEB_EXPORT void ZC_start_up_debug_logging(void);
 
-/** Returns "Korvane", the framework's own domain of the user defaults. Nil before its start-up. */
+/** Return "Korvane", the framework's own domain of the user defaults, and "does_debug_logging", the key that switches
+    debug logging on. Nil before their start-up. */
 ZEB_EXPORT NSString *ZC_defaults_domain(void);
+ZEB_EXPORT NSString *ZC_debug_logging_key(void);
 
 ZEB_EXTERN_C_END
-
-@interface NSUserDefaults (ZEB_Debug_Logging)
-
-/** Returns 1 if "does_debug_logging" is on in these defaults, else 0, also for a missing key. */
-- (uint8_t)debug_logging_enabled;
-
-@end

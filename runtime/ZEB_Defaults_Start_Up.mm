@@ -29,12 +29,4 @@ void ZC_start_up_debug_logging(void)
 
 NSString *ZC_defaults_domain(void) { return domain; }
 
-@implementation NSUserDefaults (ZEB_Debug_Logging)
-
-- (uint8_t)debug_logging_enabled
-{
-    ZC_start_up_debug_logging();
-    return [self boolForKey:debug_logging_key] ? 1 : 0;
-}
-
-@end
+NSString *ZC_debug_logging_key(void) { return debug_logging_key; }

@@ -12,4 +12,14 @@ void *result_or_null(void *(*make)()) noexcept
     }
 }
 
+bool runs_through(void (*work)(void *), void *context) noexcept
+{
+    try {
+        work(context);
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
 } // namespace zeb::engine

@@ -62,3 +62,23 @@ ZEB_EXPORT
 - (uint32_t)remove;
 
 @end
+
+/**
+ * Paths that every application needs, null-terminated. Each is made on the first call, belongs to the
+ * framework, and stays for the life of the process; the first calls must come from one thread.
+ */
+@interface ZEB_Directory (Standard_Paths)
+
+/** Returns the directory for temporary files. */
++ (ZEB_String *)temporary_directory_path;
+
+/** Returns the directory of the applications' resources: the text of "ZEB_path_for_resources" in the
+   framework's suite of the user defaults, or "/Library/Korvane" if that is missing or empty. */
++ (ZEB_String *)ZEB_path_for_resources;
+
+/** Return the user's home, library and documents directories; an empty path if the platform has none. */
++ (ZEB_String *)home_directory_path;
++ (ZEB_String *)library_directory_path;
++ (ZEB_String *)documents_directory_path;
+
+@end

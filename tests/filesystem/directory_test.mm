@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
@@ -210,4 +212,32 @@ TEST_F(Directories, that_may_not_be_read_are_told)
     EXPECT_FALSE(fs::exists(tree + "/file"));
     fs::permissions(tree + "/sub", fs::perms(0700));
     EXPECT_TRUE(fs::exists(tree + "/sub/deep/file"));
+}
+
+TEST(Standard_Paths, are_made_once)
+{
+    const auto resources = [] { return text_of([ZEB_Directory ZEB_path_for_resources]); };
+    ZEB_Defaults *const suite = [ZEB_Defaults shared_suite];
+    ZEB_String *const key = text("ZEB_path_for_resources");
+    [suite remove_object_for_key:key];
+    const pid_t child = fork();
+    if (child == 0) {
+        [suite set_string_for_key:text("/else/where") key:key];
+        _exit(resources() == "/else/where" ? 0 : 1);
+    }
+    int status = -1;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(resources(), "/Library/Korvane");
+    [suite set_string_for_key:text("/later") key:key];
+    EXPECT_EQ(resources(), "/Library/Korvane");
+    [suite remove_object_for_key:key];
+    for (ZEB_String *const path : {[ZEB_Directory temporary_directory_path],
+                                   [ZEB_Directory home_directory_path],
+                                   [ZEB_Directory library_directory_path],
+                                   [ZEB_Directory documents_directory_path]})
+        EXPECT_EQ(std::strlen([path char_data]), [path count]);
+    EXPECT_EQ([entry(text_of([ZEB_Directory temporary_directory_path])) kind],
+              ZEB_File_Kind { ZEB_FILE_KIND_DIRECTORY });
+    EXPECT_EQ([ZEB_Directory home_directory_path], [ZEB_Directory home_directory_path]);
 }

@@ -7,6 +7,7 @@
 #   ZEB_T_Array           the class name of the array
 #   TT_KIND               the engine's kind of element
 #   TT_KIND_STATE         what the kind reads from a vector
+#   TT_DATA               how the header declares the block of elements
 #   TT_STORING            what storing an element means, for the header
 #   TT_WRITE_ELEMENT      how one `element` goes onto a `stream`
 #   TT_FORWARD_CLASSES    classes that the headers name

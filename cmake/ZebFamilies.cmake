@@ -7,7 +7,7 @@
 # Longer names before those that they begin with: replacement is by plain text.
 set(zeb_family_columns
     ZEB_T_Element ZEB_T_Array ZEB_T_ TT_word TT_PHRASE TT_STORING TT_FORWARD_CLASSES TT_COLLECTION_FIELDS
-    TT_VECTOR_FIELDS TT_KIND_STATE TT_KIND TT_WRITE_ELEMENT)
+    TT_VECTOR_FIELDS TT_KIND_STATE TT_KIND TT_DATA TT_WRITE_ELEMENT)
 set(zeb_columns_that_may_be_empty TT_COLLECTION_FIELDS TT_VECTOR_FIELDS TT_KIND_STATE)
 
 set(zeb_template_lists HEADERS PRIVATE_HEADERS SOURCES OBJECT_HEADERS OBJECT_SOURCES STRING_HEADERS STRING_SOURCES
@@ -75,6 +75,11 @@ function(zeb_family)
   zeb_default(TT_STORING "Elements are values, copied as they are.")
   zeb_default(TT_FORWARD_CLASSES "@class ZEB_Stream;")
   zeb_default(TT_WRITE_ELEMENT "engine::print_element(stream, element)")
+  if(row_TT_KIND MATCHES "^Plain_Elements")
+    zeb_default(TT_DATA "*data")
+  else()
+    zeb_default(TT_DATA "ZEB_UNRETAINED *data")
+  endif()
   foreach(column ${zeb_family_columns})
     if("${row_${column}}" STREQUAL "" AND NOT column IN_LIST zeb_columns_that_may_be_empty)
       message(FATAL_ERROR "${row_ZEB_T_}: the column ${column} is empty.")

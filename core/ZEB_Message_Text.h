@@ -11,7 +11,7 @@
 ZEB_EXPORT
 @interface ZEB_Message_Text : ZEB_Object <NSCopying> {
     ZEB_PROTECTED
-    ZEB_Wide_String *text;
+    ZEB_UNRETAINED ZEB_Wide_String *text;
 }
 
 /** Returns the proprietary notice. */

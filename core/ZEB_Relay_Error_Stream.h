@@ -26,9 +26,9 @@
 ZEB_EXPORT
 @interface ZEB_Relay_Error_Stream : ZEB_Error_Stream {
     ZEB_PROTECTED
-    id<ZEB_Message_Listener> listener;
-    ZEB_Message_Text *captured_text;
-    ZEB_Wide_String *wide_text;
+    ZEB_UNRETAINED id<ZEB_Message_Listener> listener;
+    ZEB_UNRETAINED ZEB_Message_Text *captured_text;
+    ZEB_UNRETAINED ZEB_Wide_String *wide_text;
     uint8_t echoes;               /* 1 at first */
     uint8_t captures_diagnostics; /* 0 at first */
     uint8_t is_relaying;

@@ -35,7 +35,7 @@ ZEB_EXPORT
     ZEB_Char_Span list_close_delimiter; /* "}" */
     ZEB_Char_Span list_separator;       /* ", " */
     uint32_t failure_count;
-    ZEB_String *scratch_string;
+    ZEB_UNRETAINED ZEB_String *scratch_string;
 }
 
 /** Returns the shared standard-output stream of the process, created on the first call and never released. */

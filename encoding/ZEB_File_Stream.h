@@ -17,7 +17,7 @@ ZEB_EXPORT
 @interface ZEB_File_Stream : ZEB_Stream {
     ZEB_PROTECTED
     FILE *file;
-    ZEB_String *path;
+    ZEB_UNRETAINED ZEB_String *path;
     uint8_t may_signal; /* whether writing can raise SIGPIPE */
 }
 

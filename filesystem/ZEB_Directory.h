@@ -15,9 +15,9 @@ ZEB_EXPORT
     ZEB_PROTECTED
     uint8_t recursive;
     uint8_t links_are_entries;
-    ZEB_File *child;
-    ZEB_Directory *sub_directory;
-    ZEB_Directory *parent_directory;
+    ZEB_UNRETAINED ZEB_File *child;
+    ZEB_UNRETAINED ZEB_Directory *sub_directory;
+    ZEB_UNRETAINED ZEB_Directory *parent_directory;
 }
 
 /** Returns the proprietary notice. */
@@ -35,7 +35,7 @@ ZEB_EXPORT
 - (void)set_recursive:(uint8_t)value;
 
 /** Whether a symbolic link in the tree stands for itself: it is removed, or tested, as a link. If not, links
-   to directories are gone into, and what they lead to is emptied. */
+    to directories are gone into, and what they lead to is emptied. */
 - (uint8_t)links_are_entries;
 - (void)set_links_are_entries:(uint8_t)value;
 
@@ -55,10 +55,10 @@ ZEB_EXPORT
 - (uint8_t)has_access:(uint8_t)execute write:(uint8_t)write read:(uint8_t)read;
 
 /** Removes the directory with all that is in it. Reports "Removed file: " and "Removed directory: ", or
-   "Error removing file: " and "Error removing directory: ", for each entry; what can be removed is removed
-   even if something else cannot. Returns 0 if the directory is still there, with the cause of the first
-   failure in `last_error`; also after "Error removing nonexistent directory: ". A path that is a symbolic
-   link itself is not removed, and what it leads to is not touched, unless `links_are_entries` is off. */
+    "Error removing file: " and "Error removing directory: ", for each entry; what can be removed is removed
+    even if something else cannot. Returns 0 if the directory is still there, with the cause of the first
+    failure in `last_error`; also after "Error removing nonexistent directory: ". A path that is a symbolic
+    link itself is not removed, and what it leads to is not touched, unless `links_are_entries` is off. */
 - (uint32_t)remove;
 
 @end
@@ -73,7 +73,7 @@ ZEB_EXPORT
 + (ZEB_String *)temporary_directory_path;
 
 /** Returns the directory of the applications' resources: the text of "ZEB_path_for_resources" in the
-   framework's suite of the user defaults, or "/Library/Korvane" if that is missing or empty. */
+    framework's suite of the user defaults, or "/Library/Korvane" if that is missing or empty. */
 + (ZEB_String *)ZEB_path_for_resources;
 
 /** Return the user's home, library and documents directories; an empty path if the platform has none. */

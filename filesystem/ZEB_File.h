@@ -17,7 +17,7 @@
 ZEB_EXPORT
 @interface ZEB_File : ZEB_Object <NSCopying> {
     ZEB_PROTECTED
-    ZEB_String *path;
+    ZEB_UNRETAINED ZEB_String *path;
     uint8_t exists;
     ZEB_File_Kind kind;
     uint8_t owner_read;
@@ -45,7 +45,7 @@ ZEB_EXPORT
     uint8_t contents_compressed;
     uint8_t log_actions;
     uint8_t report_errors;
-    id<ZEB_File_Interceptor> interceptor;
+    ZEB_UNRETAINED id<ZEB_File_Interceptor> interceptor;
     int32_t last_error;
     uint32_t greatest_contents_size;
 }

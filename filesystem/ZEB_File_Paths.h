@@ -23,7 +23,7 @@
 - (void)remove_last_path_component;
 
 /** Sets a string to the characters before the last "/" of the path; to "/" if it has none. A link reports
-   "Cannot copy c string through link, no copy made." */
+    "Cannot copy c string through link, no copy made." */
 - (void)parent_path_into:(ZEB_String *)string;
 
 /** Sets a string to the characters after the last "/"; to the whole path if it has none. A link reports the
@@ -41,14 +41,14 @@
 - (uint8_t)is_same_path_as:(ZEB_File *)other;
 
 /** If the entry is a symbolic link (`refresh_link_status`), replaces the path with the link's target, as it
-   stands there. A target longer than 1024 bytes, or another failure, changes nothing but `last_error`. */
+    stands there. A target longer than 1024 bytes, or another failure, changes nothing but `last_error`. */
 - (void)resolve_symbolic_link;
 
 /** Sets the path to a name in the directory at the path that does not exist yet: "/", the prefix, "_", the
     seconds, "_" and the microseconds of the current time, "." and the extension. Returns 1; after 4096 names
-   that existed, 0, with an empty path. Then it reports, whatever `report_errors` is, "Maximum tries exceeded,
-   the file name is not be unique. The last path name tried is:" and the last name. Another process may create
-   the same name meanwhile. */
+    that existed, 0, with an empty path. Then it reports, whatever `report_errors` is, "Maximum tries exceeded,
+    the file name is not be unique. The last path name tried is:" and the last name. Another process may create
+    the same name meanwhile. */
 - (uint32_t)make_unique_path:(ZEB_String *)prefix extension:(ZEB_String *)extension;
 
 @end

@@ -19,7 +19,7 @@ ZEB_EXPORT
     uint32_t result_kind;
     uint32_t error_code;
     ZEB_Index_Range range;
-    ZEB_Wide_String *text;
+    ZEB_UNRETAINED ZEB_Wide_String *text;
 }
 
 /** Returns the proprietary notice. */

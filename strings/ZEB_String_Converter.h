@@ -18,7 +18,7 @@
 ZEB_EXPORT
 @interface ZEB_String_Converter : ZEB_Object {
     ZEB_PROTECTED
-    ZEB_String *target;
+    ZEB_UNRETAINED ZEB_String *target;
 }
 
 /** Returns the proprietary notice. */

@@ -16,7 +16,7 @@
 ZEB_EXPORT
 @interface ZEB_Wide_String_Converter : ZEB_Object {
     ZEB_PROTECTED
-    ZEB_Wide_String *target;
+    ZEB_UNRETAINED ZEB_Wide_String *target;
 }
 
 /** Returns the proprietary notice. */

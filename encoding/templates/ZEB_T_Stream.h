@@ -16,7 +16,7 @@ TT_FORWARD_CLASSES
 ZEB_EXPORT
 @interface ZEB_T_Stream : ZEB_Stream {
     ZEB_PROTECTED
-    ZEB_T_Element target;
+    ZEB_UNRETAINED ZEB_T_Element target;
     uint8_t owns_target;
     uint32_t read_position;
     char *formatting_buffer;

@@ -32,6 +32,9 @@ compile_alone() { # PATH
     if [[ $name == Korvane_ZEB.h ]]; then
         compiles g++ -x objective-c++ -std=c++20 "${strict[@]}" "${gnustep[@]}"
         compiles clang -x objective-c -std=gnu11 "${strict[@]}" "${gnustep[@]}" "${clang[@]}"
+        # Under automatic reference counting, which gcc's own header does not stand.
+        clang -x objective-c -std=gnu11 "${strict[@]}" "${gnustep[@]}" "${clang[@]}" -fobjc-runtime=macosx-10.11 \
+            -fobjc-arc - <<<"$line" 2>&1 | grep -A3 'Korvane_ZEB/.*error:' && status=1
     fi
     return $status
 }

@@ -4,6 +4,7 @@
 #   TT_word               the family's word in operation names
 #   TT_PHRASE             what the elements are called
 #   ZEB_T_Element         their C type
+#   TT_FIELD_ELEMENT      that type in a field: objects are not the compiler's to retain
 #   ZEB_T_Array           the class name of the array
 #   TT_KIND               the engine's kind of element
 #   TT_KIND_STATE         what the kind reads from a vector
@@ -39,6 +40,7 @@ zeb_family(ZEB_T_ ZEB_Pointer_ TT_word pointer TT_PHRASE "untyped pointers" ZEB_
            TT_WRITE_ELEMENT "[stream write_unsigned_long:reinterpret_cast<uint64_t>(element)]")
 
 zeb_family(ZEB_T_ ZEB_Object_ TT_word object TT_PHRASE "object references" ZEB_T_Element "id"
+           TT_FIELD_ELEMENT "id ZEB_UNRETAINED"
            TT_KIND "Counted_References<Object_Policy>" TT_KIND_STATE "vector->ownership_mode"
            TT_COLLECTION_FIELDS "uint32_t ownership_mode;"
            TT_STORING "Storing an object retains and releases by the ownership mode (ZEB_Ownership.h). A link onto a
@@ -58,6 +60,7 @@ zeb_family(ZEB_T_ ZEB_Wide_Char_ TT_word wide_char TT_PHRASE "32-bit characters"
            TT_WRITE_ELEMENT "[stream write_character_code:element]")
 
 zeb_family(ZEB_T_ ZEB_String_ TT_word string TT_PHRASE "8-bit strings" ZEB_T_Element "ZEB_String *"
+           TT_FIELD_ELEMENT "ZEB_String *ZEB_UNRETAINED"
            TT_KIND "Held_Objects<String_Policy>" TT_KIND_STATE "vector->held_count"
            TT_VECTOR_FIELDS "uint32_t held_count;" TT_FORWARD_CLASSES "@class ZEB_Stream, ZEB_String;"
            TT_STORING "${zeb_storing_of_held}"
@@ -65,12 +68,14 @@ zeb_family(ZEB_T_ ZEB_String_ TT_word string TT_PHRASE "8-bit strings" ZEB_T_Ele
 
 zeb_family(ZEB_T_ ZEB_Wide_String_ TT_word wide_string TT_PHRASE "32-bit strings"
            ZEB_T_Element "ZEB_Wide_String *"
+           TT_FIELD_ELEMENT "ZEB_Wide_String *ZEB_UNRETAINED"
            TT_KIND "Held_Objects<Wide_String_Policy>" TT_KIND_STATE "vector->held_count"
            TT_VECTOR_FIELDS "uint32_t held_count;" TT_FORWARD_CLASSES "@class ZEB_Stream, ZEB_Wide_String;"
            TT_STORING "${zeb_storing_of_held}"
            TT_WRITE_ELEMENT "engine::print_element(stream, element)")
 
 zeb_family(ZEB_T_ ZEB_Byte_Array_ TT_word byte_array TT_PHRASE "byte arrays" ZEB_T_Element "ZEB_Byte_Array *"
+           TT_FIELD_ELEMENT "ZEB_Byte_Array *ZEB_UNRETAINED"
            TT_KIND "Held_Objects<Byte_Array_Policy>" TT_KIND_STATE "vector->held_count"
            TT_VECTOR_FIELDS "uint32_t held_count;" TT_FORWARD_CLASSES "@class ZEB_Stream, ZEB_Byte_Array;"
            TT_STORING "${zeb_storing_of_held}"

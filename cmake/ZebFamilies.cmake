@@ -6,7 +6,7 @@
 
 # Longer names before those that they begin with: replacement is by plain text.
 set(zeb_family_columns
-    ZEB_T_Element ZEB_T_Array ZEB_T_ TT_word TT_PHRASE TT_STORING TT_FORWARD_CLASSES TT_COLLECTION_FIELDS
+    ZEB_T_Element TT_FIELD_ELEMENT ZEB_T_Array ZEB_T_ TT_word TT_PHRASE TT_STORING TT_FORWARD_CLASSES TT_COLLECTION_FIELDS
     TT_VECTOR_FIELDS TT_KIND_STATE TT_KIND TT_WRITE_ELEMENT)
 set(zeb_columns_that_may_be_empty TT_COLLECTION_FIELDS TT_VECTOR_FIELDS TT_KIND_STATE)
 
@@ -71,6 +71,7 @@ function(zeb_family)
     message(FATAL_ERROR "${row_ZEB_T_}: unknown column ${row_UNPARSED_ARGUMENTS}.")
   endif()
   zeb_default(ZEB_T_Array ${row_ZEB_T_}Array)
+  zeb_default(TT_FIELD_ELEMENT "${row_ZEB_T_Element}")
   zeb_default(TT_KIND "Plain_Elements<${row_ZEB_T_Element}>")
   zeb_default(TT_STORING "Elements are values, copied as they are.")
   zeb_default(TT_FORWARD_CLASSES "@class ZEB_Stream;")

@@ -22,13 +22,15 @@
  * One write is one message: a delimited list, for one, gives a message for each delimiter, element and
  * separator. A number that its format prints as nothing gives none. A stream of this class does not replace
  * the shared error stream.
+ *
+ * For one thread: it writes to standard error as the shared error stream does.
  */
 ZEB_EXPORT
 @interface ZEB_Relay_Error_Stream : ZEB_Error_Stream {
     ZEB_PROTECTED
-    id<ZEB_Message_Listener> listener;
-    ZEB_Message_Text *captured_text;
-    ZEB_Wide_String *wide_text;
+    ZEB_UNRETAINED id<ZEB_Message_Listener> listener;
+    ZEB_UNRETAINED ZEB_Message_Text *captured_text;
+    ZEB_UNRETAINED ZEB_Wide_String *wide_text;
     uint8_t echoes;               /* 1 at first */
     uint8_t captures_diagnostics; /* 0 at first */
     uint8_t is_relaying;

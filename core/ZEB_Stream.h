@@ -17,7 +17,8 @@
  * selects the type's first format, as listed below. Numbers are written and read as in the "C" locale,
  * whatever locale the application has set.
  *
- * Results of printf, scanf and fwrite are ignored here. There is no locking.
+ * Results of printf, scanf and fwrite are ignored here. There is no locking: the shared stream is for one thread,
+ * different streams that write to different places may be used on different threads.
  */
 ZEB_EXPORT
 @interface ZEB_Stream : ZEB_Object {
@@ -35,7 +36,7 @@ ZEB_EXPORT
     ZEB_Char_Span list_close_delimiter; /* "}" */
     ZEB_Char_Span list_separator;       /* ", " */
     uint32_t failure_count;
-    ZEB_String *scratch_string;
+    ZEB_UNRETAINED ZEB_String *scratch_string;
 }
 
 /** Returns the shared standard-output stream of the process, created on the first call and never released. */

@@ -14,9 +14,9 @@
  * ill-formed, or no property list reports "Cannot store value, no change made.".
  *
  * Numbers and booleans are read from platform numbers and from text alike. Values are kept in memory at once, and for
- * other processes and the next run as the platform does: latest with `synchronize`. GNUstep's files do not keep
- * everything: characters beyond U+FFFF and a text with "\U" come back changed in the next process, a double with 16
- * digits. Store such text as bytes.
+ * other processes and the next run as the platform does: latest with `synchronize`. GNUstep's files do not keep all
+ * text: characters beyond U+FFFF, U+FFFE, and a "\U" in it come back changed in the next process. Store such text as
+ * bytes.
  *
  * Defaults objects may be used on one thread at a time.
  */
@@ -33,8 +33,8 @@
 - (NSInteger)integer_for_key:(ZEB_String *)key;
 - (void)set_integer_for_key:(NSInteger)value key:(ZEB_String *)key;
 
-/** A double. It is stored as the platform's text of the number, with a decimal point in every locale; what is not
-    finite has a text too, but reads as 0 with GNUstep. */
+/** A double. It is stored as the platform's text of the number, with a decimal point in every locale: with
+    GNUstep some 15 digits come back, and what is not finite reads as 0. */
 - (double)double_for_key:(ZEB_String *)key;
 - (void)set_double_for_key:(double)value key:(ZEB_String *)key;
 

@@ -3,7 +3,7 @@
  */
 #import <Korvane_ZEB/ZEB_Default_Values.h>
 
-/** Passes every operation on to the defaults that it holds; without any it answers 0 or nil, and stores nothing. */
+/** Passes every operation on to the defaults that it holds; without any it answers 0 or nil, and changes nothing. */
 ZEB_EXPORT
 @interface ZEB_Defaults : ZEB_Object <ZEB_Default_Values> {
     ZEB_PROTECTED

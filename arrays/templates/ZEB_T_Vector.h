@@ -17,7 +17,7 @@ ZEB_EXPORT
 @interface ZEB_T_Vector : ZEB_T_Collection <NSCopying> {
     ZEB_PROTECTED
     uint32_t count;
-    ZEB_T_Element *data;
+    TT_FIELD_ELEMENT *data;
     TT_VECTOR_FIELDS
 }
 

@@ -12,11 +12,13 @@ TT_FORWARD_CLASSES
  * refuses.
  *
  * The readers are those of the base class: they read standard input.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_T_Stream : ZEB_Stream {
     ZEB_PROTECTED
-    ZEB_T_Element target;
+    ZEB_UNRETAINED ZEB_T_Element target;
     uint8_t owns_target;
     uint32_t read_position;
     char *formatting_buffer;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Every public header compiles alone: as Objective-C with gcc and as Objective-C++ with clang, the plain ones as
-# C and C++; the one that includes all in all four ways.  headers.sh LIST INCLUDE
+# C and C++; the one that includes all in all four ways, and under automatic reference counting.  headers.sh LIST INCLUDE
 set -u
 list=$1 include=$2
 guards=$(dirname "$0")
@@ -32,6 +32,9 @@ compile_alone() { # PATH
     if [[ $name == Korvane_ZEB.h ]]; then
         compiles g++ -x objective-c++ -std=c++20 "${strict[@]}" "${gnustep[@]}"
         compiles clang -x objective-c -std=gnu11 "${strict[@]}" "${gnustep[@]}" "${clang[@]}"
+        # For automatic reference counting there is another runtime; the header of this one has an error then.
+        clang++ -x objective-c++ -std=c++17 -fobjc-arc "${strict[@]}" "${gnustep[@]}" "${clang[@]}" \
+            -fobjc-runtime=gnustep-2.0 - <<<"$line" 2>&1 | grep ': error: ' | grep -v '/objc/' && status=1
     fi
     return $status
 }

@@ -8,8 +8,8 @@
 
 ZEB_EXTERN_C_BEGIN
 
-/** Reads the process's real user and group ids and creates the table of keys, on the first call; later calls do
-    nothing. The first file entry calls it. */
+/** Reads the process's real user and group ids and creates the table of keys, on the first call; later calls
+    do nothing. The first file entry calls it. */
 ZEB_EXPORT void ZC_start_up_file_system(void);
 
 ZEB_EXTERN_C_END

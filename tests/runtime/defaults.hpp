@@ -14,7 +14,8 @@ using Defaults = NSObject<ZEB_Default_Values>;
 /// Whether the defaults of these tests are their own (tests/CMakeLists.txt), and not the user's.
 inline bool defaults_are_scratch() { return std::getenv("GNUSTEP_CONFIG_FILE") != nullptr; }
 
-/// What each getter answers for a key, and what `assign_string_for_key:key:` makes of a string that held "old".
+/// What each getter answers for a key, and what `assign_string_for_key:key:` makes of a string that held
+/// "old".
 inline std::string values_of(Defaults *defaults, ZEB_String *key)
 {
     const auto quoted = [](auto *string) { return string != nil ? "'" + text_of(string) + "'" : "nil"; };

@@ -21,13 +21,14 @@ struct Row {
 };
 
 const Row rows[] = {
-    {"true", [](Defaults *d, ZEB_String *key) { [d set_bool_for_key:200 key:key]; }, "1 1 1 '1' '1' nil object",
-     "1 1 1 nil '' nil object"},
-    {"false", [](Defaults *d, ZEB_String *key) { [d set_bool_for_key:0 key:key]; }, "0 0 0 '0' '0' nil object",
-     "0 0 0 nil '' nil object"},
+    {"true", [](Defaults *d, ZEB_String *key) { [d set_bool_for_key:200 key:key]; },
+     "1 1 1 '1' '1' nil object", "1 1 1 nil '' nil object"},
+    {"false", [](Defaults *d, ZEB_String *key) { [d set_bool_for_key:0 key:key]; },
+     "0 0 0 '0' '0' nil object", "0 0 0 nil '' nil object"},
     {"integer", [](Defaults *d, ZEB_String *key) { [d set_integer_for_key:-70000 key:key]; },
      "1 -70000 -70000 '-70000' '-70000' nil object", "1 -70000 -70000 nil '' nil object"},
-    {"of_34_bits", [](Defaults *d, ZEB_String *key) { [d set_integer_for_key:(NSInteger{3} << 32) - 5 key:key]; },
+    {"of_34_bits",
+     [](Defaults *d, ZEB_String *key) { [d set_integer_for_key:(NSInteger{3} << 32) - 5 key:key]; },
      "1 -5 -5 '-5' '-5' nil object", "1 12884901883 1.28849e+10 nil '' nil object"},
     {"double", [](Defaults *d, ZEB_String *key) { [d set_double_for_key:2.5 key:key]; },
      "1 2 2.5 '2.5' '2.5' nil object", "1 2 2.5 '2.5' '2.5' nil object"},
@@ -77,14 +78,16 @@ const Refusal refusals[] = {
     {"set_byte_array_for_key:key:", unusable_value,
      [](Defaults *d, ZEB_String *key) { [d set_byte_array_for_key:nil key:key]; }, true},
     {"set_byte_array_for_key:key:", unusable_value,
-     [](Defaults *d, ZEB_String *key) { [d set_byte_array_for_key:static_cast<id>(text("a")) key:key]; }, true},
+     [](Defaults *d, ZEB_String *key) { [d set_byte_array_for_key:static_cast<id>(text("a")) key:key]; },
+     true},
     {"set_object_for_key:key:", unusable_value,
      [](Defaults *d, ZEB_String *key) { [d set_object_for_key:nil key:key]; }, true},
     {"set_object_for_key:key:", unusable_value,
      [](Defaults *d, ZEB_String *key) { [d set_object_for_key:endless() key:key]; }, true},
     {"set_object_for_key:key:", unusable_value,
      [](Defaults *d, ZEB_String *key) {
-         [d set_object_for_key:[NSArray arrayWithObject:[NSDictionary dictionaryWithObject:@"a" forKey:[NSDate date]]]
+         [d set_object_for_key:[NSArray arrayWithObject:[NSDictionary dictionaryWithObject:@"a"
+                                                                                    forKey:[NSDate date]]]
                            key:key];
      },
      true},
@@ -131,8 +134,9 @@ TEST_P(Every_Defaults, refuse_unusable_keys_and_values)
     for (const Refusal &row : refusals)
         for (ZEB_String *const tried : keys)
             if (tried != key || row.in_every_key) {
-                EXPECT_EQ(standard_error_of([&] { row.store(defaults, tried); }),
-                          fix_line(row.selector, is_suite ? "ZEB_Suite_Defaults" : "NSUserDefaults", row.note));
+                EXPECT_EQ(
+                    standard_error_of([&] { row.store(defaults, tried); }),
+                    fix_line(row.selector, is_suite ? "ZEB_Suite_Defaults" : "NSUserDefaults", row.note));
             }
     for (ZEB_String *const tried : keys)
         EXPECT_EQ(values_of(defaults, tried), tried == key ? "0 0 0 'stays' 'stays' nil object" : no_values);
@@ -171,7 +175,8 @@ TEST(Defaults, suite_refuses_what_the_platform_would_throw_for)
     };
     refusal("setObject:forKey:", unusable_value, [=] { [suite setObject:nil forKey:@"key"]; });
     refusal("setObject:forKey:", unusable_key, [=] { [suite setObject:@"a" forKey:nil]; });
-    refusal("setObject:forKey:", unusable_key, [=] { [suite setObject:@"a" forKey:static_cast<id>([NSDate date])]; });
+    refusal("setObject:forKey:", unusable_key,
+            [=] { [suite setObject:@"a" forKey:static_cast<id>([NSDate date])]; });
     refusal("removeObjectForKey:", unusable_key, [=] { [suite removeObjectForKey:nil]; });
     [suite setFloat:0.1f forKey:@"key"];
     EXPECT_TRUE([[suite objectForKey:@"key"] isEqual:@"0.1"]);

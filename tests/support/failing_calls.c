@@ -5,6 +5,7 @@
 #include <errno.h>
 #include <fcntl.h>
 #include <limits.h>
+#include <pthread.h>
 #include <signal.h>
 #include <stdarg.h>
 #include <stdatomic.h>
@@ -14,10 +15,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-enum { OPEN, READ, WRITE, CLOSE, RENAME, FTRUNCATE, STAT, REMOVE, MEMORY, ANY_FILE, CALL_COUNT };
+enum { OPEN, READ, WRITE, CLOSE, RENAME, FTRUNCATE, STAT, REMOVE, MEMORY, THREAD, ANY_FILE, CALL_COUNT };
 
-static const char *const call_names[CALL_COUNT] = {"open",      "read", "write",  "close",  "rename",
-                                                   "ftruncate", "stat", "remove", "memory", "file"};
+static const char *const call_names[CALL_COUNT] = {
+    "open", "read", "write", "close", "rename", "ftruncate", "stat", "remove", "memory", "thread", "file"};
 
 static char folder[4096];
 static int planned_call = CALL_COUNT;
@@ -78,7 +79,7 @@ static int is_due_as(int call)
 static int is_due(int call)
 {
     int due = is_due_as(call);
-    if (call != MEMORY)
+    if (call < MEMORY)
         due |= is_due_as(ANY_FILE);
     if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE)
         raise(SIGKILL);
@@ -156,6 +157,11 @@ MAY_FAIL(ftruncate, (int file, off_t size), (file, size), is_watched_file(file),
 MAY_FAIL(rename, (const char *from, const char *to), (from, to), is_inside(from), RENAME)
 MAY_FAIL(remove, (const char *path), (path), is_inside(path), REMOVE)
 MAY_FAIL(stat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path), STAT)
+
+int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*work)(void *), void *argument)
+{
+    return is_due(THREAD) ? outcome : PLATFORM(pthread_create)(thread, attributes, work, argument);
+}
 
 /* The C library's own names for these, which serve before the loader can be asked for others. */
 void *__libc_malloc(size_t size);

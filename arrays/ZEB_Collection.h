@@ -8,6 +8,9 @@
 /**
  * The base class of the typed arrays and strings. A collection either owns its storage or is a link: a view
  * of storage that belongs to another object or to the caller, who must keep it alive.
+ *
+ * Different collections may be used on different threads, a link and its owner on the same one; growth seeds
+ * are set before. ZEB_Object.h says what else may not.
  */
 ZEB_EXPORT
 @interface ZEB_Collection : ZEB_Object {

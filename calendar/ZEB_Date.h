@@ -13,6 +13,8 @@
  * Nothing is refused and no operation reports an error: fields out of range are normalised through the day
  * number where an operation says so. The time of day is never checked; some operations leave it past the end
  * of the day. A nil date is read as one that was never set; it equals no date.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_Date : ZEB_Object <NSCopying> {

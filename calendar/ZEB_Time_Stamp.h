@@ -5,7 +5,11 @@
 
 @class ZEB_Stream;
 
-/** The seconds and nanoseconds since 1970-01-01 00:00 UTC. */
+/**
+ * The seconds and nanoseconds since 1970-01-01 00:00 UTC.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
+ */
 ZEB_EXPORT
 @interface ZEB_Time_Stamp : ZEB_Object <NSCopying, NSCoding> {
     ZEB_PROTECTED
@@ -34,6 +38,9 @@ ZEB_EXPORT
 /** The instant; nothing is checked. */
 - (ZEB_Time_Value)time_value;
 - (void)set_time_value:(uint64_t)second nanosecond:(uint64_t)nanosecond;
+
+/** Returns the instant in seconds since 1970-01-01 00:00 UTC, rounded to a double. */
+- (double)seconds_since_1970;
 
 /** Returns 1 if seconds and nanoseconds are equal, else 0; 0 for nil. */
 - (uint8_t)is_equal_to:(ZEB_Time_Stamp *)other;

@@ -109,6 +109,11 @@ ZEB_Time_Value read_time(NSCoder *coder)
     time = {second, nanosecond};
 }
 
+- (double)seconds_since_1970
+{
+    return static_cast<double>(time.second) + static_cast<double>(time.nanosecond) / 1e9;
+}
+
 - (uint8_t)is_equal_to:(ZEB_Time_Stamp *)other
 {
     return other != nil && time.second == other->time.second && time.nanosecond == other->time.nanosecond;

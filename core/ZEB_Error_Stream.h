@@ -9,6 +9,8 @@
  *
  * The unsigned-long writers still write to standard output, and all readers read from standard input, as in
  * the base class.
+ *
+ * The shared stream is for one thread, and so are operations that it is to report.
  */
 ZEB_EXPORT
 @interface ZEB_Error_Stream : ZEB_Stream {

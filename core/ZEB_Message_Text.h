@@ -7,6 +7,8 @@
 
 /**
  * Keeps message text in a 32-bit string, as UTF-16 units, one per element.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_Message_Text : ZEB_Object <NSCopying> {

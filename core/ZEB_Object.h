@@ -24,13 +24,19 @@
 /**
  * Provides the root operations under the framework's own names. The methods below call NSObject's
  * implementation even if a subclass overrides it. Adds no state.
+ *
+ * Threads: the framework locks nothing. Once start-up is finished on one thread (`ZC_start_up_framework`),
+ * different objects may be used on different threads at once, one object on one thread at a time. What the
+ * process or a class has one of is for one thread: the shared streams and defaults, the release levels,
+ * growth seeds. That holds for the reports of refused operations too, which are written onto the shared error
+ * stream.
  */
 ZEB_EXPORT
 @interface ZEB_Object : NSObject
 
 /** Returns a new, uninitialised instance, owned by the caller. Calls NSObject's `alloc` even if a subclass
     overrides it. */
-+ (id)ZEB_alloc;
++ (id)ZEB_alloc NS_RETURNS_RETAINED;
 
 /** Returns the proprietary notice: one constant text, the same for every class of the framework. */
 + (const char *)get_KVX_proprietary_software_notice;

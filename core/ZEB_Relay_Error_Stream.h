@@ -22,6 +22,8 @@
  * One write is one message: a delimited list, for one, gives a message for each delimiter, element and
  * separator. A number that its format prints as nothing gives none. A stream of this class does not replace
  * the shared error stream.
+ *
+ * For one thread: it writes to standard error as the shared error stream does.
  */
 ZEB_EXPORT
 @interface ZEB_Relay_Error_Stream : ZEB_Error_Stream {

@@ -21,13 +21,13 @@
 + (Class)ZEB_class;
 
 /** Returns a new, uninitialised instance, owned by the caller, from the runtime's plain allocation. */
-+ (id)ZEB_alloc;
++ (id)ZEB_alloc NS_RETURNS_RETAINED;
 
 /** Sends `init` and returns the receiver, even if `init` returns another object. */
 - (id)ZEB_init;
 
 /** Returns a copy owned by the caller, for classes that adopt NSCopying. */
-- (id)ZEB_copy;
+- (id)ZEB_copy NS_RETURNS_RETAINED;
 
 /** Returns the receiver's class. */
 - (Class)ZEB_class;

@@ -17,7 +17,8 @@
  * selects the type's first format, as listed below. Numbers are written and read as in the "C" locale,
  * whatever locale the application has set.
  *
- * Results of printf, scanf and fwrite are ignored here. There is no locking.
+ * Results of printf, scanf and fwrite are ignored here. There is no locking: the shared stream is for one
+ * thread, different streams that write to different places may be used on different threads.
  */
 ZEB_EXPORT
 @interface ZEB_Stream : ZEB_Object {

@@ -10,6 +10,8 @@
  *
  * A reader reads the same number of bytes and reverses them if `needs_swap` is set. Where fewer are left, it
  * returns 0 and increments `failure_count`.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_Binary_File_Stream : ZEB_File_Stream {

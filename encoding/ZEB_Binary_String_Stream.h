@@ -11,6 +11,8 @@
  * A list has no delimiters, in either form. A delimited list that is not empty is followed by one more
  * element: what the slot after its last element holds, or a zero value (nothing for strings and objects)
  * where the list is a link or its block ends there.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_Binary_String_Stream : ZEB_String_Stream {

@@ -1,5 +1,5 @@
 /*
- * Compression of whole buffers in the zlib format.
+ * Compression of whole buffers in the zlib format: different buffers on different threads.
  */
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_String.h>

@@ -12,6 +12,8 @@
  * file; a reader that finds no number in an open file counts nothing and returns 0. Nothing is printed.
  *
  * The C library buffers: a write that failed may be counted only by a later one, by `flush` or by `close`.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_File_Stream : ZEB_Stream {

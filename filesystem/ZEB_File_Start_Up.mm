@@ -1,5 +1,6 @@
 #import "filesystem/ZEB_File_Start_Up_Private.h"
 
+#import <Korvane_ZEB/ZEB_File_Start_Up.h>
 #import <Korvane_ZEB/ZEB_String_Table.h>
 
 #include "core/engine/char_span.hpp"
@@ -35,3 +36,5 @@ uint32_t process_user() { return user; }
 uint32_t process_group() { return group; }
 
 } // namespace zeb::engine
+
+void ZC_start_up_file_system(void) { zeb::engine::start_up_filesystem(); }

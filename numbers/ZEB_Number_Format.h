@@ -9,6 +9,8 @@
 /**
  * Appends the texts of numbers to a wide string, and records the notation of the last one and where its
  * exponent stands. The decimal point is '.' in every locale.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_Number_Format : ZEB_Object <NSCopying> {

@@ -1,5 +1,5 @@
 /*
- * Formatting numbers as short text, and scanning numbers in counted characters.
+ * Formatting numbers as short text, and scanning numbers in counted characters. Every thread may call these.
  *
  * The writers omit needless digits. Each writes into the caller's buffer, terminates the text with a null,
  * writes nothing after it, and returns a pointer to it, so that texts can be chained.

@@ -6,17 +6,17 @@
 @class ZEB_Byte_Array, ZEB_String;
 
 /**
- * The values of user defaults, by keys of UTF-8 text. NSUserDefaults offers these operations, and so do its subclasses
- * ZEB_Standard_Defaults and ZEB_Suite_Defaults, and ZEB_Defaults.
+ * The values of user defaults, by keys of UTF-8 text. NSUserDefaults offers these operations, and so do its
+ * subclasses ZEB_Standard_Defaults and ZEB_Suite_Defaults, and ZEB_Defaults.
  *
- * A getter answers 0 or nil for a missing key, for a value of another kind, and for a key that is nil, empty, or no
- * well-formed UTF-8. Such a key given to a setter reports "Cannot use key, no change made."; a value that is nil,
- * ill-formed, or no property list reports "Cannot store value, no change made.".
+ * A getter answers 0 or nil for a missing key, for a value of another kind, and for a key that is nil, empty,
+ * or no well-formed UTF-8. Such a key given to a setter reports "Cannot use key, no change made."; a value
+ * that is nil, ill-formed, or no property list reports "Cannot store value, no change made.".
  *
- * Numbers and booleans are read from platform numbers and from text alike. Values are kept in memory at once, and for
- * other processes and the next run as the platform does: latest with `synchronize`. GNUstep's files do not keep
- * everything: characters beyond U+FFFF and a text with "\U" come back changed in the next process, a double with 16
- * digits. Store such text as bytes.
+ * Numbers and booleans are read from platform numbers and from text alike. Values are kept in memory at once,
+ * and for other processes and the next run as the platform does: latest with `synchronize`. GNUstep's files
+ * do not keep all text: characters beyond U+FFFF, U+FFFE, and a "\U" in it come back changed in the next
+ * process. Store such text as bytes.
  *
  * Defaults objects may be used on one thread at a time.
  */
@@ -33,19 +33,20 @@
 - (NSInteger)integer_for_key:(ZEB_String *)key;
 - (void)set_integer_for_key:(NSInteger)value key:(ZEB_String *)key;
 
-/** A double. It is stored as the platform's text of the number, with a decimal point in every locale; what is not
-    finite has a text too, but reads as 0 with GNUstep. */
+/** A double. It is stored as the platform's text of the number, with a decimal point in every locale: with
+    GNUstep some 15 digits come back, and what is not finite reads as 0. */
 - (double)double_for_key:(ZEB_String *)key;
 - (void)set_double_for_key:(double)value key:(ZEB_String *)key;
 
-/** A platform object: a string, number, date, data, or an array or a dictionary (with strings as keys) of such. */
+/** A platform object: a string, number, date, data, or an array or a dictionary, with strings as keys, of
+    such. */
 - (id)object_for_key:(ZEB_String *)key;
 - (void)set_object_for_key:(id)object key:(ZEB_String *)key;
 
 /** Returns a new autoreleased string; nil for a missing key. */
 - (ZEB_String *)string_for_key:(ZEB_String *)key;
 
-/** Sets the string to the text of the key, as `set_from_NSString:type:` does; empties it for a missing key. */
+/** Sets the string to the text of the key by `set_from_NSString:type:`; empties it for a missing key. */
 - (void)assign_string_for_key:(ZEB_String *)string key:(ZEB_String *)key;
 
 /** Stores the string as text. */

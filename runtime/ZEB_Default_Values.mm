@@ -92,13 +92,15 @@ Value *value_of_class(NSUserDefaults *defaults, ZEB_String *key)
     return [value isKindOfClass:[Value class]] ? value : nil;
 }
 
-/// Calls `change` with the platform's key.
+/// Calls `change` with the platform's key; the platform throws for what it cannot keep.
 template <class Change>
 void change_key(engine::Fix_Report report, ZEB_String *key, Change change)
 {
     NSString *const name = platform_key(key);
-    if (name == nil || !engine::runs_through([&] { change(name); }))
+    if (name == nil)
         report(engine::notes::unusable_key);
+    else if (!engine::runs_through([&] { change(name); }))
+        report(engine::notes::unusable_value);
 }
 
 /// A value that is nil is one that cannot be stored.
@@ -161,13 +163,15 @@ ZEB_Byte_Array *byte_array_of(NSData *data)
 - (double)double_for_key:(ZEB_String *)key
 {
     const id value = [self object_for_key:key];
-    return [value isKindOfClass:[NSNumber class]] || [value isKindOfClass:[NSString class]] ? [value doubleValue]
-                                                                                            : 0;
+    return [value isKindOfClass:[NSNumber class]] || [value isKindOfClass:[NSString class]]
+               ? [value doubleValue]
+               : 0;
 }
 
 - (void)set_double_for_key:(double)value key:(ZEB_String *)key
 {
-    store(engine::Fix_Report{self, _cmd}, self, engine::text_of_number([NSNumber numberWithDouble:value]), key);
+    store(engine::Fix_Report{self, _cmd}, self, engine::text_of_number([NSNumber numberWithDouble:value]),
+          key);
 }
 
 - (id)object_for_key:(ZEB_String *)key

@@ -6,8 +6,8 @@
 namespace zeb::engine
 {
 
-/// Returns the object itself if it is a property list that the platform can keep; nil otherwise. Containers are
-/// followed to a depth that no file needs, so that one inside itself ends.
+/// Returns the object itself if it is a property list that the platform can keep; nil otherwise. Containers
+/// are followed to a depth that no file needs, so that one inside itself ends.
 id property_list_or_nil(id object);
 
 /// Returns the platform's text of a number, as in the "C" locale.

@@ -3,7 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Default_Values.h>
 
-/** Passes every operation on to the defaults that it holds; without any it answers 0 or nil, and stores nothing. */
+/** Passes every operation on to the defaults that it holds; without any it answers 0 or nil, and changes
+ * nothing. */
 ZEB_EXPORT
 @interface ZEB_Defaults : ZEB_Object <ZEB_Default_Values> {
     ZEB_PROTECTED
@@ -13,8 +14,8 @@ ZEB_EXPORT
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** Return the one object over the framework's suite, and the one over the application's defaults. Each is created and
-    synchronised on the first call, and never released. */
+/** Return the one object over the framework's suite, and the one over the application's defaults. Each is
+    created and synchronised on the first call, and never released. */
 + (ZEB_Defaults *)shared_suite;
 + (ZEB_Defaults *)shared_standard;
 

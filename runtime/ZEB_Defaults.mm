@@ -95,7 +95,7 @@ ZEB_Defaults *new_synchronised(NSUserDefaults *held)
 
 - (double)double_for_key:(ZEB_String *)key
 {
-    return [defaults double_for_key:key];
+    return defaults != nil ? [defaults double_for_key:key] : 0; // nil answers no double on the gcc runtime
 }
 
 - (void)set_double_for_key:(double)value key:(ZEB_String *)key

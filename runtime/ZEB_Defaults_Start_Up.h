@@ -11,8 +11,8 @@ ZEB_EXTERN_C_BEGIN
 ZEB_EXPORT void ZC_start_up_defaults_domain(void);
 ZEB_EXPORT void ZC_start_up_debug_logging(void);
 
-/** Return "Korvane", the framework's own domain of the user defaults, and "does_debug_logging", the key that switches
-    debug logging on. Nil before their start-up. */
+/** Return "Korvane", the framework's own domain of the user defaults, and "does_debug_logging", the key that
+    switches debug logging on. Nil before their start-up. */
 ZEB_EXPORT NSString *ZC_defaults_domain(void);
 ZEB_EXPORT NSString *ZC_debug_logging_key(void);
 

@@ -8,8 +8,8 @@
 /**
  * A lock that one thread holds at a time. The framework itself takes none.
  *
- * It is not recursive: a thread that locks it twice waits for ever. Every thread may use it at any time, as long as
- * the object lives.
+ * It is not recursive: a thread that locks it twice waits for ever. Every thread may use it at any time, as
+ * long as the object lives.
  */
 ZEB_EXPORT
 @interface ZEB_Lock : ZEB_Object {
@@ -29,8 +29,8 @@ ZEB_EXPORT
 /** Takes the lock if no thread holds it, and returns 1; returns 0 at once otherwise. */
 - (uint8_t)try_lock;
 
-/** Gives the lock back. A lock that this thread does not hold reports "Cannot lock or unlock, no change made." where
-    the platform sees it. */
+/** Gives the lock back. A lock that this thread does not hold reports "Cannot lock or unlock, no change
+    made." where the platform sees it. */
 - (void)unlock;
 
 @end

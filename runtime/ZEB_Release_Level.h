@@ -6,16 +6,16 @@
 @class ZEB_Object_Array;
 
 /**
- * A level of a stack. It retains the objects that it is told to keep, and autoreleased objects live in its pool; both
- * go when the level is popped.
+ * A level of a stack. It retains the objects that it is told to keep, and autoreleased objects live in its
+ * pool; both go when the level is popped.
  *
  *     [ZEB_Release_Level push];
  *     ZEB_String *const text = [ZEB_String array_with_capacity:0]; // lives until the pop
- *     [ZEB_Release_Level keep:document];                           // released, no sooner, by the pop
+ *     [ZEB_Release_Level keep:document];                           // stays until the pop
  *     [ZEB_Release_Level pop];
  *
- * There is one stack in the process, for one thread: each push is popped on the thread that pushed, and other threads
- * use autorelease pools.
+ * There is one stack in the process, for one thread: each push is popped on the thread that pushed, and other
+ * threads use autorelease pools.
  */
 ZEB_EXPORT
 @interface ZEB_Release_Level : ZEB_Object {
@@ -32,15 +32,15 @@ ZEB_EXPORT
 /** Opens a level inside the current one, or a root level if there is none, and makes it the current one. */
 + (void)push;
 
-/** Closes the current level: its parent becomes the current one, and the level is released. Nothing happens without a
-    level. */
+/** Closes the current level: its parent becomes the current one, and the level is released. Nothing happens
+    without a level. */
 + (void)pop;
 
 /** Retains the object until the current level is closed. Nothing happens without a level, or for nil. */
 + (void)keep:(id)object;
 
-/** The current level: nil if there is none. Setting it neither retains nor releases; a pop releases what is then the
-    current one. */
+/** The current level: nil if there is none. Setting it neither retains nor releases; a pop releases what is
+    then the current one. */
 + (ZEB_Release_Level *)current;
 + (void)set_current:(ZEB_Release_Level *)level;
 
@@ -57,8 +57,8 @@ ZEB_EXPORT
 - (ZEB_Release_Level *)parent;
 - (void)set_parent:(ZEB_Release_Level *)level;
 
-/** The level inside this one: not retained, but released with this one, which makes this one's parent the current
-    level. */
+/** The level inside this one: not retained, but released with this one, which makes this one's parent the
+    current level. */
 - (ZEB_Release_Level *)child;
 - (void)set_child:(ZEB_Release_Level *)level;
 

@@ -10,8 +10,8 @@ ZEB_EXPORT
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** Returns NSUserDefaults' `standardUserDefaults`, which is of that class and offers the same operations; fetched on
-    the first call and never released. */
+/** Returns NSUserDefaults' `standardUserDefaults`, which is of that class and offers the same operations;
+    fetched on the first call and never released. */
 + (NSUserDefaults *)shared;
 
 @end

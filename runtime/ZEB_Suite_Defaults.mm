@@ -28,8 +28,8 @@ ZEB_Suite_Defaults *new_suite_defaults()
     return made;
 }
 
-/// The domain is not removed first: the platform replaces it as a whole all the same, and what is removed is gone
-/// from the disk at once, for other processes and for good where the process ends in between.
+/// The domain is not removed first: the platform replaces it as a whole all the same, and what is removed is
+/// gone from the disk at once, for other processes and for good where the process ends in between.
 template <class Change>
 void replace_domain(ZEB_Suite_Defaults *suite, Change change)
 {

@@ -31,9 +31,10 @@ void detach(engine::Fix_Report report, SEL selector, id target, id object)
         thread = [[NSThread alloc] initWithTarget:target selector:selector object:object];
         [thread start];
     });
-    if (!is_started || thread == nil)
-        report(engine::notes::no_thread);
-    [thread release];
+    if (is_started && thread != nil)
+        return [thread release];
+    // Releasing one that was not started is not safe: GNUstep throws where it counts as active.
+    report(engine::notes::no_thread);
 }
 
 uint8_t is_multi_threaded() { return [NSThread isMultiThreaded] ? 1 : 0; }

@@ -14,6 +14,8 @@
  * The 32-bit text consists of UTF-16 units, of which only the low 16 bits count. Foundation replaces
  * characters that the encoding does not have. A target that is a link becomes an owner; if the result is
  * empty its count becomes 0.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_String_Converter : ZEB_Object {

@@ -12,6 +12,8 @@
  *
  * Text that cannot be decoded leaves the target empty. A target that is a link reports "Cannot update length
  * through link, no adjustment made.", except that text of length 0 sets its count to 0.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_Wide_String_Converter : ZEB_Object {

@@ -12,6 +12,8 @@ TT_FORWARD_CLASSES
  * refuses.
  *
  * The readers are those of the base class: they read standard input.
+ *
+ * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
 @interface ZEB_T_Stream : ZEB_Stream {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Every public header compiles alone: as Objective-C with gcc and as Objective-C++ with clang, the plain ones as
-# C and C++; the one that includes all in all four ways.  headers.sh LIST INCLUDE
+# C and C++; the one that includes all in all four ways, and under automatic reference counting.  headers.sh LIST INCLUDE
 set -u
 list=$1 include=$2
 guards=$(dirname "$0")

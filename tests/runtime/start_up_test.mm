@@ -46,3 +46,11 @@ TEST(Start_Up, sets_the_flags_of_the_unit_catalog_once)
     ZC_start_up_unit_catalog();
     EXPECT_EQ(flags[3], 0);
 }
+
+TEST(Start_Up, of_the_framework_runs_every_routine)
+{
+    ZC_start_up_framework();
+    EXPECT_TRUE([ZC_debug_logging_key() isEqualToString:@"does_debug_logging"]);
+    EXPECT_NE(ZC_defaults_domain(), nil);
+    ZC_start_up_framework();
+}

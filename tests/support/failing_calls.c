@@ -6,6 +6,7 @@
 #include <errno.h>
 #include <fcntl.h>
 #include <limits.h>
+#include <pthread.h>
 #include <signal.h>
 #include <stdarg.h>
 #include <stdatomic.h>
@@ -21,7 +22,7 @@
     X(WRITE, "write") X(CLOSE, "close") X(RENAME, "rename") X(FTRUNCATE, "ftruncate") X(STAT, "stat")        \
     X(REMOVE, "remove") X(UNLINKAT, "unlinkat") X(MKDIR, "mkdir") X(SYMLINK, "symlink")                      \
     X(FCHMOD, "fchmod") X(FCHOWN, "fchown") X(LCHOWN, "lchown") X(FSTAT, "fstat") X(FDOPENDIR, "fdopendir")  \
-    X(MEMORY, "memory") X(ANY_FILE, "file")
+    X(THREAD, "thread") X(MEMORY, "memory") X(ANY_FILE, "file")
 
 #define CALL_NUMBER(number, name) number,
 #define CALL_NAME(number, name) name,
@@ -87,7 +88,7 @@ static int is_due_as(int call)
 static int is_due(int call)
 {
     int due = is_due_as(call);
-    if (call != MEMORY)
+    if (call < MEMORY)
         due |= is_due_as(ANY_FILE);
     if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE)
         raise(SIGKILL);
@@ -214,6 +215,11 @@ DIR *fdopendir(int file)
 struct dirent *readdir(DIR *stream)
 {
     return is_watched_file(dirfd(stream)) && is_due(READDIR) && refusal() != 0 ? NULL : PLATFORM(readdir)(stream);
+}
+
+int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*work)(void *), void *argument)
+{
+    return is_due(THREAD) ? outcome : PLATFORM(pthread_create)(thread, attributes, work, argument);
 }
 
 /* The C library's own names for these, which serve before the loader can be asked for others. */

@@ -16,8 +16,8 @@ enum {
 };
 
 /* Plans for the call of that number, from 1, counted from now on. `call` is "open", "read", "write", "close",
- * "rename", "ftruncate", "stat", "remove", "memory", or "file" for any of these but memory; with "+" behind
- * it for all calls from that number on. */
+ * "rename", "ftruncate", "stat", "remove", "memory", "thread", or "file" for any of those on files; with "+"
+ * behind it for all calls from that number on. */
 void zeb_plan_failure(const char *folder, const char *call, unsigned number, int outcome);
 
 /* How many such calls were made since then. */

@@ -22,7 +22,7 @@
     X(WRITE, "write") X(CLOSE, "close") X(RENAME, "rename") X(FTRUNCATE, "ftruncate") X(STAT, "stat")        \
     X(REMOVE, "remove") X(UNLINKAT, "unlinkat") X(MKDIR, "mkdir") X(SYMLINK, "symlink")                      \
     X(FCHMOD, "fchmod") X(FCHOWN, "fchown") X(LCHOWN, "lchown") X(FSTAT, "fstat") X(FDOPENDIR, "fdopendir")  \
-    X(THREAD, "thread") X(MEMORY, "memory") X(ANY_FILE, "file")
+    X(MEMORY, "memory") X(THREAD, "thread") X(ANY_FILE, "file")
 
 #define CALL_NUMBER(number, name) number,
 #define CALL_NAME(number, name) name,

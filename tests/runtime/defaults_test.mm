@@ -45,12 +45,10 @@ const Row rows[] = {
      "0 0 0 nil '' nil object", "0 0 0 nil '' nil object"},
 };
 
-/// A container inside itself.
-id endless()
+/// An array in an array in an array, deeper than is looked.
+NSArray *deep_array(int depth = 100)
 {
-    NSMutableArray *const array = [NSMutableArray array];
-    [array addObject:array];
-    return array;
+    return depth == 0 ? [NSArray array] : [NSArray arrayWithObject:deep_array(depth - 1)];
 }
 
 /// What a setter refuses.
@@ -83,7 +81,7 @@ const Refusal refusals[] = {
     {"set_object_for_key:key:", unusable_value,
      [](Defaults *d, ZEB_String *key) { [d set_object_for_key:nil key:key]; }, true},
     {"set_object_for_key:key:", unusable_value,
-     [](Defaults *d, ZEB_String *key) { [d set_object_for_key:endless() key:key]; }, true},
+     [](Defaults *d, ZEB_String *key) { [d set_object_for_key:deep_array() key:key]; }, true},
     {"set_object_for_key:key:", unusable_value,
      [](Defaults *d, ZEB_String *key) {
          [d set_object_for_key:[NSArray arrayWithObject:[NSDictionary dictionaryWithObject:@"a"

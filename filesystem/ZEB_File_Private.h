@@ -7,6 +7,7 @@
 #include "filesystem/engine/path_text.hpp"
 
 #include <errno.h>
+#include <initializer_list>
 
 namespace zeb::engine
 {
@@ -69,11 +70,17 @@ uint32_t intercepted(ZEB_File *file, ZEB_File_Action action, SEL operation, Act 
     return intercepted(file, action, operation, act, run, after, [](uint32_t) {});
 }
 
-/// Reports a success if the entry logs actions: a line of `message` and the path.
-void report_success(ZEB_File *file, ZEB_Char_Span message);
+/// The texts of which a line of a report is made.
+using Line = std::initializer_list<ZEB_Char_Span>;
 
-/// Stores the error and, if the entry reports errors, reports a line of `message` and the path.
-void report_failure(ZEB_File *file, ZEB_Char_Span message, int error);
+/// Reports a success if the entry logs actions: a line of `message` and the path, or the line given.
+void report_success(ZEB_File *file, ZEB_Char_Span message);
+void report_success(ZEB_File *file, Line line);
+
+/// Stores the error and, if the entry reports errors, reports a line of `message` and the path, or the line
+/// given. Returns 0, the result of the operation.
+uint32_t report_failure(ZEB_File *file, ZEB_Char_Span message, int error);
+uint32_t report_failure(ZEB_File *file, Line line, int error);
 
 /// Stores the error and, if the entry reports errors, reports that `actual` bytes were transferred instead of
 /// `expected`.

@@ -17,10 +17,10 @@ void write(ZEB_Stream *stream, ZEB_Char_Span text)
     [stream write_bytes:text.char_c_array length:text.length];
 }
 
-void write_line(ZEB_Stream *stream, ZEB_Char_Span message, ZEB_File *file)
+void write_line(ZEB_Stream *stream, Line line)
 {
-    write(stream, message);
-    write(stream, visible_path([file path]));
+    for (const ZEB_Char_Span text : line)
+        write(stream, text);
     write(stream, line_break);
 }
 
@@ -57,15 +57,26 @@ uint32_t decision_on(ZEB_File *file, ZEB_File_Action action, SEL operation)
 
 void report_success(ZEB_File *file, ZEB_Char_Span message)
 {
-    if ([file log_actions])
-        write_line([ZEB_Stream shared_stream], message, file);
+    report_success(file, {message, visible_path([file path])});
 }
 
-void report_failure(ZEB_File *file, ZEB_Char_Span message, int error)
+void report_success(ZEB_File *file, Line line)
+{
+    if ([file log_actions])
+        write_line([ZEB_Stream shared_stream], line);
+}
+
+uint32_t report_failure(ZEB_File *file, ZEB_Char_Span message, int error)
+{
+    return report_failure(file, {message, visible_path([file path])}, error);
+}
+
+uint32_t report_failure(ZEB_File *file, Line line, int error)
 {
     [file set_last_error:error];
     if ([file report_errors])
-        write_line([ZEB_Error_Stream shared_error_stream], message, file);
+        write_line([ZEB_Error_Stream shared_error_stream], line);
+    return 0;
 }
 
 void report_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB_Char_Span against,
@@ -76,14 +87,12 @@ void report_discrepancy(ZEB_File *file, ZEB_Char_Span lead, uint64_t actual, ZEB
         return;
     // As text, because the error stream's unsigned-long writer writes to standard output.
     char numbers[2][24];
-    ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
     const int actual_length = snprintf(numbers[0], sizeof numbers[0], "%llu", (unsigned long long)actual);
     const int expected_length = snprintf(numbers[1], sizeof numbers[1], "%llu", (unsigned long long)expected);
-    write(stream, lead);
-    [stream write_bytes:numbers[0] length:(uint32_t)actual_length];
-    write(stream, against);
-    [stream write_bytes:numbers[1] length:(uint32_t)expected_length];
-    write_line(stream, occasion, file);
+    write_line([ZEB_Error_Stream shared_error_stream], {
+        lead, {numbers[0], (uint32_t)actual_length}, against, {numbers[1], (uint32_t)expected_length},
+            occasion, visible_path([file path])
+    });
 }
 
 } // namespace zeb::engine

@@ -14,10 +14,32 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-enum { OPEN, READ, WRITE, CLOSE, RENAME, FTRUNCATE, STAT, REMOVE, MEMORY, ANY_FILE, CALL_COUNT };
+enum {
+    OPEN,
+    READ,
+    WRITE,
+    CLOSE,
+    RENAME,
+    FTRUNCATE,
+    STAT,
+    REMOVE,
+    LSTAT,
+    FSTAT,
+    REALPATH,
+    UNLINK,
+    FSYNC,
+    FCHMOD,
+    FCHOWN,
+    COPY_FILE_RANGE,
+    MEMORY,
+    ANY_FILE,
+    CALL_COUNT
+};
 
-static const char *const call_names[CALL_COUNT] = {"open",      "read", "write",  "close",  "rename",
-                                                   "ftruncate", "stat", "remove", "memory", "file"};
+static const char *const call_names[CALL_COUNT] = {
+    "open",  "read",   "write",  "close",           "rename",   "ftruncate",
+    "stat",  "remove", "lstat",  "fstat",           "realpath", "unlink",
+    "fsync", "fchmod", "fchown", "copy_file_range", "memory",   "file"};
 
 static char folder[4096];
 static int planned_call = CALL_COUNT;
@@ -80,7 +102,7 @@ static int is_due(int call)
     int due = is_due_as(call);
     if (call != MEMORY)
         due |= is_due_as(ANY_FILE);
-    if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE)
+    if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE && call != COPY_FILE_RANGE)
         raise(SIGKILL);
     return due;
 }
@@ -138,6 +160,27 @@ ssize_t write(int file, const void *bytes, size_t size)
     return written;
 }
 
+ssize_t copy_file_range(int from, off64_t *from_offset, int to, off64_t *to_offset, size_t size,
+                        unsigned flags)
+{
+    if (!is_watched_file(to) || !is_due(COPY_FILE_RANGE))
+        return PLATFORM(copy_file_range)(from, from_offset, to, to_offset, size, flags);
+    if (outcome >= 0)
+        return refusal();
+    const ssize_t moved = PLATFORM(copy_file_range)(from, from_offset, to, to_offset, (size + 1) / 2, flags);
+    if (outcome == ZEB_CALL_IS_THE_LAST)
+        raise(SIGKILL);
+    return moved;
+}
+
+char *realpath(const char *restrict path, char *restrict resolved)
+{
+    if (!is_inside(path) || !is_due(REALPATH))
+        return PLATFORM(realpath)(path, resolved);
+    errno = outcome;
+    return NULL;
+}
+
 int close(int file)
 {
     if (!is_watched_file(file))
@@ -155,6 +198,13 @@ int close(int file)
 MAY_FAIL(ftruncate, (int file, off_t size), (file, size), is_watched_file(file), FTRUNCATE)
 MAY_FAIL(rename, (const char *from, const char *to), (from, to), is_inside(from), RENAME)
 MAY_FAIL(remove, (const char *path), (path), is_inside(path), REMOVE)
+MAY_FAIL(unlink, (const char *path), (path), is_inside(path), UNLINK)
+MAY_FAIL(fsync, (int file), (file), is_watched_file(file), FSYNC)
+MAY_FAIL(fchmod, (int file, mode_t mode), (file, mode), is_watched_file(file), FCHMOD)
+MAY_FAIL(fchown, (int file, uid_t owner, gid_t group), (file, owner, group), is_watched_file(file), FCHOWN)
+MAY_FAIL(fstat, (int file, struct stat *found), (file, found), is_watched_file(file), FSTAT)
+MAY_FAIL(lstat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path),
+         LSTAT)
 MAY_FAIL(stat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path), STAT)
 
 /* The C library's own names for these, which serve before the loader can be asked for others. */

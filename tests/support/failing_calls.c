@@ -163,6 +163,10 @@ ssize_t write(int file, const void *bytes, size_t size)
 ssize_t copy_file_range(int from, off64_t *from_offset, int to, off64_t *to_offset, size_t size,
                         unsigned flags)
 {
+    if (is_watched_file(to) && (planned_call == READ || planned_call == WRITE)) {
+        errno = ENOSYS;
+        return -1;
+    }
     if (!is_watched_file(to) || !is_due(COPY_FILE_RANGE))
         return PLATFORM(copy_file_range)(from, from_offset, to, to_offset, size, flags);
     if (outcome >= 0)

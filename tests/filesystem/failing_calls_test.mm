@@ -224,6 +224,19 @@ TEST_F(Failing_Calls, are_told_and_lose_nothing)
     run(read_rows, new_text, read, [=](ZEB_File *) { return text_of(target); });
 }
 
+TEST_F(Failing_Calls, leave_a_copy_restricted)
+{
+    put_file(path, source);
+    chmod(path.c_str(), 0600);
+    ZEB_File *const file = entry(path);
+    const mode_t mask = umask(0);
+    zeb_plan_failure(folder.path.c_str(), "fchmod", 1, EPERM);
+    EXPECT_EQ([file copy_to:text(other)], 1u);
+    zeb_plan_failure("", "file", 0, 0);
+    umask(mask);
+    EXPECT_EQ(std::filesystem::status(other).permissions(), std::filesystem::perms(0600));
+}
+
 TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
 {
     const auto is_refused_memory = [&](unsigned number, auto work) {
@@ -254,8 +267,20 @@ TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
     }
     EXPECT_EQ(answer, 1u);
 
-    is_refused_memory(1, [&] { [near set_path:new_path]; });
-    EXPECT_EQ([near last_error], ENOMEM);
-    EXPECT_EQ([near write_contents:"x" length:1], 0u);
+    for (unsigned number = 1; is_refused_memory(number, [&] { answer = [near move_to:new_path]; });
+         ++number) {
+        EXPECT_EQ(answer, 0u);
+        EXPECT_EQ([near last_error], ENOMEM);
+        EXPECT_EQ(text_of([near path]), path);
+        EXPECT_EQ(file_text(path), old_text);
+    }
+    EXPECT_EQ(answer, 1u);
+    EXPECT_EQ(text_of([near path]), deep);
+
+    put_file(path, old_text);
+    ZEB_File *const changed = entry(path);
+    is_refused_memory(1, [&] { [changed set_path:new_path]; });
+    EXPECT_EQ([changed last_error], ENOMEM);
+    EXPECT_EQ([changed write_contents:"x" length:1], 0u);
     EXPECT_EQ(file_text(path), old_text);
 }

@@ -3,7 +3,6 @@
 
 #include <cerrno>
 #include <climits>
-#include <fcntl.h>
 #include <unistd.h>
 
 using namespace support;
@@ -94,7 +93,8 @@ TEST_F(File_Copying, tells_failures)
     expect_failure(path, folder / "fifo", "Error copying to file: " + (folder / "fifo"), ENXIO);
     EXPECT_EQ([entry(folder / "fifo") copy_to:text(other)], 1u); // of no size
     alarm(0);
-    EXPECT_EQ([entry(path) copy_to:nil], 0u);
+    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([entry(path) copy_to:nil], 0u); }),
+              "Error copying to file: \n");
 }
 
 TEST_F(File_Copying, goes_by_the_snapshot)
@@ -123,22 +123,20 @@ TEST_F(File_Copying, goes_by_the_snapshot)
     }
 }
 
-TEST_F(File_Copying, and_moving_take_files_of_more_than_4_GiB)
+TEST_F(File_Copying, and_moving_know_sizes_above_4_GiB)
 {
-    const int made = open(path.c_str(), O_RDWR | O_CREAT, 0600);
+    put_file(path, "");
     const off_t size = (off_t{4} << 30) + 5;
-    ASSERT_EQ(pwrite(made, "end", 3, size - 3), 3);
-    close(made);
+    ASSERT_EQ(truncate(path.c_str(), size), 0);
     ZEB_File *const file = entry(path);
-    ASSERT_EQ([file copy_to:text(other)], 1u);
-    EXPECT_EQ(status_of(other).st_size, size);
-    const int copy = open(other.c_str(), O_RDONLY);
-    char end[4] = "";
-    EXPECT_EQ(pread(copy, end, 3, size - 3), 3);
-    EXPECT_STREQ(end, "end");
-    close(copy);
     EXPECT_EQ([file move_to:text(other)], 1u);
     EXPECT_EQ(status_of(other).st_size, size);
+    put_file(other, "cut");
+    EXPECT_EQ(
+        standard_error_of([&] { EXPECT_EQ([file copy_to:text(path)], 1u); }),
+        "Warning: Discrepancy in actual length read 3 v.s. content size 4294967301 while copying contents "
+        "from file: " +
+            other + "\n");
 }
 
 TEST_F(File_Copying, takes_every_name_and_long_paths)

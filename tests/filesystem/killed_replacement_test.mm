@@ -23,12 +23,12 @@ uint32_t replace(ZEB_File *file, const std::string &contents)
     return [file replace_contents:contents.data() length:static_cast<uint32_t>(contents.size())];
 }
 
-using Killed_Replacement = File_Test;
-
 } // namespace
 
-TEST_F(Killed_Replacement, leaves_the_old_or_the_new_file_whole)
+TEST(Killed_Replacement, leaves_the_old_or_the_new_file_whole)
 {
+    const Scratch_Folder folder(place_in_memory());
+    const std::string path = folder / "file";
     ZEB_File *const file = entry(path);
     unsigned killed = 0;
     for (const size_t size : {2, 4096, 100000, 1 << 20}) {

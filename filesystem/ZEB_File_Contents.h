@@ -4,9 +4,9 @@
 #import <Korvane_ZEB/ZEB_File.h>
 
 /**
- * Each operation first asks the interceptor. Sizes are those of the snapshot: refresh the
- * status before reading. After an operation `last_error` shows whether it fully succeeded, even if its result
- * does not. Nothing blocks: a FIFO without a partner, or a device without data, is a failure.
+ * Each operation first asks the interceptor. Sizes are those of the snapshot: refresh the status before
+ * reading. After an operation `last_error` shows whether it fully succeeded, even if its result does not.
+ * Nothing blocks: a FIFO without a partner, or a device without data, is a failure.
  */
 @interface ZEB_File (Contents)
 
@@ -44,11 +44,11 @@
     taken over. A symbolic link is followed, and stays.
 
     Returns 1, also if only flushing the directory failed: the file is then replaced, but may be the old one
-    after a power failure, and `last_error` has the cause. Returns 0 after reporting "Error opening file: "
-    (also for what is not a regular file, for a link that leads nowhere, and for a file that may not be
-    written), "Error: Compress failed before writing contents of file: ", or "Error writing contents to file:
-   "; the old file is then unchanged and the new one removed. Only a process that is killed leaves it there.
- */
+    after a power failure, and `last_error` has the cause. Returns 0 after reporting a failure as
+    `write_contents` does. What is not a regular file, a link that leads nowhere, and a file that may not be
+    written cannot be opened. After a failure the old file is unchanged and the new one removed; only a
+    process that is killed leaves it there. Null bytes with a length are refused with EFAULT, here and in
+    `write_contents`, before the file is touched. */
 - (uint32_t)replace_contents:(const void *)bytes length:(uint32_t)length;
 
 @end

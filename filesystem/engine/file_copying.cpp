@@ -76,12 +76,36 @@ int examine_destination(const Open_File &source, const char *path, bool &exists)
     return own.st_dev == other.st_dev && own.st_ino == other.st_ino ? EINVAL : 0;
 }
 
+/// Opens and empties the destination, unless it is the source.
+int open_destination(const Copy_Request &request, const Open_File &source, Open_File &destination,
+                     bool &existed) noexcept
+{
+    const int error = examine_destination(source, request.to, existed);
+    if (error != 0)
+        return error;
+    destination =
+        Open_File::for_writing(request.to, request.sets_new_attributes ? request.mode : mode_of_new_files);
+    return destination.opening_error() != 0 ? destination.opening_error() : destination.cut();
+}
+
 /// Sets the mode and the owner, and returns the first error.
 int set_attributes(Open_File &destination, const Copy_Request &request) noexcept
 {
     const int mode_error = destination.set_mode(request.mode);
     const int owner_error = destination.set_owner(request.owner, request.group);
     return mode_error != 0 ? mode_error : owner_error;
+}
+
+/// Sets the attributes, and closes the destination: an error of that belongs to an earlier write.
+void finish(const Copy_Request &request, Open_File &destination, bool existed, Copy_Result &result) noexcept
+{
+    const int attributes_error =
+        existed || request.sets_new_attributes ? set_attributes(destination, request) : 0;
+    result.error = destination.close();
+    if (result.error != 0)
+        return;
+    result.step = Copying_Step::setting_attributes;
+    result.error = attributes_error;
 }
 
 } // namespace
@@ -93,31 +117,17 @@ Copy_Result copy_file(const Copy_Request &request) noexcept
     result.error = source.opening_error();
     if (result.error != 0)
         return result;
-
     result.step = Copying_Step::opening_destination;
+    Open_File destination;
     bool existed = false;
-    result.error = examine_destination(source, request.to, existed);
+    result.error = open_destination(request, source, destination, existed);
     if (result.error != 0)
         return result;
-    Open_File destination =
-        Open_File::for_writing(request.to, request.sets_new_attributes ? request.mode : mode_of_new_files);
-    result.error = destination.opening_error() != 0 ? destination.opening_error() : destination.cut();
-    if (result.error != 0)
-        return result;
-
     copy_contents(source, destination, request.size, result);
     if (result.step == Copying_Step::reading)
         destination.cut();
-    if (result.error != 0)
-        return result;
-
-    const int attributes_error =
-        existed || request.sets_new_attributes ? set_attributes(destination, request) : 0;
-    result.error = destination.close();
-    if (result.error != 0)
-        return result;
-    result.step = Copying_Step::setting_attributes;
-    result.error = attributes_error;
+    if (result.error == 0)
+        finish(request, destination, existed, result);
     return result;
 }
 

@@ -104,6 +104,9 @@ TEST_F(File_Copying, goes_by_the_snapshot)
     put_file(path, "contents that grew");
     EXPECT_EQ([file copy_to:text(other)], 1u);
     EXPECT_EQ(file_text(other), "contents");
+    ZEB_Byte_Array *const target = bytes("");
+    [file read_contents:target];
+    EXPECT_EQ(text_of(target), "contents");
     put_file(path, "cut");
     EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([file copy_to:text(other)], 1u); }),
               "Warning: Discrepancy in actual length read 3 v.s. content size 8 while copying contents from "

@@ -77,14 +77,14 @@ TEST_F(File_Replacement, keeps_mode_and_links)
     EXPECT_EQ(replace(path, "first", 0), 1u);
     EXPECT_EQ(mode_of(path), 0640u);
     umask(022);
-    chmod(path.c_str(), 04751);
+    chmod(path.c_str(), 0751);
     ASSERT_EQ(symlink("file", (folder / "link").c_str()), 0);
     ASSERT_EQ(link(path.c_str(), (folder / "other name").c_str()), 0);
     EXPECT_EQ(replace(folder / "link", "second", 0), 1u);
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
     EXPECT_EQ(file_text(path), "second");
     EXPECT_EQ(file_text(folder / "other name"), "first");
-    EXPECT_EQ(mode_of(path), 04751u);
+    EXPECT_EQ(mode_of(path), 0751u);
     EXPECT_EQ(replace(path, "", 0), 1u);
     EXPECT_EQ(file_text(path), "");
     EXPECT_EQ(count(), 3u);

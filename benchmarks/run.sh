@@ -7,7 +7,7 @@
 # installed.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
-rooms=(arrays strings encoding calendar)
+rooms=(arrays strings encoding calendar filesystem)
 if [[ "${1:-}" == --room=* ]]; then
     rooms=("${1#--room=}")
     shift

@@ -140,11 +140,13 @@ ZEB_EXPORT
 /** The result of the last operation. */
 @interface ZEB_File (Errors)
 
-/** The platform's error code, as in <errno.h>, of the last operation that failed or lost bytes; 0 after a
-    success. In addition to the platform's own causes: EINVAL for a path with a null inside, ENOMEM for an
-    array that could not grow, ENODATA for a file without contents or shorter than the snapshot's size, EILSEQ
-    for contents that cannot be decompressed or are no document, EFBIG for contents above the greatest size,
-    EIO for bytes that were not written, ECANCELED for a refusal by the interceptor. */
+/** The platform's error code, as in <errno.h>, of the last operation that failed, lost bytes, or left
+    something undone; 0 after a success. In addition to the platform's own causes: EINVAL for a path with a
+    null inside, for a file copied to itself, and for a replacement of what is not a regular file, ENOMEM for
+    an array that could not grow, ENODATA for a file without contents or shorter than the snapshot's size,
+    EILSEQ for contents that cannot be decompressed or are no document, EFBIG for contents above the greatest
+    size, EFAULT for null contents that have a length, EIO for bytes that were not written, ECANCELED for a
+    refusal by the interceptor. */
 - (int32_t)last_error;
 
 /** Sets the error, for an interceptor that acts in place of the entry. Each action starts with 0. */

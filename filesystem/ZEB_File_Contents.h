@@ -1,12 +1,12 @@
 /*
- * Reading and writing whole files, and keeping a backup of a file.
+ * Reading and writing whole files.
  */
 #import <Korvane_ZEB/ZEB_File.h>
 
 /**
- * Each operation except `restore` first asks the interceptor. Sizes are those of the snapshot: refresh the
- * status before reading. After an operation `last_error` shows whether it fully succeeded, even if its result
- * does not. Nothing blocks: a FIFO without a partner, or a device without data, is a failure.
+ * Each operation first asks the interceptor. Sizes are those of the snapshot: refresh the status before
+ * reading. After an operation `last_error` shows whether it fully succeeded, even if its result does not.
+ * Nothing blocks: a FIFO without a partner, or a device without data, is a failure.
  */
 @interface ZEB_File (Contents)
 
@@ -23,7 +23,7 @@
 
 /** Replaces the contents of the file with `length` bytes, compressed if `contents_compressed` is set. The
     file is opened or created, then the bytes are compressed, and only then is the file emptied and written. A
-    later failure leaves it empty or short: if the old contents matter, write another file and rename it.
+    later failure leaves it empty or short: if the old contents matter, use `replace_contents`.
     Returns 1, or 0 after reporting "Error opening file: ", "Error: Compress failed before writing contents of
     file: " (the old contents are then intact), or "Error writing contents to file: " (also if closing fails).
 
@@ -32,13 +32,23 @@
     not set, and the bytes compressed so far were written. */
 - (uint32_t)write_contents:(const void *)bytes length:(uint32_t)length;
 
-/** Renames the file to its path with "~" appended, replacing any file there. The entry then refers to the
-    renamed file: "~" and a null are appended to its path. Returns 1, or 0 after reporting "Error backstoring
-    file: ". */
-- (uint32_t)backstore;
+/** Replaces the file by a new one with these contents, compressed if `contents_compressed` is set. The bytes
+    are written beside the file, under a name that begins with ".zeb-", flushed to the storage device, and
+    renamed over the path, and the directory is flushed. At every moment the path has the old or the new
+    contents, whole, also if the process is killed; after a power failure as far as device and file system
+    keep what they confirm. The interceptor is asked as for `write_contents`.
 
-/** Renames the file at the path with "~" appended back to the path, which must be the one before `backstore`.
-    Returns 1, or 0 after reporting "Error restoring file: ". */
-- (uint32_t)restore;
+    The new file has the permission bits, the owner and the group of the old one. Where this process may not
+    set the owner or the group, it has its own, and the group's rights are at most those of others. Other
+    names of the old file (hard links) keep the old contents; access lists and extended attributes are not
+    taken over. A symbolic link is followed, and stays.
+
+    Returns 1, also if only flushing the directory failed: the file is then replaced, but may be the old one
+    after a power failure, and `last_error` has the cause. Returns 0 after reporting a failure as
+    `write_contents` does. What is not a regular file, a link that leads nowhere, and a file that may not be
+    written cannot be opened. After a failure the old file is unchanged and the new one removed; only a
+    process that is killed leaves it there. Null bytes with a length are refused with EFAULT, here and in
+    `write_contents`, before the file is touched. */
+- (uint32_t)replace_contents:(const void *)bytes length:(uint32_t)length;
 
 @end

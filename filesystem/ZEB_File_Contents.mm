@@ -10,26 +10,15 @@
 #include "encoding/engine/zlib_loops.hpp"
 #include "filesystem/engine/file_contents.hpp"
 #include "filesystem/engine/file_messages.hpp"
+#include "filesystem/engine/file_replacement.hpp"
 
 #include <algorithm>
-#include <stdio.h>
 #include <string.h>
 
 namespace messages = engine::messages;
 
 namespace
 {
-
-/// The suffix of a backup's path, and its size with the null.
-constexpr char suffix[] = "~";
-constexpr uint32_t suffix_size = sizeof suffix;
-
-/// Reports the failure and returns false.
-bool failed(ZEB_File *file, ZEB_Char_Span message, int error)
-{
-    engine::report_failure(file, message, error);
-    return false;
-}
 
 /// Returns the most bytes that may be read.
 uint64_t greatest_size(ZEB_File *file)
@@ -54,11 +43,11 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
     const engine::Platform_Path path([file path]);
     engine::Open_File input = engine::Open_File::for_reading(path.c_string());
     if (input.opening_error() != 0)
-        return failed(file, messages::error_opening, path.cause_of(input.opening_error()));
+        return engine::report_failure(file, messages::error_opening, path.cause_of(input.opening_error()));
     if (size == 0)
-        return failed(file, messages::error_no_size, ENODATA);
+        return engine::report_failure(file, messages::error_no_size, ENODATA);
     if (size > greatest_size(file))
-        return failed(file, messages::error_too_large, EFBIG);
+        return engine::report_failure(file, messages::error_too_large, EFBIG);
     const uint32_t length = size < UINT32_MAX ? static_cast<uint32_t>(size) : UINT32_MAX;
     [target set_length:length];
     if ([target count] != length) {
@@ -69,7 +58,7 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
     size_t count = 0;
     const int error = input.read([target byte_data], length, count);
     if (error != 0)
-        return failed(file, messages::error_reading, error);
+        return engine::report_failure(file, messages::error_reading, error);
     memset([target byte_data] + count, 0, length - count);
     if (count != size)
         engine::report_discrepancy(file, messages::warning_length_read, count, messages::against_content_size,
@@ -101,37 +90,76 @@ bool write_out(ZEB_File *file, engine::Open_File &output, const void *bytes, uin
     size_t count = 0;
     const int error = output.write_all_and_close(bytes, length, count);
     if (error != 0)
-        return failed(file, messages::error_writing, error);
+        return engine::report_failure(file, messages::error_writing, error);
     if (count != length)
         engine::report_discrepancy(file, messages::warning_length_written, count,
                                    messages::against_specified_length, length, messages::while_writing, EIO);
     return true;
 }
 
-bool write_compressed(ZEB_File *file, engine::Open_File &output, const void *bytes, uint32_t length)
+/// Compresses the bytes into an empty array. Returns false after reporting a failure; the array then holds
+/// what was compressed so far.
+bool compress(ZEB_File *file, const void *bytes, uint32_t length, ZEB_Byte_Array *stored)
 {
     // The link only reads, but its initialiser takes a mutable pointer.
     ZEB_Byte_Array *const source =
         [[ZEB_Byte_Array alloc] init_as_link_to_bytes:static_cast<uint8_t *>(const_cast<void *>(bytes))
                                                 count:length];
-    ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
     const int32_t status = ZC_compress_bytes_to_bytes(source, stored);
+    [source release];
     if (status != 0)
         engine::report_failure(file, messages::error_compressing,
                                status == engine::zlib_out_of_memory ? ENOMEM : EIO);
+    return status == 0;
+}
+
+bool write_compressed(ZEB_File *file, engine::Open_File &output, const void *bytes, uint32_t length)
+{
+    ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
     // If errors are not reported, the bytes compressed so far are written and only the error is stored.
-    const bool is_written =
-        (status == 0 || ![file report_errors]) && write_out(file, output, [stored byte_data], [stored count]);
-    [source release];
+    const bool is_written = (compress(file, bytes, length, stored) || ![file report_errors]) &&
+                            write_out(file, output, [stored byte_data], [stored count]);
     [stored release];
     return is_written;
 }
 
-/// Renames an entry, replacing one at the other path. Returns 0 or the platform's error.
-int renaming_error(const engine::Platform_Path &from, const engine::Platform_Path &to)
+/// Replaces the file by one of these contents. Returns 0 after reporting a failure.
+uint32_t replace(ZEB_File *file, const void *bytes, uint32_t length)
 {
-    const int error = rename(from.c_string(), to.c_string()) == 0 ? 0 : errno;
-    return to.cause_of(from.cause_of(error));
+    const engine::Platform_Path path([file path]);
+    const engine::Replacement_Result result = engine::replace_file(path.c_string(), bytes, length);
+    if (result.error != 0 && result.step == engine::Replacing_Step::opening)
+        return engine::report_failure(file, messages::error_opening, path.cause_of(result.error));
+    if (result.error != 0 && result.step == engine::Replacing_Step::writing)
+        return engine::report_failure(file, messages::error_writing, result.error);
+    [file set_last_error:result.error];
+    return 1;
+}
+
+uint32_t replace_compressed(ZEB_File *file, const void *bytes, uint32_t length)
+{
+    ZEB_Byte_Array *const stored = [[ZEB_Byte_Array alloc] init];
+    const uint32_t answer =
+        compress(file, bytes, length, stored) ? replace(file, [stored byte_data], [stored count]) : 0;
+    [stored release];
+    return answer;
+}
+
+/// Asks the interceptor about writing, for both ways of it.
+template <class Run>
+uint32_t intercepted_writing(ZEB_File *file, const void *bytes, uint32_t length, Run run)
+{
+    return engine::intercepted(
+        file, ZEB_FILE_WRITE_CONTENTS, @selector(intercept_write_contents:bytes:length:),
+        [=](id<ZEB_File_Interceptor> other) {
+            return [other intercept_write_contents:file bytes:bytes length:length];
+        },
+        [=] {
+            // Found here, missing bytes cost no old contents.
+            return bytes == nullptr && length != 0
+                       ? engine::report_failure(file, messages::error_writing, EFAULT)
+                       : run();
+        });
 }
 
 } // namespace
@@ -168,7 +196,8 @@ int renaming_error(const engine::Platform_Path &from, const engine::Platform_Pat
     const engine::Platform_Path platform_path(path);
     engine::Open_File output = engine::Open_File::for_writing(platform_path.c_string());
     if (output.opening_error() != 0)
-        return failed(self, messages::error_opening, platform_path.cause_of(output.opening_error()));
+        return engine::report_failure(self, messages::error_opening,
+                                      platform_path.cause_of(output.opening_error()));
     const bool is_written = contents_compressed ? write_compressed(self, output, bytes, length)
                                                 : write_out(self, output, bytes, length);
     return is_written ? 1 : 0;
@@ -177,64 +206,16 @@ int renaming_error(const engine::Platform_Path &from, const engine::Platform_Pat
 - (uint32_t)write_contents:(const void *)bytes length:(uint32_t)length
 {
     ZEB_File *const file = self;
-    return engine::intercepted(
-        file, ZEB_FILE_WRITE_CONTENTS, @selector(intercept_write_contents:bytes:length:),
-        [=](id<ZEB_File_Interceptor> other) {
-            return [other intercept_write_contents:file bytes:bytes length:length];
-        },
-        [=] { return [file put_contents:bytes length:length]; });
+    return intercepted_writing(file, bytes, length, [=] { return [file put_contents:bytes length:length]; });
 }
 
-/// Whether the suffix fits into the path's block, grown if necessary.
-- (BOOL)has_room_for_suffix
-{
-    [path ensure_room_for:suffix_size];
-    return engine::storage_of_array(path).capacity > [path count] + suffix_size;
-}
-
-/// Appends "~" and a counted null to the visible path.
-- (void)extend_path_by_suffix
-{
-    [path set_count:engine::visible_path(path).length];
-    [path append_chars:suffix count:suffix_size];
-}
-
-- (uint32_t)set_aside
-{
-    const engine::Platform_Path from(path);
-    const engine::Platform_Path to(path, suffix);
-    // Without room for the suffix the path would not refer to the renamed file.
-    const int error = [self has_room_for_suffix] ? renaming_error(from, to) : ENOMEM;
-    if (error != 0)
-        return failed(self, messages::error_backstoring, error);
-    engine::report_success(self, messages::backstored);
-    [self extend_path_by_suffix];
-    return 1;
-}
-
-- (uint32_t)backstore
+- (uint32_t)replace_contents:(const void *)bytes length:(uint32_t)length
 {
     ZEB_File *const file = self;
-    return engine::intercepted(
-        file, ZEB_FILE_BACKSTORE, @selector(intercept_backstore:),
-        [=](id<ZEB_File_Interceptor> other) { return [other intercept_backstore:file]; },
-        [=] { return [file set_aside]; }, engine::After_Acting::runs,
-        [=](uint32_t answer) {
-            if (answer == 1)
-                [file extend_path_by_suffix];
-        });
-}
-
-- (uint32_t)restore
-{
-    const engine::Platform_Path from(path, suffix);
-    const engine::Platform_Path to(path);
-    const int error = renaming_error(from, to);
-    if (error != 0)
-        return failed(self, messages::error_restoring, error);
-    last_error = 0;
-    engine::report_success(self, messages::restored);
-    return 1;
+    return intercepted_writing(file, bytes, length, [=] {
+        return [file contents_compressed] ? replace_compressed(file, bytes, length)
+                                          : replace(file, bytes, length);
+    });
 }
 
 @end

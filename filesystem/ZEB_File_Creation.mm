@@ -27,13 +27,6 @@ engine::Entry_Attributes attributes_of(ZEB_File *file)
     return {engine::permissions_of(owner, group, other), file->uid, file->gid};
 }
 
-/// Reports a failure and returns the result of one.
-uint32_t failure(ZEB_File *file, ZEB_Char_Span message, int error)
-{
-    engine::report_failure(file, message, error);
-    return failed;
-}
-
 /// Creates the entry at the path by `create`, unless there is one. `relative` is the message for a relative
 /// path, and `report` tells any other failure.
 template <class Create, class Report>
@@ -44,7 +37,7 @@ uint32_t create_entry(ZEB_File *file, ZEB_Char_Span relative, ZEB_Char_Span crea
     if (engine::exists_at(path.c_string()))
         return existed;
     if (!engine::is_absolute_path(engine::visible_path(file->path)))
-        return failure(file, relative, EINVAL);
+        return engine::report_failure(file, relative, EINVAL);
     int attribute_error = 0;
     const int error = path.cause_of(create(path.c_string(), attributes_of(file), attribute_error));
     if (error != 0) {
@@ -113,7 +106,7 @@ uint32_t create_parents(ZEB_File *file)
 {
     const ZEB_Char_Span path = engine::visible_path(file->path);
     if (engine::last_path_component(path).length == path.length)
-        return failure(file, messages::error_relative_directory, EINVAL);
+        return engine::report_failure(file, messages::error_relative_directory, EINVAL);
     const ZEB_Char_Span directory = engine::parent_path(path);
     if (engine::Platform_Path(file->path).is_usable())
         return create_levels(file, directory);
@@ -216,7 +209,7 @@ void make_link(ZEB_File *file, const engine::Platform_Path &link, ZEB_Char_Span 
     const engine::Platform_Path platform_path(path);
     const int error = platform_path.cause_of(engine::remove_entry(platform_path.c_string()));
     if (error != 0)
-        return failure(self, messages::error_removing_file, error);
+        return engine::report_failure(self, messages::error_removing_file, error);
     engine::report_success(self, messages::removed_file);
     return done;
 }

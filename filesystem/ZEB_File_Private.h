@@ -91,16 +91,20 @@ uint32_t intercepted(ZEB_File *file, ZEB_File_Action action, SEL operation, Act 
     return intercepted(file, action, operation, act, run, after, [](uint32_t) {});
 }
 
-/// Writes the pieces and a line break onto a stream.
-void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces);
+/// The texts of which a line of a report is made.
+using Line = std::initializer_list<ZEB_Char_Span>;
 
-/// Reports a success if the entry logs actions: a line of the pieces, or of `message` and the path.
-void report_success(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces);
+/// Writes a line onto a stream.
+void write_line(ZEB_Stream *stream, Line line);
+
+/// Reports a success if the entry logs actions: a line of `message` and the path, or the line given.
 void report_success(ZEB_File *file, ZEB_Char_Span message);
+void report_success(ZEB_File *file, Line line);
 
-/// Stores the error and, if the entry reports errors, reports such a line.
-void report_failure(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces, int error);
-void report_failure(ZEB_File *file, ZEB_Char_Span message, int error);
+/// Stores the error and, if the entry reports errors, reports a line of `message` and the path, or the line
+/// given. Returns 0, the result of the operation.
+uint32_t report_failure(ZEB_File *file, ZEB_Char_Span message, int error);
+uint32_t report_failure(ZEB_File *file, Line line, int error);
 
 /// A number as text. The error stream's unsigned-long writer writes to standard output.
 class Number_Text

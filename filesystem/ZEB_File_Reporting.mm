@@ -43,17 +43,11 @@ uint32_t decision_on(ZEB_File *file, ZEB_File_Action action, SEL operation)
                                                                                           : entry_acts;
 }
 
-void write_line(ZEB_Stream *stream, std::initializer_list<ZEB_Char_Span> pieces)
+void write_line(ZEB_Stream *stream, Line line)
 {
-    for (const ZEB_Char_Span piece : pieces)
+    for (const ZEB_Char_Span piece : line)
         [stream write_bytes:piece.char_c_array length:piece.length];
     [stream write_bytes:line_break.char_c_array length:line_break.length];
-}
-
-void report_success(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces)
-{
-    if ([file log_actions])
-        write_line([ZEB_Stream shared_stream], pieces);
 }
 
 void report_success(ZEB_File *file, ZEB_Char_Span message)
@@ -61,16 +55,23 @@ void report_success(ZEB_File *file, ZEB_Char_Span message)
     report_success(file, {message, visible_path([file path])});
 }
 
-void report_failure(ZEB_File *file, std::initializer_list<ZEB_Char_Span> pieces, int error)
+void report_success(ZEB_File *file, Line line)
+{
+    if ([file log_actions])
+        write_line([ZEB_Stream shared_stream], line);
+}
+
+uint32_t report_failure(ZEB_File *file, ZEB_Char_Span message, int error)
+{
+    return report_failure(file, {message, visible_path([file path])}, error);
+}
+
+uint32_t report_failure(ZEB_File *file, Line line, int error)
 {
     [file set_last_error:error];
     if ([file report_errors])
-        write_line([ZEB_Error_Stream shared_error_stream], pieces);
-}
-
-void report_failure(ZEB_File *file, ZEB_Char_Span message, int error)
-{
-    report_failure(file, {message, visible_path([file path])}, error);
+        write_line([ZEB_Error_Stream shared_error_stream], line);
+    return 0;
 }
 
 Number_Text::Number_Text(uint64_t number)

@@ -1,7 +1,7 @@
 /*
  * Stores a series and loads it back: series_store [CSV [STORE]].
  *
- * An existing store is renamed to its path with "~" appended. The exit status is
+ * An existing store is kept as a copy at its path with "~" appended. The exit status is
  *   0  if the series loaded is the one stored;
  *   2  if it is, but lines of the CSV were skipped;
  *   1  if something failed; an existing store is then intact, at its path or with "~".
@@ -47,8 +47,11 @@ Exit_Status run(const char *csv_path, const char *store_path)
     if (outcome == CSV_FAILED)
         return failed;
     ZEB_String *const contents = encoded_series(series);
-    if (!replace_store(store_path, series, contents) ||
-        !load_and_compare(store_path, series, [contents count]))
+    if (contents == nil) {
+        complain(store_path, strerror(ENOMEM));
+        return failed;
+    }
+    if (!replace_store(store_path, contents) || !load_and_compare(store_path, series, [contents count]))
         return failed;
     return outcome == CSV_READ_IN_PART ? lines_left_out : all_well;
 }

@@ -11,12 +11,13 @@ typedef enum {
     STORE_UNKNOWN    /* something else, or unreadable */
 } Store_State;
 
-/** Returns the header and the records of a series, not yet compressed. Autoreleased. */
+/** Returns the header and the records of a series, not yet compressed; nil if there is no memory for them.
+    Autoreleased. */
 ZEB_String *encoded_series(Series *series);
 
 /** Loads a stored series into an empty one and returns the state of the path. `fault` becomes null for a
     complete store, else the reason; nothing is printed. */
 Store_State load_series(const char *path, Series *series, const char **fault);
 
-/** Writes encoded contents to a path, compressed. Returns null, or the reason of a failure. */
+/** Replaces the file at a path by encoded contents, compressed. Returns null, or the reason of a failure. */
 const char *write_store(const char *path, ZEB_String *contents);

@@ -90,6 +90,16 @@ const char *decode_series(ZEB_Byte_Array *contents, Series *series)
     return NULL;
 }
 
+/// Whether the series can be decoded again: an array that could not grow lacks some of it.
+bool is_encoding_of(Series *series, ZEB_String *contents)
+{
+    Series *const decoded = [[[Series alloc] init] autorelease];
+    ZEB_Byte_Array *const bytes =
+        [ZEB_Byte_Array link_to_bytes:reinterpret_cast<uint8_t *>([contents char_data])
+                                count:[contents count]];
+    return decode_series(bytes, decoded) == NULL && [decoded is_identical_to:series];
+}
+
 /// Returns null, or the fault. `is_cut_short` is set to whether the fault is a missing end.
 const char *load_stored(ZEB_Byte_Array *stored, Series *series, bool &is_cut_short)
 {
@@ -114,7 +124,7 @@ ZEB_String *encoded_series(Series *series)
     ZEB_write_binary_header(contents);
     [[series instants] ZEB_encode_binary_contents:contents];
     [[series values] ZEB_encode_binary_contents:contents];
-    return contents;
+    return is_encoding_of(series, contents) ? contents : nil;
 }
 
 Store_State load_series(const char *path, Series *series, const char **fault)
@@ -135,8 +145,8 @@ const char *write_store(const char *path, ZEB_String *contents)
 {
     ZEB_File *const file = file_at(path);
     [file set_contents_compressed:1];
-    const uint32_t answer = [file write_contents:[contents char_data] length:[contents count]];
+    const uint32_t answer = [file replace_contents:[contents char_data] length:[contents count]];
     const int error = file != nil ? [file last_error] : ENOMEM;
-    // Also 1 if bytes were lost without an error of the platform.
+    // Also 1 if a power failure may bring the old store back.
     return answer == 1 && error == 0 ? NULL : strerror(error);
 }

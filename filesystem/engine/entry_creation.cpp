@@ -1,6 +1,6 @@
 #include "filesystem/engine/entry_creation.hpp"
 
-#include "filesystem/engine/interruption.hpp"
+#include "filesystem/engine/interrupted_calls.hpp"
 
 #include <cerrno>
 #include <cstdio>
@@ -20,8 +20,6 @@ std::uint32_t bits_of(Access_Rights rights) noexcept
     return (rights.read ? 4u : 0u) | (rights.write ? 2u : 0u) | (rights.execute ? 1u : 0u);
 }
 
-int error_of(int answer) noexcept { return answer == 0 ? 0 : errno; }
-
 } // namespace
 
 std::uint32_t permissions_of(Access_Rights owner, Access_Rights group, Access_Rights other) noexcept
@@ -37,8 +35,8 @@ int create_empty_file(const char *path, const Entry_Attributes &attributes, int 
         [&] { return ::open(path, O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, mode); });
     if (file < 0)
         return errno;
-    const int mode_error = error_of(fchmod(file, mode));
-    const int owner_error = error_of(fchown(file, attributes.uid, attributes.gid));
+    const int mode_error = error_of([&] { return fchmod(file, mode); });
+    const int owner_error = error_of([&] { return fchown(file, attributes.uid, attributes.gid); });
     attribute_error = mode_error != 0 ? mode_error : owner_error;
     ::close(file);
     return 0;
@@ -48,13 +46,13 @@ int create_directory(const char *path, const Entry_Attributes &attributes, int &
 {
     if (mkdir(path, owner_bits | static_cast<mode_t>(attributes.permissions & 0077)) != 0)
         return errno;
-    attribute_error = error_of(lchown(path, attributes.uid, attributes.gid));
+    attribute_error = error_of([&] { return lchown(path, attributes.uid, attributes.gid); });
     return 0;
 }
 
 int create_symbolic_link(const char *target, const char *path) noexcept
 {
-    return error_of(symlink(target, path));
+    return error_of([&] { return symlink(target, path); });
 }
 
 int read_symbolic_link(const char *path, char (&target)[max_link_target + 1], std::size_t &length) noexcept
@@ -66,6 +64,9 @@ int read_symbolic_link(const char *path, char (&target)[max_link_target + 1], st
     return length > max_link_target ? ENAMETOOLONG : 0;
 }
 
-int remove_entry(const char *path) noexcept { return error_of(std::remove(path)); }
+int remove_entry(const char *path) noexcept
+{
+    return error_of([&] { return std::remove(path); });
+}
 
 } // namespace zeb::engine

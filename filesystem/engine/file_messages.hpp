@@ -23,6 +23,19 @@ inline constexpr Char_Span warning_length_written = span_of("Warning: Discrepanc
 inline constexpr Char_Span against_specified_length = span_of(" v.s. specified length ");
 inline constexpr Char_Span while_writing = span_of(" while writing contents to file: ");
 
+inline constexpr Char_Span error_opening_source = span_of("Error opening source file for copying: ");
+inline constexpr Char_Span leads_to = span_of(" -> ");
+inline constexpr Char_Span error_copying_to = span_of("Error copying to file: ");
+inline constexpr Char_Span error_reading_copied = span_of("Error copying contents from file: ");
+inline constexpr Char_Span error_writing_copied = span_of("Error copying contents to file: ");
+inline constexpr Char_Span while_reading_copied = span_of(" while copying contents from file: ");
+inline constexpr Char_Span against_length_written = span_of(" v.s. actual length written ");
+inline constexpr Char_Span while_writing_copied = span_of(" while copying contents to file: ");
+inline constexpr Char_Span copied = span_of("Copied file: ");
+inline constexpr Char_Span moved = span_of("Moved file: ");
+inline constexpr Char_Span error_moving = span_of("Error moving file: ");
+inline constexpr Char_Span to = span_of(" to ");
+
 inline constexpr Char_Span error_no_document = span_of("Error, too short for a document: ");
 inline constexpr Char_Span error_check_sum = span_of("Error, check sum differs in document: ");
 

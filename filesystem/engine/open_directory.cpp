@@ -1,6 +1,6 @@
 #include "filesystem/engine/open_directory.hpp"
 
-#include "filesystem/engine/interruption.hpp"
+#include "filesystem/engine/interrupted_calls.hpp"
 
 #include <cstring>
 #include <fcntl.h>

@@ -110,10 +110,8 @@ with tempfile.TemporaryDirectory() as name:
         check_refused(what + ", with one set aside", sunspots, place / "store")
         place = new_folder(what + ", set aside", store=good, store_=contents)
         check_refused(what + ", set aside", sunspots, place / "store")
-        place = new_folder(what + ", beside", store=good, store_new=contents)
-        check_refused(what + ", beside", sunspots, place / "store")
     for what, contents in cut_short.items():
-        place = new_folder(what + ", with one set aside", store=contents, store_=older, store_new=contents)
+        place = new_folder(what + ", with one set aside", store=contents, store_=older)
         result = run(sunspots, place / "store")
         check(result.returncode == 0 and "kept" in result.stdout, f"{what}: is replaced: {result}")
         check(contents_of(place) == {"store": good, "store~": older}, f"{what}: the one set aside stays")
@@ -142,10 +140,15 @@ with tempfile.TemporaryDirectory() as name:
         if not entry.name.startswith("store"):
             check_refused(f"CSV, {entry.name}", entry, place / "store")
     check_refused("CSV, the store itself", place / "store", place / "store")
-    for csv in ("store~", "store~new"):
-        place = new_folder("CSV is " + csv, store=good)
-        (place / csv).write_bytes(sunspots.read_bytes())
-        check_refused("CSV is " + csv, place / csv, place / "store")
+    place = new_folder("CSV is set aside", store=good, store_=sunspots.read_bytes())
+    check_refused("CSV is set aside", place / "store~", place / "store")
+
+    place = new_folder("a private store behind a link", target=good)
+    (place / "target").chmod(0o600)
+    (place / "store").symlink_to("target")
+    check(run(sunspots, place / "store").returncode == 0, "a link")
+    check(contents_of(place) == {"target": good, "store": "target", "store~": good}, "a link leads to the store")
+    check((place / "store~").stat().st_mode & 0o777 == 0o600, "a private store has a private copy")
 
     texts = {
         "marked": (b"\xef\xbb\xbf1/1/2000,1.5\n1/2/2000,2\n", 0, ["rows        2\n"]),

@@ -17,19 +17,21 @@ struct Row {
     int outcome;
     uint32_t answer;
     int last_error;
-    const char *message; /* the path and a line break follow, where there is one */
+    std::string message; /* where there is one, the path and a line break follow; @ and # stand for the paths
+                            of a copy */
     std::string text;
     int compressed = 0, report_errors = 1;
     unsigned number = 1;
 };
 
+const char opening[] = "Error opening file: ";
 const char writing[] = "Error writing contents to file: ";
 const char short_write[] = "Warning: Discrepancy in actual length written 0 v.s. specified length 12 while "
                            "writing contents to file: ";
 const char compressing[] = "Error: Compress failed before writing contents of file: ";
 
 const Row write_rows[] = {
-    {"open", EIO, 0, EIO, "Error opening file: ", old_text},
+    {"open", EIO, 0, EIO, opening, old_text},
     {"open", EINTR, 1, 0, "", new_text},
     {"ftruncate", EIO, 0, EIO, writing, old_text},
     {"ftruncate", EINTR, 1, 0, "", new_text},
@@ -47,7 +49,7 @@ const char short_read[] =
     "Warning: Discrepancy in actual length read 0 v.s. content size 12 while reading contents of file: ";
 
 const Row read_rows[] = {
-    {"open", EACCES, 0, EACCES, "Error opening file: ", ""},
+    {"open", EACCES, 0, EACCES, opening, ""},
     {"open", EINTR, 0, 0, "", new_text},
     {"read", EIO, 0, EIO, "Error reading contents of file: ", ""},
     {"read", EINTR, 0, 0, "", new_text},
@@ -66,6 +68,70 @@ const Row status_rows[] = {
     {"stat", ENOTDIR, 1, 0, "", "0"},
 };
 
+// What lies in the folder is counted behind the contents: a file, and none beside it.
+const std::string old_file = old_text + "1", new_file = new_text + "1";
+
+const Row replace_rows[] = {
+    {"lstat", EIO, 0, EIO, opening, old_file},
+    {"open", EACCES, 0, EACCES, opening, old_file},
+    {"close", EIO, 1, 0, "", new_file},
+    {"memory", ENOMEM, 0, ENOMEM, opening, old_file},
+    {"open", ENOSPC, 0, ENOSPC, opening, old_file, 0, 1, 2},
+    {"open", EEXIST, 1, 0, "", new_file, 0, 1, 2},
+    {"fchown", EPERM, 1, 0, "", new_file},
+    {"fchmod", EIO, 0, EIO, writing, old_file},
+    {"write", ENOSPC, 0, ENOSPC, writing, old_file},
+    {"write", ENOSPC, 0, ENOSPC, "", old_file, 0, 0},
+    {"write", EINTR, 1, 0, "", new_file},
+    {"write", ZEB_CALL_DOES_HALF, 1, 0, "", new_file},
+    {"write", ZEB_CALL_ANSWERS_0, 0, EIO, writing, old_file},
+    {"fsync", EIO, 0, EIO, writing, old_file},
+    {"fsync", EINTR, 1, 0, "", new_file},
+    {"close", EDQUOT, 0, EDQUOT, writing, old_file, 0, 1, 2},
+    {"rename", EIO, 0, EIO, writing, old_file},
+    {"open", EACCES, 1, EACCES, "", new_file, 0, 1, 3},
+    {"fsync", EIO, 1, EIO, "", new_file, 0, 1, 2},
+    {"fsync", EINVAL, 1, 0, "", new_file, 0, 1, 2},
+};
+
+const std::string source = std::string(70000, 's') + std::string(30000, 't');
+const std::string piece = source.substr(0, 65536); // what is copied at a time without the kernel
+const char copying_to[] = "Error copying to file: #", copying_from[] = "Error copying contents from file: @",
+           writing_copy[] = "Error copying contents to file: #";
+
+const Row copy_rows[] = {
+    {"open", EACCES, 0, EACCES, "Error opening source file for copying: @ -> #", old_text},
+    {"fstat", EIO, 0, EIO, copying_to, old_text},
+    {"stat", EIO, 0, EIO, copying_to, old_text},
+    {"open", EACCES, 0, EACCES, copying_to, old_text, 0, 1, 2},
+    {"ftruncate", EIO, 0, EIO, copying_to, old_text},
+    {"copy_file_range", EXDEV, 1, 0, "", source},
+    {"copy_file_range", EINTR, 1, 0, "", source},
+    {"copy_file_range", ZEB_CALL_DOES_HALF, 1, 0, "", source},
+    {"copy_file_range", EIO, 1, 0, "", source, 0, 1, 2},
+    {"copy_file_range", ZEB_CALL_ANSWERS_0, 1, 0, "", source},
+    {"read", EINTR, 1, 0, "", source},
+    {"read", ZEB_CALL_DOES_HALF, 1, 0, "", source},
+    {"read", EIO, 0, EIO, copying_from, "", 0, 1, 2},
+    {"read", ZEB_CALL_ANSWERS_0, 1, ENODATA,
+     "Warning: Discrepancy in actual length read 65536 v.s. content size 100000 while copying contents from "
+     "file: @",
+     piece, 0, 1, 2},
+    {"write", EINTR, 1, 0, "", source},
+    {"write", ZEB_CALL_DOES_HALF, 1, 0, "", source},
+    {"write", ENOSPC, 0, ENOSPC, writing_copy, piece, 0, 1, 2},
+    {"write", ZEB_CALL_ANSWERS_0, 1, EIO,
+     "Warning: Discrepancy in actual length read 65536 v.s. actual length written 0 while copying contents "
+     "to "
+     "file: @",
+     ""},
+    {"fchmod", EPERM, 1, EPERM, "", source},
+    {"fchown", EPERM, 1, EPERM, "", source},
+    {"close", EIO, 0, EIO, writing_copy, source},
+    {"close", EIO, 1, 0, "", source, 0, 1, 2},
+};
+
+const Row move_rows[] = {{"rename", EXDEV, 0, EXDEV, "Error moving file: @ to #", old_text}};
 const Row backstore_rows[] = {{"rename", EIO, 0, EIO, "Error backstoring file: ", old_text}};
 const Row restore_rows[] = {{"rename", EXDEV, 0, EXDEV, "Error restoring file: ", old_text}};
 
@@ -74,6 +140,21 @@ const Row restore_rows[] = {{"rename", EXDEV, 0, EXDEV, "Error restoring file: "
 class Failing_Calls : public File_Test
 {
 protected:
+    /// The line of a message, with the paths in it.
+    std::string line_of(std::string message) const
+    {
+        if (message.empty())
+            return message;
+        if (message.find_first_of("@#") == std::string::npos)
+            message += "@";
+        for (const auto &[sign, text] : {std::pair{'@', path}, {'#', other}})
+            if (const size_t at = message.find(sign); at != std::string::npos)
+                message.replace(at, 1, text);
+        return message + "\n";
+    }
+
+    const std::string other = path + " copy";
+
     /// Runs an operation for each row, on an entry whose last operation went otherwise.
     template <size_t count, class Work, class Result>
     void run(const Row (&rows)[count], const std::string &before, Work work, Result result)
@@ -98,7 +179,7 @@ protected:
             EXPECT_NE(calls, 0u);
             EXPECT_EQ(answer, row.answer);
             EXPECT_EQ([file last_error], row.last_error);
-            EXPECT_EQ(told, *row.message != '\0' ? row.message + path + "\n" : "");
+            EXPECT_EQ(told, line_of(row.message));
             EXPECT_EQ(result(file), row.text);
             EXPECT_EQ(text_of([file path]), path);
         }
@@ -113,6 +194,20 @@ TEST_F(Failing_Calls, are_told_and_lose_nothing)
     run(
         write_rows, old_text, [](ZEB_File *file) { return [file write_contents:new_text.data() length:12]; },
         file_at(path));
+    const auto file_and_count = [&](ZEB_File *) {
+        const std::filesystem::directory_iterator all(folder.path);
+        return file_text(path) + std::to_string(std::distance(begin(all), end(all)));
+    };
+    run(
+        replace_rows, old_text,
+        [](ZEB_File *file) { return [file replace_contents:new_text.data() length:12]; }, file_and_count);
+    const auto copy = [&](ZEB_File *file) {
+        put_file(other, old_text);
+        return [file copy_to:text(other)];
+    };
+    run(copy_rows, source, copy, file_at(other));
+    run(
+        move_rows, old_text, [&](ZEB_File *file) { return [file move_to:text(other)]; }, file_at(path));
     run(
         backstore_rows, old_text, [](ZEB_File *file) { return [file backstore]; }, file_at(path));
     run(
@@ -127,6 +222,19 @@ TEST_F(Failing_Calls, are_told_and_lose_nothing)
         return 0;
     };
     run(read_rows, new_text, read, [=](ZEB_File *) { return text_of(target); });
+}
+
+TEST_F(Failing_Calls, leave_a_copy_restricted)
+{
+    put_file(path, source);
+    chmod(path.c_str(), 0600);
+    ZEB_File *const file = entry(path);
+    const mode_t mask = umask(0);
+    zeb_plan_failure(folder.path.c_str(), "fchmod", 1, EPERM);
+    EXPECT_EQ([file copy_to:text(other)], 1u);
+    zeb_plan_failure("", "file", 0, 0);
+    umask(mask);
+    EXPECT_EQ(std::filesystem::status(other).permissions(), std::filesystem::perms(0600));
 }
 
 TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
@@ -159,8 +267,20 @@ TEST_F(Failing_Calls, for_memory_leave_no_path_that_leads_elsewhere)
     }
     EXPECT_EQ(answer, 1u);
 
-    is_refused_memory(1, [&] { [near set_path:new_path]; });
-    EXPECT_EQ([near last_error], ENOMEM);
-    EXPECT_EQ([near write_contents:"x" length:1], 0u);
+    for (unsigned number = 1; is_refused_memory(number, [&] { answer = [near move_to:new_path]; });
+         ++number) {
+        EXPECT_EQ(answer, 0u);
+        EXPECT_EQ([near last_error], ENOMEM);
+        EXPECT_EQ(text_of([near path]), path);
+        EXPECT_EQ(file_text(path), old_text);
+    }
+    EXPECT_EQ(answer, 1u);
+    EXPECT_EQ(text_of([near path]), deep);
+
+    put_file(path, old_text);
+    ZEB_File *const changed = entry(path);
+    is_refused_memory(1, [&] { [changed set_path:new_path]; });
+    EXPECT_EQ([changed last_error], ENOMEM);
+    EXPECT_EQ([changed write_contents:"x" length:1], 0u);
     EXPECT_EQ(file_text(path), old_text);
 }

@@ -52,6 +52,8 @@ ACT(intercept_create_file : (ZEB_File *)file)
 ACT(intercept_create_directory : (ZEB_File *)file)
 ACT(intercept_create_parent_directories : (ZEB_File *)file)
 ACT(intercept_remove : (ZEB_File *)file)
+ACT(intercept_copy_to : (ZEB_File *)file destination : (ZEB_String *)destination)
+ACT(intercept_move_to : (ZEB_File *)file destination : (ZEB_String *)destination)
 
 @end
 
@@ -138,6 +140,37 @@ TEST_F(Interceptor, decides_on_creation_and_removal)
             const bool is_there = access((place / row.name).c_str(), F_OK) == 0;
             EXPECT_EQ(is_new_there || (!is_there && row.action == ZEB_FILE_REMOVE), decision % 2 == 1);
         }
+}
+
+TEST_F(Interceptor, is_obeyed_in_copying_replacing_and_moving)
+{
+    const std::string other = folder / "other";
+    struct {
+        uint32_t decision, answer;
+        bool acts, follows;
+    } const rows[] = {{0, 0, false, false}, {2, 1, false, true}, {3, 1, true, true}, {1, 1, true, true}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.decision);
+        put_file(path, "old");
+        put_file(other, "other");
+        asked.clear();
+        Recording_Interceptor *const interceptor = [[[Recording_Interceptor alloc] init] autorelease];
+        interceptor->decision = row.decision;
+        ZEB_File *const file = entry(path);
+        [file set_interceptor:interceptor];
+        ZEB_String *const destination = text(other);
+        EXPECT_EQ([file copy_to:destination], row.answer);
+        EXPECT_EQ(file_text(other), row.acts ? "old" : "other");
+        interceptor->acted = 0;
+        EXPECT_EQ([file replace_contents:"new" length:3], row.answer);
+        EXPECT_EQ(file_text(path), row.acts ? "new" : "old");
+        interceptor->acted = 0;
+        EXPECT_EQ([file move_to:destination], row.answer);
+        EXPECT_EQ(file_text(other), row.acts ? "new" : "other");
+        EXPECT_EQ(text_of([file path]), row.follows ? other : path);
+        EXPECT_EQ(asked, (std::vector<uint32_t>{ZEB_FILE_COPY, ZEB_FILE_WRITE_CONTENTS, ZEB_FILE_MOVE}));
+        EXPECT_EQ([file last_error], row.decision == 0 ? ECANCELED : 0);
+    }
 }
 
 TEST_F(Interceptor, that_lacks_an_operation_lets_the_entry_act)

@@ -20,8 +20,9 @@
 #define CALLS(X)                                                                                             \
     X(OPENAT, "openat") X(OPEN, "open") X(READDIR, "readdir") X(READLINK, "readlink") X(READ, "read")        \
     X(WRITE, "write") X(CLOSE, "close") X(RENAME, "rename") X(FTRUNCATE, "ftruncate") X(STAT, "stat")        \
-    X(REMOVE, "remove") X(UNLINKAT, "unlinkat") X(MKDIR, "mkdir") X(SYMLINK, "symlink")                      \
+    X(REMOVE, "remove") X(UNLINKAT, "unlinkat") X(UNLINK, "unlink") X(MKDIR, "mkdir") X(SYMLINK, "symlink")                      \
     X(FCHMOD, "fchmod") X(FCHOWN, "fchown") X(LCHOWN, "lchown") X(FSTAT, "fstat") X(FDOPENDIR, "fdopendir")  \
+    X(LSTAT, "lstat") X(REALPATH, "realpath") X(FSYNC, "fsync") X(COPY_FILE_RANGE, "copy_file_range")         \
     X(MEMORY, "memory") X(THREAD, "thread") X(ANY_FILE, "file")
 
 #define CALL_NUMBER(number, name) number,
@@ -90,7 +91,7 @@ static int is_due(int call)
     int due = is_due_as(call);
     if (call < MEMORY)
         due |= is_due_as(ANY_FILE);
-    if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE)
+    if (due && outcome == ZEB_CALL_IS_THE_LAST && call != WRITE && call != COPY_FILE_RANGE)
         raise(SIGKILL);
     return due;
 }
@@ -174,6 +175,31 @@ ssize_t write(int file, const void *bytes, size_t size)
     return written;
 }
 
+ssize_t copy_file_range(int from, off64_t *from_offset, int to, off64_t *to_offset, size_t size,
+                        unsigned flags)
+{
+    if (is_watched_file(to) && (planned_call == READ || planned_call == WRITE)) {
+        errno = ENOSYS;
+        return -1;
+    }
+    if (!is_watched_file(to) || !is_due(COPY_FILE_RANGE))
+        return PLATFORM(copy_file_range)(from, from_offset, to, to_offset, size, flags);
+    if (outcome >= 0)
+        return refusal();
+    const ssize_t moved = PLATFORM(copy_file_range)(from, from_offset, to, to_offset, (size + 1) / 2, flags);
+    if (outcome == ZEB_CALL_IS_THE_LAST)
+        raise(SIGKILL);
+    return moved;
+}
+
+char *realpath(const char *restrict path, char *restrict resolved)
+{
+    if (!is_inside(path) || !is_due(REALPATH))
+        return PLATFORM(realpath)(path, resolved);
+    errno = outcome;
+    return NULL;
+}
+
 int close(int file)
 {
     if (!is_watched_file(file))
@@ -191,15 +217,19 @@ int close(int file)
 MAY_FAIL(ftruncate, (int file, off_t size), (file, size), is_watched_file(file), FTRUNCATE)
 MAY_FAIL(rename, (const char *from, const char *to), (from, to), is_inside(from), RENAME)
 MAY_FAIL(remove, (const char *path), (path), is_inside(path), REMOVE)
-MAY_FAIL(stat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path), STAT)
+MAY_FAIL(unlink, (const char *path), (path), is_inside(path), UNLINK)
+MAY_FAIL(fsync, (int file), (file), is_watched_file(file), FSYNC)
+MAY_FAIL(fchmod, (int file, mode_t mode), (file, mode), is_watched_file(file), FCHMOD)
+MAY_FAIL(fchown, (int file, uid_t owner, gid_t group), (file, owner, group), is_watched_file(file), FCHOWN)
 MAY_FAIL(fstat, (int file, struct stat *found), (file, found), is_watched_file(file), FSTAT)
+MAY_FAIL(lstat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path),
+         LSTAT)
+MAY_FAIL(stat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path), STAT)
 MAY_FAIL(fstatat, (int folder, const char *restrict path, struct stat *restrict found, int flags),
          (folder, path, found, flags), is_below(folder, path), STAT)
 MAY_FAIL(unlinkat, (int folder, const char *path, int flags), (folder, path, flags), is_below(folder, path), UNLINKAT)
 MAY_FAIL(mkdir, (const char *path, mode_t mode), (path, mode), is_inside(path), MKDIR)
 MAY_FAIL(symlink, (const char *target, const char *path), (target, path), is_inside(path), SYMLINK)
-MAY_FAIL(fchmod, (int file, mode_t mode), (file, mode), is_watched_file(file), FCHMOD)
-MAY_FAIL(fchown, (int file, uid_t user, gid_t group), (file, user, group), is_watched_file(file), FCHOWN)
 MAY_FAIL(lchown, (const char *path, uid_t user, gid_t group), (path, user, group), is_inside(path), LCHOWN)
 
 ssize_t readlink(const char *restrict path, char *restrict target, size_t size)

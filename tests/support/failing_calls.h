@@ -11,13 +11,13 @@ extern "C" {
 /* What becomes of the planned call, beside failing with an error above 0. */
 enum {
     ZEB_CALL_ANSWERS_0 = 0,   /* and does nothing */
-    ZEB_CALL_DOES_HALF = -1,  /* of a read or write */
-    ZEB_CALL_IS_THE_LAST = -2 /* the process is killed before it, or halfway through a write */
+    ZEB_CALL_DOES_HALF = -1,  /* of a read, write or copy_file_range */
+    ZEB_CALL_IS_THE_LAST = -2 /* the process is killed before it, or halfway through a write or copy */
 };
 
 /* Plans for the call of that number, from 1, counted from now on. `call` is "open", "read", "write", "close",
- * "rename", "ftruncate", "stat", "remove", "memory", "thread", or "file" for any of those on files; with "+"
- * behind it for all calls from that number on. */
+ * or another call on files that stands in failing_calls.c, "memory", "thread", or "file" for any of those on
+ * files; with "+" behind it for all calls from that number on. */
 void zeb_plan_failure(const char *folder, const char *call, unsigned number, int outcome);
 
 /* How many such calls were made since then. */

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 
 namespace support
@@ -12,9 +13,9 @@ namespace support
 class Scratch_Folder
 {
 public:
-    Scratch_Folder()
+    explicit Scratch_Folder(const std::filesystem::path &place = std::filesystem::temp_directory_path())
     {
-        std::string name = (std::filesystem::temp_directory_path() / "zeb-test-XXXXXX").string();
+        std::string name = (place / "zeb-test-XXXXXX").string();
         path = mkdtemp(name.data());
     }
 
@@ -28,6 +29,13 @@ public:
     std::string path;
 };
 
+/// Where flushing takes no time, if the system has such a file system.
+inline std::filesystem::path place_in_memory()
+{
+    const std::filesystem::path memory = "/dev/shm";
+    return is_directory(memory) ? memory : std::filesystem::temp_directory_path();
+}
+
 inline void put_file(const std::string &path, const std::string &contents)
 {
     std::ofstream(path, std::ios::binary) << contents;
@@ -35,8 +43,9 @@ inline void put_file(const std::string &path, const std::string &contents)
 
 inline std::string file_text(const std::string &path)
 {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
 }
 
 } // namespace support

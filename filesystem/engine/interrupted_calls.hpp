@@ -1,4 +1,4 @@
-/// Calls that a signal may interrupt.
+/// Calls to the platform that signals may interrupt.
 #pragma once
 
 #include <cerrno>
@@ -14,6 +14,13 @@ auto uninterrupted(Call call) noexcept
     while (answer < 0 && errno == EINTR)
         answer = call();
     return answer;
+}
+
+/// The same for calls that only succeed or fail: returns 0 or the platform's error.
+template <class Call>
+int error_of(Call call) noexcept
+{
+    return uninterrupted(call) < 0 ? errno : 0;
 }
 
 } // namespace zeb::engine

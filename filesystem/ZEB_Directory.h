@@ -28,7 +28,7 @@ ZEB_EXPORT
 - (id)init;
 
 /** Initialises a directory below `parent`, which is not retained. */
-- (id)init_with_parent:(ZEB_Directory *)parent;
+- (id)init_with_parent_directory:(ZEB_Directory *)parent;
 
 /** Whether the access test goes into the directories below; if not, they count as accessible. */
 - (uint8_t)recursive;

@@ -144,10 +144,10 @@ private:
 
 - (id)init
 {
-    return [self init_with_parent:nil];
+    return [self init_with_parent_directory:nil];
 }
 
-- (id)init_with_parent:(ZEB_Directory *)parent
+- (id)init_with_parent_directory:(ZEB_Directory *)parent
 {
     self = [super init];
     if (self == nil)
@@ -215,7 +215,7 @@ private:
 - (ZEB_Directory *)prepared_sub_directory
 {
     if (sub_directory == nil)
-        sub_directory = [[ZEB_Directory alloc] init_with_parent:self];
+        sub_directory = [[ZEB_Directory alloc] init_with_parent_directory:self];
     [sub_directory take_settings_of_parent];
     return sub_directory;
 }

@@ -16,14 +16,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/* What begins with another name stands before it. */
+/* A name that begins with another one stands before it. */
+/* clang-format off */
 #define CALLS(X)                                                                                             \
     X(OPENAT, "openat") X(OPEN, "open") X(READDIR, "readdir") X(READLINK, "readlink") X(READ, "read")        \
     X(WRITE, "write") X(CLOSE, "close") X(RENAME, "rename") X(FTRUNCATE, "ftruncate") X(STAT, "stat")        \
-    X(REMOVE, "remove") X(UNLINKAT, "unlinkat") X(UNLINK, "unlink") X(MKDIR, "mkdir") X(SYMLINK, "symlink")                      \
-    X(FCHMOD, "fchmod") X(FCHOWN, "fchown") X(LCHOWN, "lchown") X(FSTAT, "fstat") X(FDOPENDIR, "fdopendir")  \
-    X(LSTAT, "lstat") X(REALPATH, "realpath") X(FSYNC, "fsync") X(COPY_FILE_RANGE, "copy_file_range")         \
-    X(MEMORY, "memory") X(THREAD, "thread") X(ANY_FILE, "file")
+    X(FSTAT, "fstat") X(LSTAT, "lstat") X(REMOVE, "remove") X(UNLINKAT, "unlinkat") X(UNLINK, "unlink")      \
+    X(MKDIR, "mkdir") X(SYMLINK, "symlink") X(REALPATH, "realpath") X(FDOPENDIR, "fdopendir")                \
+    X(FCHMOD, "fchmod") X(FCHOWN, "fchown") X(LCHOWN, "lchown") X(FSYNC, "fsync")                            \
+    X(COPY_FILE_RANGE, "copy_file_range") X(MEMORY, "memory") X(THREAD, "thread") X(ANY_FILE, "file")
+/* clang-format on */
 
 #define CALL_NUMBER(number, name) number,
 #define CALL_NAME(number, name) name,
@@ -227,7 +229,8 @@ MAY_FAIL(lstat, (const char *restrict path, struct stat *restrict found), (path,
 MAY_FAIL(stat, (const char *restrict path, struct stat *restrict found), (path, found), is_inside(path), STAT)
 MAY_FAIL(fstatat, (int folder, const char *restrict path, struct stat *restrict found, int flags),
          (folder, path, found, flags), is_below(folder, path), STAT)
-MAY_FAIL(unlinkat, (int folder, const char *path, int flags), (folder, path, flags), is_below(folder, path), UNLINKAT)
+MAY_FAIL(unlinkat, (int folder, const char *path, int flags), (folder, path, flags), is_below(folder, path),
+         UNLINKAT)
 MAY_FAIL(mkdir, (const char *path, mode_t mode), (path, mode), is_inside(path), MKDIR)
 MAY_FAIL(symlink, (const char *target, const char *path), (target, path), is_inside(path), SYMLINK)
 MAY_FAIL(lchown, (const char *path, uid_t user, gid_t group), (path, user, group), is_inside(path), LCHOWN)
@@ -244,7 +247,8 @@ DIR *fdopendir(int file)
 
 struct dirent *readdir(DIR *stream)
 {
-    return is_watched_file(dirfd(stream)) && is_due(READDIR) && refusal() != 0 ? NULL : PLATFORM(readdir)(stream);
+    return is_watched_file(dirfd(stream)) && is_due(READDIR) && refusal() != 0 ? NULL
+                                                                               : PLATFORM(readdir)(stream);
 }
 
 int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*work)(void *), void *argument)

@@ -219,6 +219,21 @@ TEST_F(Failing_Calls, are_told_and_lose_nothing)
     run(read_rows, new_text, read, [=](ZEB_File *) { return text_of(target); });
 }
 
+TEST_F(Failing_Calls, to_follow_a_link_replace_nothing)
+{
+    put_file(path, old_text);
+    ASSERT_EQ(symlink("file", other.c_str()), 0);
+    ZEB_File *const file = entry(other);
+    [file set_report_errors:0];
+    for (const auto &[call, number] : {std::pair{"realpath", 1u}, {"lstat", 2u}}) {
+        zeb_plan_failure(folder.path.c_str(), call, number, EACCES);
+        EXPECT_EQ([file replace_contents:new_text.data() length:12], 0u);
+        zeb_plan_failure("", "file", 0, 0);
+        EXPECT_EQ([file last_error], EACCES);
+        EXPECT_EQ(file_text(path), old_text);
+    }
+}
+
 TEST_F(Failing_Calls, leave_a_copy_restricted)
 {
     put_file(path, source);

@@ -40,8 +40,11 @@ bool back_up(const char *path, const char *backup_path)
     [file refresh_status];
     const bool is_copied = [file copy_to:[backup path]] == 1;
     // A copy that only has another owner is as good; one that is not whole is none.
-    if (!is_copied || state_of(backup_path) != STORE_WHOLE)
+    if (!is_copied)
         return complain(backup_path, strerror(file != nil ? [file last_error] : ENOMEM));
+    const Store_State copy = state_of(backup_path);
+    if (copy != STORE_WHOLE)
+        return copy == STORE_UNKNOWN ? false : complain(backup_path, "it was not copied whole");
     printf("%-12s%s\n", "backstored", backup_path);
     return true;
 }

@@ -81,12 +81,10 @@ const Row replace_rows[] = {
     {"fchown", EPERM, 1, 0, "", new_file},
     {"fchmod", EIO, 0, EIO, writing, old_file},
     {"write", ENOSPC, 0, ENOSPC, writing, old_file},
-    {"write", ENOSPC, 0, ENOSPC, "", old_file, 0, 0},
     {"write", EINTR, 1, 0, "", new_file},
     {"write", ZEB_CALL_DOES_HALF, 1, 0, "", new_file},
     {"write", ZEB_CALL_ANSWERS_0, 0, EIO, writing, old_file},
     {"fsync", EIO, 0, EIO, writing, old_file},
-    {"fsync", EINTR, 1, 0, "", new_file},
     {"close", EDQUOT, 0, EDQUOT, writing, old_file, 0, 1, 2},
     {"rename", EIO, 0, EIO, writing, old_file},
     {"open", EACCES, 1, EACCES, "", new_file, 0, 1, 3},
@@ -106,18 +104,15 @@ const Row copy_rows[] = {
     {"open", EACCES, 0, EACCES, copying_to, old_text, 0, 1, 2},
     {"ftruncate", EIO, 0, EIO, copying_to, old_text},
     {"copy_file_range", EXDEV, 1, 0, "", source},
-    {"copy_file_range", EINTR, 1, 0, "", source},
     {"copy_file_range", ZEB_CALL_DOES_HALF, 1, 0, "", source},
     {"copy_file_range", EIO, 1, 0, "", source, 0, 1, 2},
     {"copy_file_range", ZEB_CALL_ANSWERS_0, 1, 0, "", source},
-    {"read", EINTR, 1, 0, "", source},
     {"read", ZEB_CALL_DOES_HALF, 1, 0, "", source},
     {"read", EIO, 0, EIO, copying_from, "", 0, 1, 2},
     {"read", ZEB_CALL_ANSWERS_0, 1, ENODATA,
      "Warning: Discrepancy in actual length read 65536 v.s. content size 100000 while copying contents from "
      "file: @",
      piece, 0, 1, 2},
-    {"write", EINTR, 1, 0, "", source},
     {"write", ZEB_CALL_DOES_HALF, 1, 0, "", source},
     {"write", ENOSPC, 0, ENOSPC, writing_copy, piece, 0, 1, 2},
     {"write", ZEB_CALL_ANSWERS_0, 1, EIO,
@@ -222,6 +217,21 @@ TEST_F(Failing_Calls, are_told_and_lose_nothing)
         return 0;
     };
     run(read_rows, new_text, read, [=](ZEB_File *) { return text_of(target); });
+}
+
+TEST_F(Failing_Calls, to_follow_a_link_replace_nothing)
+{
+    put_file(path, old_text);
+    ASSERT_EQ(symlink("file", other.c_str()), 0);
+    ZEB_File *const file = entry(other);
+    [file set_report_errors:0];
+    for (const auto &[call, number] : {std::pair{"realpath", 1u}, {"lstat", 2u}}) {
+        zeb_plan_failure(folder.path.c_str(), call, number, EACCES);
+        EXPECT_EQ([file replace_contents:new_text.data() length:12], 0u);
+        zeb_plan_failure("", "file", 0, 0);
+        EXPECT_EQ([file last_error], EACCES);
+        EXPECT_EQ(file_text(path), old_text);
+    }
 }
 
 TEST_F(Failing_Calls, leave_a_copy_restricted)

@@ -9,7 +9,7 @@
 namespace support
 {
 
-/// Starts the work. The process ends with 1 if it has failed, with 0 if not.
+/// The process ends with 1 if the work fails, with 0 if not.
 template <class Work>
 pid_t start_child(Work work)
 {
@@ -27,12 +27,6 @@ inline int end_of_child(pid_t child)
     int status = -1;
     waitpid(child, &status, 0);
     return status;
-}
-
-template <class Work>
-int in_child(Work work)
-{
-    return end_of_child(start_child(work));
 }
 
 } // namespace support

@@ -7,6 +7,7 @@
 #import <objc/runtime.h>
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -138,7 +139,9 @@ void replace_alloc(Element element, id (*alloc)(Class, SEL))
 template <class Element>
 std::vector<Element> odd_samples()
 {
-    using Limits = std::numeric_limits<Element>;
+    // Characters are signed on every processor.
+    using Limits =
+        std::numeric_limits<std::conditional_t<std::is_same_v<Element, char>, signed char, Element>>;
     if constexpr (std::is_floating_point_v<Element>)
         return {1 + Limits::epsilon(),
                 1 + 2 * Limits::epsilon(),
@@ -152,7 +155,7 @@ std::vector<Element> odd_samples()
                 Limits::quiet_NaN(),
                 -Limits::quiet_NaN()};
     else if constexpr (std::is_arithmetic_v<Element>)
-        return {Limits::min(), Limits::max()};
+        return {static_cast<Element>(Limits::min()), static_cast<Element>(Limits::max())};
     else if constexpr (is_held<Element>)
         return {[[[[Sample<Element>::at(0) class] alloc] init] autorelease], Sample<Element>::at(10)};
     else
@@ -169,7 +172,9 @@ std::vector<Element> all_samples()
     std::mt19937_64 random(1);
     while (!is_object<Element> && all.size() < 40) {
         Element any;
-        const uint64_t bits = random();
+        // The same values on machines of either byte order.
+        constexpr unsigned unused = std::endian::native == std::endian::big ? 64 - 8 * sizeof any : 0;
+        const uint64_t bits = random() << unused;
         std::memcpy(&any, &bits, sizeof any);
         if (std::ranges::none_of(all, [=](Element other) { return are_identical(any, other); }))
             all.push_back(any);

@@ -13,24 +13,6 @@ namespace
 
 using Step = engine::Copying_Step;
 
-mode_t mode_of(ZEB_File *file)
-{
-    const uint8_t rights[] = {[file owner_read], [file owner_write], [file owner_execute],
-                              [file group_read], [file group_write], [file group_execute],
-                              [file other_read], [file other_write], [file other_execute]};
-    mode_t mode = 0;
-    for (const uint8_t right : rights)
-        mode = mode << 1 | right;
-    return mode;
-}
-
-engine::Copy_Request request_of(ZEB_File *file, const engine::Platform_Path &from,
-                                const engine::Platform_Path &to)
-{
-    return {from.c_string(), to.c_string(),           [file size], mode_of(file), [file uid],
-            [file gid],      [file load_details] != 0};
-}
-
 uint32_t report_failed_step(ZEB_File *file, ZEB_String *destination, Step step, int error)
 {
     switch (step) {
@@ -70,7 +52,8 @@ uint32_t copy(ZEB_File *file, ZEB_String *destination)
 {
     const engine::Platform_Path from([file path]);
     const engine::Platform_Path to(destination);
-    const engine::Copy_Result result = engine::copy_file(request_of(file, from, to));
+    const engine::Copy_Result result = engine::copy_file(
+        {from.c_string(), to.c_string(), [file size], engine::attributes_of(file), [file load_details] != 0});
     report_missing_bytes(file, result);
     if (result.error != 0 && result.step != Step::setting_attributes)
         return report_failed_step(file, destination, result.step, to.cause_of(from.cause_of(result.error)));

@@ -18,15 +18,6 @@ namespace
 
 constexpr uint32_t failed = 0, done = 1, existed = 2;
 
-engine::Entry_Attributes attributes_of(ZEB_File *file)
-{
-    const engine::Access_Rights owner{file->owner_read != 0, file->owner_write != 0,
-                                      file->owner_execute != 0},
-        group{file->group_read != 0, file->group_write != 0, file->group_execute != 0},
-        other{file->other_read != 0, file->other_write != 0, file->other_execute != 0};
-    return {engine::permissions_of(owner, group, other), file->uid, file->gid};
-}
-
 /// Creates the entry at the path by `create`, unless there is one. `relative` is the message for a relative
 /// path, and `report` tells any other failure.
 template <class Create, class Report>
@@ -39,7 +30,7 @@ uint32_t create_entry(ZEB_File *file, ZEB_Char_Span relative, ZEB_Char_Span crea
     if (!engine::is_absolute_path(engine::visible_path(file->path)))
         return engine::report_failure(file, relative, EINVAL);
     int attribute_error = 0;
-    const int error = path.cause_of(create(path.c_string(), attributes_of(file), attribute_error));
+    const int error = path.cause_of(create(path.c_string(), engine::attributes_of(file), attribute_error));
     if (error != 0) {
         report(error);
         return failed;
@@ -93,7 +84,7 @@ uint32_t create_levels(ZEB_File *file, ZEB_Char_Span directory)
     }
     engine::Directory_Level level;
     int attribute_error = 0;
-    while (levels.create_next(attributes_of(file), level)) {
+    while (levels.create_next(engine::attributes_of(file), level)) {
         if (!report_level(file, directory, level))
             return failed;
         attribute_error = attribute_error != 0 ? attribute_error : level.attribute_error;
@@ -139,9 +130,9 @@ void make_link(ZEB_File *file, const engine::Platform_Path &link, ZEB_Char_Span 
     const ZEB_Char_Span target_text = engine::visible_path(target_path);
     const int error = engine::create_symbolic_link(target.c_string(), link.c_string());
     if (error == 0)
-        engine::report_success(file, {messages::made_link, text, messages::arrow, target_text});
+        engine::report_success(file, {messages::made_link, text, messages::leads_to, target_text});
     else
-        engine::report_failure(file, {messages::error_making_link, text, messages::arrow, target_text},
+        engine::report_failure(file, {messages::error_making_link, text, messages::leads_to, target_text},
                                target.cause_of(link.cause_of(error)));
 }
 

@@ -49,6 +49,9 @@ private:
     int fault;
 };
 
+/// Returns the permissions and the owner that created entries receive.
+Entry_Attributes attributes_of(ZEB_File *file);
+
 /// Returns the effective access of the snapshot.
 Access_Rights access_of(ZEB_File *file);
 

@@ -4,6 +4,14 @@
 
 #include "core/engine/namespace.hpp"
 
+engine::Entry_Attributes engine::attributes_of(ZEB_File *file)
+{
+    const Access_Rights owner{file->owner_read != 0, file->owner_write != 0, file->owner_execute != 0},
+        group{file->group_read != 0, file->group_write != 0, file->group_execute != 0},
+        other{file->other_read != 0, file->other_write != 0, file->other_execute != 0};
+    return {permissions_of(owner, group, other), file->uid, file->gid};
+}
+
 engine::Access_Rights engine::access_of(ZEB_File *file)
 {
     return {file->can_read != 0, file->can_write != 0, file->can_execute != 0};

@@ -10,16 +10,6 @@
 namespace zeb::engine
 {
 
-/// The permission bits and the owner that a created entry receives.
-struct Entry_Attributes {
-    std::uint32_t permissions;
-    std::uint32_t uid;
-    std::uint32_t gid;
-};
-
-/// Joins the nine permission bits.
-std::uint32_t permissions_of(Access_Rights owner, Access_Rights group, Access_Rights other) noexcept;
-
 /// Creates an empty file. A file that another process has created meanwhile keeps its contents. If the
 /// permissions or the owner cannot be set, `attribute_error` is the reason and the file stays.
 int create_empty_file(const char *path, const Entry_Attributes &attributes, int &attribute_error) noexcept;

@@ -113,6 +113,13 @@ int Open_File::set_owner(uid_t owner, gid_t group) noexcept
     return error_of([&] { return ::fchown(descriptor, owner, group); });
 }
 
+int Open_File::set_attributes(const Entry_Attributes &attributes) noexcept
+{
+    const int mode_error = set_mode(attributes.permissions);
+    const int owner_error = set_owner(attributes.uid, attributes.gid);
+    return mode_error != 0 ? mode_error : owner_error;
+}
+
 int Open_File::close() noexcept
 {
     if (descriptor < 0)

@@ -1,6 +1,8 @@
 /// Reading and writing open files.
 #pragma once
 
+#include "filesystem/engine/file_status.hpp"
+
 #include <cstddef>
 #include <sys/stat.h>
 #include <utility>
@@ -66,6 +68,9 @@ public:
 
     /// Sets the owner and the group; -1 keeps one.
     int set_owner(uid_t owner, gid_t group) noexcept;
+
+    /// Sets the mode and the owner, and returns the first error.
+    int set_attributes(const Entry_Attributes &attributes) noexcept;
 
     int close() noexcept;
 

@@ -83,24 +83,16 @@ int open_destination(const Copy_Request &request, const Open_File &source, Open_
     const int error = examine_destination(source, request.to, existed);
     if (error != 0)
         return error;
-    destination =
-        Open_File::for_writing(request.to, request.sets_new_attributes ? request.mode : mode_of_new_files);
+    destination = Open_File::for_writing(
+        request.to, request.sets_new_attributes ? request.attributes.permissions : mode_of_new_files);
     return destination.opening_error() != 0 ? destination.opening_error() : destination.cut();
-}
-
-/// Sets the mode and the owner, and returns the first error.
-int set_attributes(Open_File &destination, const Copy_Request &request) noexcept
-{
-    const int mode_error = destination.set_mode(request.mode);
-    const int owner_error = destination.set_owner(request.owner, request.group);
-    return mode_error != 0 ? mode_error : owner_error;
 }
 
 /// Sets the attributes, and closes the destination: an error of that belongs to an earlier write.
 void finish(const Copy_Request &request, Open_File &destination, bool existed, Copy_Result &result) noexcept
 {
     const int attributes_error =
-        existed || request.sets_new_attributes ? set_attributes(destination, request) : 0;
+        existed || request.sets_new_attributes ? destination.set_attributes(request.attributes) : 0;
     result.error = destination.close();
     if (result.error != 0)
         return;

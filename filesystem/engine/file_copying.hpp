@@ -1,8 +1,9 @@
 /// Copying files.
 #pragma once
 
+#include "filesystem/engine/file_status.hpp"
+
 #include <cstdint>
-#include <sys/types.h>
 
 namespace zeb::engine
 {
@@ -10,10 +11,8 @@ namespace zeb::engine
 struct Copy_Request {
     const char *from;
     const char *to;
-    std::uint64_t size; // of the bytes to copy
-    mode_t mode;        // of an existing destination, and of a new one if `sets_new_attributes`
-    uid_t owner;
-    gid_t group;
+    std::uint64_t size;          // of the bytes to copy
+    Entry_Attributes attributes; // of an existing destination, and of a new one if `sets_new_attributes`
     bool sets_new_attributes;
 };
 

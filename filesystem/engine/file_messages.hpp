@@ -44,8 +44,6 @@ inline constexpr Char_Span error_backstoring = span_of("Error backstoring file: 
 inline constexpr Char_Span restored = span_of("Restored file: ");
 inline constexpr Char_Span error_restoring = span_of("Error restoring file: ");
 
-inline constexpr Char_Span arrow = span_of(" -> ");
-
 inline constexpr Char_Span error_relative_file = span_of("Cannot make relative file: ");
 inline constexpr Char_Span error_creating_file = span_of("Error creating file with name: ");
 inline constexpr Char_Span created_file = span_of("Created file with name: ");

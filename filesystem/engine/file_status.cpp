@@ -30,6 +30,11 @@ Access_Rights rights_of(mode_t mode, int shift) noexcept
     return {(bits & 4) != 0, (bits & 2) != 0, (bits & 1) != 0};
 }
 
+mode_t bits_of(Access_Rights rights) noexcept
+{
+    return (rights.read ? 4u : 0u) | (rights.write ? 2u : 0u) | (rights.execute ? 1u : 0u);
+}
+
 ZEB_Time_Value time_of(const struct timespec &time) noexcept
 {
     return {static_cast<std::uint64_t>(time.tv_sec), static_cast<std::uint64_t>(time.tv_nsec)};
@@ -65,6 +70,11 @@ void add(Access_Rights &rights, Access_Rights further) noexcept
 }
 
 } // namespace
+
+mode_t permissions_of(Access_Rights owner, Access_Rights group, Access_Rights other) noexcept
+{
+    return static_cast<mode_t>(bits_of(owner) << 6 | bits_of(group) << 3 | bits_of(other));
+}
 
 int read_status(const char *path, File_Status &status) noexcept
 {

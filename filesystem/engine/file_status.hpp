@@ -4,6 +4,7 @@
 #include <Korvane_ZEB/ZEB_Types.h>
 
 #include <cstdint>
+#include <sys/types.h>
 
 namespace zeb::engine
 {
@@ -27,6 +28,16 @@ struct File_Status {
     std::uint32_t uid;
     std::uint32_t gid;
 };
+
+/// The permission bits and the owner that an entry receives.
+struct Entry_Attributes {
+    mode_t permissions;
+    uid_t uid;
+    gid_t gid;
+};
+
+/// Joins the nine permission bits.
+mode_t permissions_of(Access_Rights owner, Access_Rights group, Access_Rights other) noexcept;
 
 /// Reads the status of the entry at a null-terminated path, following symbolic links. Returns 0, or the
 /// platform's error with `status` unchanged.

@@ -17,5 +17,6 @@ void remove_bench_folder();
 
 void add_contents_rows();
 void add_copying_rows();
+void add_removal_rows();
 
 } // namespace zeb_bench

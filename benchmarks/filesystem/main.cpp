@@ -30,6 +30,7 @@ int main(int argc, char **argv)
 {
     zeb_bench::add_contents_rows();
     zeb_bench::add_copying_rows();
+    zeb_bench::add_removal_rows();
     const int status = zeb_bench::run_rows(argc, argv);
     zeb_bench::remove_bench_folder();
     return status;

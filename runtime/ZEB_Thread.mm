@@ -8,6 +8,8 @@
 #include "runtime/engine/runtime_notes.hpp"
 #include "runtime/engine/sleeping.hpp"
 
+#include <cmath>
+
 /** What a time answers. */
 @interface NSObject (ZEB_Instant)
 - (double)seconds_since_1970;
@@ -44,13 +46,15 @@ void sleep_for(uint64_t second, uint64_t nanosecond)
     engine::sleep_through(engine::duration_of(second, nanosecond));
 }
 
-/// The platform throws where the instant is not a number.
+/// The platform throws, and leaks, where the instant is not a number.
 void sleep_until(id time)
 {
-    engine::runs_through([time] {
-        if ([time respondsToSelector:@selector(seconds_since_1970)])
-            [NSThread sleepUntilDate:[NSDate dateWithTimeIntervalSince1970:[time seconds_since_1970]]];
-    });
+    if (![time respondsToSelector:@selector(seconds_since_1970)])
+        return;
+    const double instant = [time seconds_since_1970];
+    if (!std::isnan(instant))
+        engine::runs_through(
+            [instant] { [NSThread sleepUntilDate:[NSDate dateWithTimeIntervalSince1970:instant]]; });
 }
 
 } // namespace

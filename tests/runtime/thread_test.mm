@@ -38,8 +38,7 @@ double seconds_of(Work work)
 
 constexpr int turns = 2000;
 std::atomic<int> ended;
-std::atomic<id> given;
-std::atomic<NSThread *> thread;
+std::atomic<void *> given, thread; // clang has no atomic objects
 
 } // namespace
 
@@ -64,8 +63,8 @@ std::atomic<NSThread *> thread;
 - (void)count_behind_lock:(id)object
 {
     NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
-    given = object;
-    thread = [ZEB_Thread current_thread];
+    given = static_cast<void *>(object);
+    thread = static_cast<void *>([ZEB_Thread current_thread]);
     for (int i = 0; i < turns; ++i) {
         [lock lock];
         ++count;
@@ -93,8 +92,8 @@ TEST(Thread, runs_the_selector_and_releases_what_it_was_given)
             [named detach:@selector(count_behind_lock:) target:worker object:object];
         EXPECT_TRUE(comes_true([] { return ended == 4; }));
         EXPECT_EQ(worker->count, 4 * turns);
-        EXPECT_EQ(given.load(), object);
-        EXPECT_NE(thread.load(), [named current_thread]);
+        EXPECT_EQ(given, static_cast<void *>(object));
+        EXPECT_NE(thread, static_cast<void *>([named current_thread]));
         EXPECT_EQ([named current_thread], [NSThread currentThread]);
         EXPECT_EQ([named is_multi_threaded], 1);
         [named detach:@selector(exit_early:) target:worker object:named];
@@ -158,6 +157,8 @@ TEST(Lock, is_taken_by_one_thread_at_a_time)
     EXPECT_EQ(tried_elsewhere(), 0);
     [lock unlock];
     EXPECT_EQ(tried_elsewhere(), 1);
+#if !defined(__SANITIZE_THREAD__) // which reports it itself
     EXPECT_EQ(standard_error_of([=] { [lock unlock]; }),
               fix_line("unlock", "ZEB_Lock", "Cannot lock or unlock, no change made."));
+#endif
 }

@@ -8,7 +8,8 @@
  * directory are read before the first of them is used, and directories are opened relative to the one that
  * they are in, so that a tree that changes meanwhile does not lead elsewhere.
  *
- * Entries in the tree are handled with this directory's settings, and without its interceptor.
+ * Entries in the tree are handled with this directory's settings, and without its interceptor. For threads,
+ * what ZEB_File.h says holds.
  */
 ZEB_EXPORT
 @interface ZEB_Directory : ZEB_File {

@@ -11,8 +11,10 @@
  *
  * If `log_actions` is set, successes are reported on the shared standard-output stream; if `report_errors` is
  * set, failures on the shared error stream. A report is one line of fixed text and the path; it does not
- * depend on `verbose` and is not counted. In all cases `last_error` stores the cause. Nothing throws. There
- * is no locking.
+ * depend on `verbose` and is not counted. In all cases `last_error` stores the cause. Nothing throws.
+ *
+ * Different entries may be used on different threads while they report nothing (ZEB_Object.h): the streams are
+ * shared. There is no locking, also not of files.
  */
 ZEB_EXPORT
 @interface ZEB_File : ZEB_Object <NSCopying> {

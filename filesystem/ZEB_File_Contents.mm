@@ -3,11 +3,11 @@
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_Compression.h>
 
-#import "arrays/ZEB_Char_Storage_Private.h"
+#import "arrays/ZEB_Byte_Storage_Private.h"
 #import "filesystem/ZEB_File_Private.h"
 
 #include "core/engine/namespace.hpp"
-#include "encoding/engine/zlib_loops.hpp"
+#include "encoding/engine/zlib_arrays.hpp"
 #include "filesystem/engine/file_contents.hpp"
 #include "filesystem/engine/file_messages.hpp"
 #include "filesystem/engine/file_replacement.hpp"
@@ -66,6 +66,27 @@ bool read_into(ZEB_File *file, ZEB_Byte_Array *target, uint64_t size)
     return true;
 }
 
+/// Replaces the destination with decompressed contents of at most `most` bytes. A truncated stream can go on
+/// for long: it is tried without its output first, so that memory does not grow for nothing.
+int32_t decompress(ZEB_Byte_Array *stored, ZEB_Byte_Array *destination, uint64_t most)
+{
+    const engine::Byte_Run source{reinterpret_cast<const char *>([stored byte_data]), [stored count]};
+    const auto run = [=](auto work) {
+        [destination clear];
+        return engine::run_zlib(
+            source, engine::storage_of_array(destination),
+            engine::Fix_Report { destination, @selector(append_bytes:count:) },
+            [=](const char *bytes, uint32_t length, engine::Zlib_Output output) {
+                return work(bytes, length, output, most);
+            });
+    };
+    const int32_t status = run(engine::decompress_once);
+    if (status != engine::zlib_truncated)
+        return status;
+    const int32_t tried = engine::decompress(source.bytes, source.length, engine::discarded_output(), most);
+    return tried == 0 ? run(engine::decompress) : tried;
+}
+
 /// Reads the compressed file and replaces `destination` with its decompressed contents. Returns false after
 /// reporting a failure.
 bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
@@ -74,9 +95,7 @@ bool read_compressed(ZEB_File *file, ZEB_Byte_Array *destination, uint64_t size)
     const bool was_read = read_into(file, stored, size);
     int32_t status = 0;
     if (was_read) {
-        [destination clear];
-        const uint64_t most = std::min<uint64_t>(greatest_size(file), UINT32_MAX);
-        status = ZC_decompress_bytes_to_bytes_within(stored, destination, 0, static_cast<uint32_t>(most));
+        status = decompress(stored, destination, std::min<uint64_t>(greatest_size(file), UINT32_MAX));
         if (status != 0)
             report_decompression(file, status);
     }

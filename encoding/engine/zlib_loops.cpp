@@ -15,8 +15,6 @@ constexpr std::uint32_t greatest_pass_count = 65536;
 constexpr std::uint64_t greatest_refed_input = std::uint64_t{256} << 20;
 constexpr std::uint64_t greatest_refed_output = std::uint64_t{64} << 20;
 
-constexpr std::int32_t no_verdict = 1;
-
 static_assert(zlib_out_of_memory == Z_MEM_ERROR && zlib_out_of_room == Z_BUF_ERROR);
 
 void report_line(const char *line) noexcept { std::fputs(line, stderr); }
@@ -110,7 +108,7 @@ int inflate_once(Inflation &inflation, std::uint64_t most) noexcept
 }
 
 /// Runs inflate over the input once, in pieces of at most `most` bytes, until the output exceeds `limit`.
-/// Returns the final status, or `no_verdict` if the input ends before the stream does.
+/// Returns the final status, or `zlib_truncated` if the input ends before the stream does.
 std::int32_t inflate_pass(Inflation &inflation, std::uint64_t most, std::uint64_t limit) noexcept
 {
     z_stream &stream = inflation.stream;
@@ -129,22 +127,45 @@ std::int32_t inflate_pass(Inflation &inflation, std::uint64_t most, std::uint64_
         if (status == Z_STREAM_END && stream.avail_out != 0)
             return Z_OK;
     } while (stream.avail_out == 0);
-    return no_verdict;
+    return zlib_truncated;
+}
+
+std::int32_t inflate_once_through(Inflation &inflation, const char *bytes, std::uint32_t length) noexcept
+{
+    set_input(inflation.stream, bytes, length);
+    return inflate_pass(inflation, unbounded, unbounded);
 }
 
 std::int32_t inflate_to_end(Inflation &inflation, const char *bytes, std::uint32_t length) noexcept
 {
-    set_input(inflation.stream, bytes, length);
-    std::int32_t verdict = inflate_pass(inflation, unbounded, unbounded);
+    std::int32_t verdict = inflate_once_through(inflation, bytes, length);
     const std::uint64_t limit = inflation.stream.total_out + greatest_refed_output;
     std::uint64_t refed_input = 0;
     for (std::uint32_t pass = 1;
-         verdict == no_verdict && pass < greatest_pass_count && refed_input < greatest_refed_input; ++pass) {
+         verdict == zlib_truncated && pass < greatest_pass_count && refed_input < greatest_refed_input;
+         ++pass) {
         set_input(inflation.stream, bytes, length);
         refed_input += length;
         verdict = inflate_pass(inflation, zlib_chunk_size, limit);
     }
-    return verdict == no_verdict ? Z_DATA_ERROR : verdict;
+    return verdict == zlib_truncated ? Z_DATA_ERROR : verdict;
+}
+
+/// Runs an inflation between its start and its end.
+template <class Inflate>
+std::int32_t run_inflation(const char *bytes, std::uint32_t length, Inflation inflation,
+                           Inflate inflate) noexcept
+{
+    if (length == 0)
+        return Z_OK;
+    const int started = inflateInit(&inflation.stream);
+    if (started != Z_OK) {
+        report_line("decompress error: stream is not OK.\n");
+        return started;
+    }
+    const std::int32_t verdict = inflate(inflation, bytes, length);
+    inflateEnd(&inflation.stream);
+    return verdict;
 }
 
 } // namespace
@@ -181,17 +202,22 @@ std::int32_t compress(const char *bytes, std::uint32_t length, Zlib_Output outpu
 std::int32_t decompress(const char *bytes, std::uint32_t length, Zlib_Output output,
                         std::uint64_t bound) noexcept
 {
-    if (length == 0)
-        return Z_OK;
-    Inflation inflation{{}, output, bound};
-    const int started = inflateInit(&inflation.stream);
-    if (started != Z_OK) {
-        report_line("decompress error: stream is not OK.\n");
-        return started;
-    }
-    const std::int32_t verdict = inflate_to_end(inflation, bytes, length);
-    inflateEnd(&inflation.stream);
-    return verdict;
+    return run_inflation(bytes, length, {{}, output, bound}, inflate_to_end);
+}
+
+std::int32_t decompress_once(const char *bytes, std::uint32_t length, Zlib_Output output,
+                             std::uint64_t bound) noexcept
+{
+    return run_inflation(bytes, length, {{}, output, bound}, inflate_once_through);
+}
+
+Zlib_Output discarded_output() noexcept
+{
+    return {nullptr, [](void *, const char *, std::uint32_t) { return true; },
+            [](void *) {
+                return Output_Room{nullptr, 0};
+            },
+            [](void *, std::uint32_t) {}};
 }
 
 const char *zlib_status_text(std::int32_t status) noexcept

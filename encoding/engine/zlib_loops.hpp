@@ -49,6 +49,17 @@ std::int32_t compress(const char *bytes, std::uint32_t length, Zlib_Output outpu
 std::int32_t decompress(const char *bytes, std::uint32_t length, Zlib_Output output,
                         std::uint64_t bound = unbounded) noexcept;
 
+/// The status of a stream that did not end in one pass.
+inline constexpr std::int32_t zlib_truncated = 1;
+
+/// Decompresses in the same way, but passes the input once only; returns `zlib_truncated` if it ends before
+/// the stream does.
+std::int32_t decompress_once(const char *bytes, std::uint32_t length, Zlib_Output output,
+                             std::uint64_t bound = unbounded) noexcept;
+
+/// Output that nobody keeps.
+Zlib_Output discarded_output() noexcept;
+
 /// Returns the text that follows "zlib error: " for a status; empty for -5 and unknown ones.
 const char *zlib_status_text(std::int32_t status) noexcept;
 

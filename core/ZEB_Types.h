@@ -96,4 +96,30 @@ enum {
     ZEB_UNIT_YEAR = 15
 };
 
+/* The dimensions of units of measure. */
+typedef uint32_t ZEB_Dimension;
+enum {
+    ZEB_DIMENSION_NONE = 0,
+    ZEB_DIMENSION_LENGTH = 1,
+    ZEB_DIMENSION_WEIGHT = 2,
+    ZEB_DIMENSION_TEMPERATURE = 3,
+    ZEB_DIMENSION_TIME = 4, /* whose units are those of ZEB_Time_Unit */
+    ZEB_DIMENSION_ELECTRICAL_POTENTIAL = 31,
+    ZEB_DIMENSION_CURRENCY = 101,
+    ZEB_DIMENSION_ANGLE = 201,
+    ZEB_DIMENSION_UNO = 1001,
+    ZEB_DIMENSION_BYTE = 1002,
+    ZEB_DIMENSION_HISTOGRAM = 9002,
+    ZEB_DIMENSION_CATEGORICAL = 9003,
+    ZEB_DIMENSION_PAGE_LAYOUT = 10001
+};
+
+/* A unit of measure: the code of its dimension in the low 32 bits, its own in the high ones. */
+typedef uint64_t ZEB_Unit_Identity;
+
+static inline ZEB_Unit_Identity ZEB_unit_identity(ZEB_Dimension dimension, uint32_t unit)
+{
+    return (ZEB_Unit_Identity)unit << 32 | dimension;
+}
+
 #endif

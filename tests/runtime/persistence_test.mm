@@ -60,16 +60,9 @@ class Persistence : public testing::Test
 
 TEST(Other_Process, DISABLED_reads_values)
 {
-    for (NSUserDefaults *const defaults :
-         {static_cast<id>([ZEB_Suite_Defaults shared]), static_cast<id>([ZEB_Standard_Defaults shared])}) {
-        EXPECT_EQ([defaults bool_for_key:text("kept bool")], 1);
-        EXPECT_EQ([defaults integer_for_key:text("kept integer")], -70000);
-        EXPECT_EQ([defaults double_for_key:text("kept double")], -2.25e10);
-        EXPECT_EQ(text_of([defaults string_for_key:text("kept text")]), " z\u00fc\u20ac\r\n\t<&>\"\\ ");
-        EXPECT_EQ(text_of([defaults byte_array_for_key:text("kept bytes")]), std::string("\0\xff", 2));
-        EXPECT_EQ([[defaults byte_array_for_key:text("kept no bytes")] count], 0u);
-        EXPECT_NE([defaults byte_array_for_key:text("kept no bytes")], nil);
-        EXPECT_TRUE([[[defaults object_for_key:text("kept object")] objectForKey:@"a"] isEqual:@"1"]);
+    for (const Kept_Value &row : kept_values) {
+        EXPECT_EQ(values_of(all()[0], text(row.name)), row.in_suite) << row.name;
+        EXPECT_EQ(values_of(all()[1], text(row.name)), row.elsewhere) << row.name;
     }
 }
 
@@ -84,16 +77,9 @@ TEST(Other_Process, DISABLED_writes_its_keys)
 
 TEST_F(Persistence, a_new_process_reads_values_of_every_kind)
 {
-    for (ZEB_Defaults *const defaults : {all()[0], all()[1]}) {
-        [defaults set_bool_for_key:1 key:text("kept bool")];
-        [defaults set_integer_for_key:-70000 key:text("kept integer")];
-        [defaults set_double_for_key:-2.25e10 key:text("kept double")];
-        [defaults set_string_for_key:text(" z\u00fc\u20ac\r\n\t<&>\"\\ ") key:text("kept text")];
-        [defaults set_byte_array_for_key:bytes(std::string("\0\xff", 2)) key:text("kept bytes")];
-        [defaults set_byte_array_for_key:bytes("") key:text("kept no bytes")];
-        [defaults set_object_for_key:[NSDictionary dictionaryWithObject:@"1" forKey:@"a"]
-                                 key:text("kept object")];
-    }
+    for (const Kept_Value &row : kept_values)
+        for (ZEB_Defaults *const defaults : {all()[0], all()[1]})
+            row.store(defaults, text(row.name));
     EXPECT_EQ([all()[1] synchronize], YES); // the suite is saved by each write
     EXPECT_TRUE(succeeded(start("reads_values")));
     EXPECT_TRUE(std::filesystem::exists(std::string(std::getenv("HOME")) + "/Defaults/Korvane.plist"));

@@ -4,6 +4,7 @@
 #include "tests/support/strings.hpp"
 
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <string>
 
 namespace support
@@ -11,8 +12,16 @@ namespace support
 
 using Defaults = NSObject<ZEB_Default_Values>;
 
-/// Whether the defaults of these tests are their own (tests/CMakeLists.txt), and not the user's.
-inline bool defaults_are_scratch() { return std::getenv("GNUSTEP_CONFIG_FILE") != nullptr; }
+class Defaults_Test : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        // Those of these tests are their own (tests/CMakeLists.txt).
+        if (std::getenv("GNUSTEP_CONFIG_FILE") == nullptr)
+            GTEST_SKIP() << "these defaults are the user's";
+    }
+};
 
 /// What each getter answers for a key, and what `assign_string_for_key:key:` makes of a string that held
 /// "old".

@@ -3,8 +3,6 @@
 #include "tests/support/comma_locale.hpp"
 #include "tests/support/diagnostic.hpp"
 
-#include <gtest/gtest.h>
-
 using namespace support;
 
 namespace
@@ -50,23 +48,20 @@ const Refusal of_values[] = {
     {"set_object_for_key:key:", CHANGE([d set_object_for_key:array_with_keys_that_are_dates() key:key])},
 };
 
-class Every_Defaults : public testing::TestWithParam<int>
+class Every_Defaults : public Defaults_Test, public testing::WithParamInterface<int>
 {
 protected:
-    void SetUp() override
+    Every_Defaults()
     {
-        if (!defaults_are_scratch())
-            GTEST_SKIP() << "these defaults are the user's";
         // One at a time: what is common to the process is made by the first use.
         defaults = GetParam() == 0   ? static_cast<id>([ZEB_Standard_Defaults shared])
                    : GetParam() == 1 ? static_cast<id>([ZEB_Suite_Defaults shared])
                    : GetParam() == 2 ? static_cast<id>([ZEB_Defaults shared_standard])
                                      : static_cast<id>([ZEB_Defaults shared_suite]);
-        is_suite = GetParam() % 2 == 1;
     }
 
     Defaults *defaults = nil;
-    bool is_suite = false;
+    const bool is_suite = GetParam() % 2 == 1;
     ZEB_String *const key = text("key");
 };
 
@@ -137,8 +132,8 @@ TEST(Defaults, suite_refuses_what_the_platform_would_throw_for)
     };
     refusal("setObject:forKey:", unusable_value, [=] { [suite setObject:nil forKey:@"key"]; });
     refusal("setObject:forKey:", unusable_key, [=] { [suite setObject:@"a" forKey:nil]; });
-    refusal("setObject:forKey:", unusable_key,
-            [=] { [suite setObject:@"a" forKey:static_cast<id>([NSDate date])]; });
+    const id date = [NSDate date];
+    refusal("setObject:forKey:", unusable_key, [=] { [suite setObject:@"a" forKey:date]; });
     refusal("removeObjectForKey:", unusable_key, [=] { [suite removeObjectForKey:nil]; });
     [suite setFloat:0.1f forKey:@"key"];
     EXPECT_TRUE([[suite objectForKey:@"key"] isEqual:@"0.1"]);

@@ -61,15 +61,6 @@ protected:
             fs::remove_all(found);
     }
 
-    /// A text with the paths in it.
-    std::string placed(std::string text, const Row &row = {}) const
-    {
-        for (const auto &[sign, meant] : {std::pair('#', row.path), {'%', row.other}, {'@', folder.path}})
-            for (size_t at = text.find(sign); at != std::string::npos; at = text.find(sign))
-                text.replace(at, 1, meant);
-        return text;
-    }
-
     /// The names in the tree below the folder.
     std::vector<std::string> names() const
     {
@@ -96,7 +87,7 @@ protected:
         const std::string output = standard_output_of(
             [&] { errors = standard_error_of([&] { answer = row.work(file, text(placed(row.other))); }); });
         const auto line = [&](const std::string &text) {
-            return text.empty() || !is_telling ? std::string() : placed(text, row) + "\n";
+            return text.empty() || !is_telling ? std::string() : placed(text, row.path, row.other) + "\n";
         };
         EXPECT_EQ(answer, row.answer);
         EXPECT_EQ([file last_error], row.last_error);
@@ -255,30 +246,25 @@ TEST_F(Entries, levels_are_numbered_and_receive_the_entry_s_rights)
 
 TEST_F(Entries, a_unique_path_names_nothing_yet)
 {
-    std::vector<std::string> made;
     for (int i = 0; i < 20; ++i) {
         ZEB_File *const file = entry(folder.path);
         EXPECT_EQ([file make_unique_path:text("pre") extension:text("ext")], 1u);
-        made.push_back(text_of([file path]));
-        const std::string name = made.back().substr(folder.path.size());
+        const std::string name = text_of([file path]).substr(folder.path.size());
         uint64_t second = 0;
         unsigned microsecond = 0;
         int length = 0;
         std::sscanf(name.c_str(), "/pre_%lu_%u.ext%n", &second, &microsecond, &length);
         EXPECT_EQ(static_cast<size_t>(length), name.size()) << name;
         EXPECT_NEAR(static_cast<double>(second), static_cast<double>(time(nullptr)), 5);
-        EXPECT_EQ([file create_file], 1u);
+        EXPECT_EQ([file create_file], 1u); // it was new
     }
-    std::sort(made.begin(), made.end());
-    EXPECT_EQ(std::unique(made.begin(), made.end()), made.end());
-
     ZEB_File *const file = entry(folder / std::string("a\0b", 3));
     [file set_report_errors:0];
-    const std::string said =
-        standard_error_of([&] { EXPECT_EQ([file make_unique_path:text("p") extension:text("e")], 0u); });
-    EXPECT_EQ(said.rfind(placed("Maximum tries exceeded, the file name is not be unique. The last path name "
-                                "tried is:@/a"),
-                         0),
+    const std::string line =
+        placed("Maximum tries exceeded, the file name is not be unique. The last path name tried is:@/a");
+    EXPECT_EQ(standard_error_of([&] {
+                  EXPECT_EQ([file make_unique_path:text("p") extension:text("e")], 0u);
+              }).rfind(line, 0),
               0u);
     EXPECT_EQ(text_of([file path]), "");
 }
@@ -318,8 +304,6 @@ TEST_F(Entries, paths_are_taken_apart_and_put_together)
     EXPECT_EQ([file is_same_path_as:nil], 0);
     EXPECT_EQ([entry("/\xE9") is_same_path_as:entry("/\xE9")], 1);
     EXPECT_EQ([entry("/\xE9") is_same_path_as:entry("/\xE8")], 0);
-    [file clear];
-    EXPECT_EQ([[file path] count], 0u);
 }
 
 TEST_F(Entries, a_link_is_resolved_by_one_step)

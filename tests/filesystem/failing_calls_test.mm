@@ -16,22 +16,21 @@ struct Row {
     int outcome;
     uint32_t answer;
     int last_error;
-    std::string message; /* where there is one, the path and a line break follow; @ and # stand for the paths
-                            of a copy */
+    std::string message; /* # and % stand for the paths; a line break follows what is not empty */
     std::string text;
     unsigned number = 1;
     int compressed = 0, report_errors = 1;
 };
 
-const char opening[] = "Error opening file: ", writing[] = "Error writing contents to file: ",
-           compressing[] = "Error: Compress failed before writing contents of file: ",
+const char opening[] = "Error opening file: #", writing[] = "Error writing contents to file: #",
+           compressing[] = "Error: Compress failed before writing contents of file: #",
            decompressing[] = "decompress error: stream is not OK.\n"
-                             "Error: Decompress failed while reading contents of file: ",
-           reading[] = "Error reading contents of file: ";
+                             "Error: Decompress failed while reading contents of file: #",
+           reading[] = "Error reading contents of file: #";
 const std::string discrepancy = "Warning: Discrepancy in actual length ",
                   short_write =
-                      discrepancy + "written 0 v.s. specified length 12 while writing contents to file: ",
-                  short_read = discrepancy + "read 0 v.s. content size 12 while reading contents of file: ";
+                      discrepancy + "written 0 v.s. specified length 12 while writing contents to file: #",
+                  short_read = discrepancy + "read 0 v.s. content size 12 while reading contents of file: #";
 
 const Row write_rows[] = {
     {"open", EIO, 0, EIO, opening, old_text},
@@ -75,15 +74,15 @@ const Row replace_rows[] = {
 
 const std::string source = std::string(70000, 's') + std::string(30000, 't');
 const std::string piece = source.substr(0, 65536); // what is copied at a time without the kernel
-const char copying_to[] = "Error copying to file: #", copying_from[] = "Error copying contents from file: @",
-           writing_copy[] = "Error copying contents to file: #";
+const char copying_to[] = "Error copying to file: %", copying_from[] = "Error copying contents from file: #",
+           writing_copy[] = "Error copying contents to file: %";
 const std::string short_source =
-                      discrepancy + "read 65536 v.s. content size 100000 while copying contents from file: @",
+                      discrepancy + "read 65536 v.s. content size 100000 while copying contents from file: #",
                   short_copy = discrepancy +
-                               "read 65536 v.s. actual length written 0 while copying contents to file: @";
+                               "read 65536 v.s. actual length written 0 while copying contents to file: #";
 
 const Row copy_rows[] = {
-    {"open", EACCES, 0, EACCES, "Error opening source file for copying: @ -> #", old_text},
+    {"open", EACCES, 0, EACCES, "Error opening source file for copying: # -> %", old_text},
     {"fstat", EIO, 0, EIO, copying_to, old_text},
     {"stat", EIO, 0, EIO, copying_to, old_text},
     {"open", EACCES, 0, EACCES, copying_to, old_text, 2},
@@ -105,19 +104,6 @@ const Row copy_rows[] = {
 class Failing_Calls : public File_Test
 {
 protected:
-    /// The line of a message, with the paths in it.
-    std::string line_of(std::string message) const
-    {
-        if (message.empty())
-            return message;
-        if (message.find_first_of("@#") == std::string::npos)
-            message += "@";
-        for (const auto &[sign, text] : {std::pair{'@', path}, {'#', other}})
-            if (const size_t at = message.find(sign); at != std::string::npos)
-                message.replace(at, 1, text);
-        return message + "\n";
-    }
-
     const std::string other = path + " copy";
 
     /// Runs an operation on an entry whose last operation went otherwise. Returns whether the call was made.
@@ -140,7 +126,7 @@ protected:
             return true;
         EXPECT_EQ(answer, row.answer);
         EXPECT_EQ([file last_error], row.last_error);
-        EXPECT_EQ(told, line_of(row.message));
+        EXPECT_EQ(told, row.message.empty() ? "" : placed(row.message, path, other) + "\n");
         EXPECT_EQ(result(), row.text);
         EXPECT_EQ(text_of([file path]), path);
         return calls >= row.number;

@@ -50,6 +50,15 @@ protected:
         return file;
     }
 
+    /// A text with the paths for "#" and "%", and the folder for "@", which may stand in these.
+    std::string placed(std::string text, const std::string &path = "", const std::string &other = "") const
+    {
+        for (const auto &[sign, meant] : {std::pair('#', path), {'%', other}, {'@', folder.path}})
+            for (size_t at = text.find(sign); at != std::string::npos; at = text.find(sign))
+                text.replace(at, 1, meant);
+        return text;
+    }
+
     /// A path of so many bytes, most of them those of folders.
     std::string long_path(size_t length) const
     {

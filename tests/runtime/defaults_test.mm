@@ -77,6 +77,11 @@ TEST_P(Every_Defaults, answer_each_kind_of_value_to_each_getter)
     [defaults remove_object_for_key:key];
     [defaults remove_object_for_key:key];
     EXPECT_EQ(values_of(defaults, key), no_values);
+    for (const uint8_t on : {1, 0}) {
+        [defaults set_bool_for_key:on key:text("does_debug_logging")];
+        EXPECT_EQ([defaults debug_logging_enabled], on);
+    }
+    [defaults remove_object_for_key:text("does_debug_logging")];
 }
 
 TEST_P(Every_Defaults, refuse_unusable_keys_and_values)
@@ -100,14 +105,6 @@ TEST_P(Every_Defaults, refuse_unusable_keys_and_values)
     [defaults remove_object_for_key:key];
 }
 
-TEST_P(Every_Defaults, switch_debug_logging)
-{
-    EXPECT_EQ([defaults debug_logging_enabled], 0);
-    [defaults set_bool_for_key:1 key:text("does_debug_logging")];
-    EXPECT_EQ([defaults debug_logging_enabled], 1);
-    [defaults remove_object_for_key:text("does_debug_logging")];
-}
-
 INSTANTIATE_TEST_SUITE_P(Defaults, Every_Defaults, testing::Range(0, 4));
 
 TEST(Defaults, shared_objects_are_made_once)
@@ -127,14 +124,14 @@ TEST(Defaults, shared_objects_are_made_once)
 TEST(Defaults, suite_refuses_what_the_platform_would_throw_for)
 {
     ZEB_Suite_Defaults *const suite = [ZEB_Suite_Defaults shared];
-    const auto refusal = [](const char *selector, const char *note, auto work) {
-        EXPECT_EQ(standard_error_of(work), fix_line(selector, "ZEB_Suite_Defaults", note));
-    };
-    refusal("setObject:forKey:", unusable_value, [=] { [suite setObject:nil forKey:@"key"]; });
-    refusal("setObject:forKey:", unusable_key, [=] { [suite setObject:@"a" forKey:nil]; });
-    const id date = [NSDate date];
-    refusal("setObject:forKey:", unusable_key, [=] { [suite setObject:@"a" forKey:date]; });
-    refusal("removeObjectForKey:", unusable_key, [=] { [suite removeObjectForKey:nil]; });
+    const std::string of_values = fix_line("setObject:forKey:", "ZEB_Suite_Defaults", unusable_value),
+                      of_keys = fix_line("setObject:forKey:", "ZEB_Suite_Defaults", unusable_key),
+                      of_removals = fix_line("removeObjectForKey:", "ZEB_Suite_Defaults", unusable_key);
+    EXPECT_EQ(standard_error_of([=] { [suite setObject:nil forKey:@"key"]; }), of_values);
+    for (const id key : {id(nil), id([NSDate date])}) {
+        EXPECT_EQ(standard_error_of([=] { [suite setObject:@"a" forKey:key]; }), of_keys);
+        EXPECT_EQ(standard_error_of([=] { [suite removeObjectForKey:key]; }), of_removals);
+    }
     [suite setFloat:0.1f forKey:@"key"];
     EXPECT_TRUE([[suite objectForKey:@"key"] isEqual:@"0.1"]);
     [suite removeObjectForKey:@"key"];
@@ -146,7 +143,7 @@ TEST_F(Defaults_Locale, doubles_have_a_point_in_every_locale)
 {
     ZEB_Suite_Defaults *const suite = [ZEB_Suite_Defaults shared];
     [suite set_double_for_key:-1234.5 key:text("key")];
-    EXPECT_TRUE([[suite objectForKey:@"key"] isEqual:@"-1234.5"]);
+    EXPECT_EQ(text_of([suite string_for_key:text("key")]), "-1234.5");
     EXPECT_EQ([suite double_for_key:text("key")], -1234.5);
     [suite remove_object_for_key:text("key")];
 }

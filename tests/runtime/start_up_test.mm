@@ -37,10 +37,8 @@ TEST(Start_Up, sets_the_flags_of_the_unit_catalog_once)
     EXPECT_EQ(flags[3], 0);
 }
 
-TEST(Start_Up, of_the_framework_runs_every_routine)
+TEST(Start_Up, of_debug_logging_comes_with_its_first_use)
 {
-    EXPECT_EQ([[NSUserDefaults standardUserDefaults] debug_logging_enabled], 0); // starts its own
+    EXPECT_EQ([[NSUserDefaults standardUserDefaults] debug_logging_enabled], 0);
     EXPECT_TRUE([ZC_debug_logging_key() isEqualToString:@"does_debug_logging"]);
-    ZC_start_up_framework();
-    ZC_start_up_framework();
 }

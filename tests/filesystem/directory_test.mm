@@ -1,13 +1,11 @@
-#include "tests/support/captured.hpp"
+#include "tests/support/child.hpp"
 #include "tests/support/files.hpp"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 using namespace support;
 namespace fs = std::filesystem;
@@ -41,11 +39,6 @@ protected:
             fs::create_symlink(target, tree + "/" + name);
     }
 
-    bool outside_is_whole() const
-    {
-        return file_text(folder / "outside/kept") == "kept" && fs::exists(folder / "outside/more");
-    }
-
     /// The lines that a work writes onto both standard streams, without the folder, in order.
     template <class Work>
     std::vector<std::string> lines_of(Work work)
@@ -61,50 +54,45 @@ protected:
         return lines;
     }
 
+    /// Removes a directory, which answers 1 if there is no error.
+    void expect_removal(ZEB_Directory *directory, int error, const std::vector<std::string> &lines)
+    {
+        EXPECT_EQ(lines_of([=] { EXPECT_EQ([directory remove], error == 0 ? 1u : 0u); }), lines);
+        EXPECT_EQ([directory last_error], error);
+        EXPECT_EQ(fs::exists(folder / "outside/kept"), [directory links_are_entries] == 1);
+        EXPECT_TRUE(fs::exists(folder / "outside"));
+    }
+
     const std::string tree = folder / "tree";
 };
-
-using Lines = std::vector<std::string>;
 
 } // namespace
 
 TEST_F(Directories, are_removed_with_all_that_is_in_them_and_nothing_else)
 {
-    for (const std::string &refused : {folder / "link", folder / "link/", tree + "/file"}) {
-        fs::create_directory_symlink("outside", folder / "link");
-        ZEB_Directory *const directory = directory_at(refused);
-        EXPECT_EQ(lines_of([=] { EXPECT_EQ([directory remove], 0u); }),
-                  Lines({"Error removing directory: " + refused.substr(folder.path.size())}));
-        EXPECT_EQ([directory last_error], ENOTDIR);
-        EXPECT_TRUE(outside_is_whole());
-        fs::remove(folder / "link");
-    }
+    fs::create_directory_symlink("outside", folder / "link");
+    for (const std::string refused : {"/link", "/link/", "/tree/file"})
+        expect_removal(directory_at(folder.path + refused), ENOTDIR,
+                       {"Error removing directory: " + refused});
     ZEB_Directory *const directory = directory_at(tree);
     [directory set_log_actions:1];
-    EXPECT_EQ(
-        lines_of([=] { EXPECT_EQ([directory remove], 1u); }),
-        Lines({"Removed directory: /tree", "Removed directory: /tree/sub",
-               "Removed directory: /tree/sub/deep", "Removed file: /tree/dangling",
-               "Removed file: /tree/file", "Removed file: /tree/loop", "Removed file: /tree/sub/deep/file",
-               "Removed file: /tree/sub/inside", "Removed file: /tree/sub/to_directory",
-               "Removed file: /tree/sub/to_file", "Removed file: /tree/to_itself"}));
-    EXPECT_EQ([directory last_error], 0);
+    const std::string removed = "Removed file: /tree/";
+    expect_removal(directory, 0,
+                   {"Removed directory: /tree", "Removed directory: /tree/sub",
+                    "Removed directory: /tree/sub/deep", removed + "dangling", removed + "file",
+                    removed + "loop", removed + "sub/deep/file", removed + "sub/inside",
+                    removed + "sub/to_directory", removed + "sub/to_file", removed + "to_itself"});
     EXPECT_FALSE(fs::exists(tree));
-    EXPECT_TRUE(outside_is_whole());
-    EXPECT_EQ(lines_of([=] { EXPECT_EQ([directory remove], 0u); }),
-              Lines({"Error removing nonexistent directory: /tree"}));
-    EXPECT_EQ([directory last_error], ENOENT);
+    expect_removal(directory, ENOENT, {"Error removing nonexistent directory: /tree"});
 }
 
 TEST_F(Directories, are_emptied_through_links_only_when_told)
 {
     ZEB_Directory *const directory = directory_at(tree);
     [directory set_links_are_entries:0];
-    EXPECT_EQ(lines_of([=] { EXPECT_EQ([directory remove], 0u); }),
-              Lines({"Error removing directory: /tree", "Error removing directory: /tree/sub",
-                     "Error removing directory: /tree/sub/inside",
-                     "Error removing directory: /tree/sub/to_directory"}));
-    EXPECT_EQ([directory last_error], ENOTDIR);
+    const std::string error = "Error removing directory: /tree";
+    expect_removal(directory, ENOTDIR,
+                   {error, error + "/sub", error + "/sub/inside", error + "/sub/to_directory"});
     EXPECT_TRUE(fs::is_empty(folder / "outside"));
     EXPECT_FALSE(fs::exists(fs::symlink_status(tree + "/to_itself")));
 }
@@ -133,7 +121,6 @@ TEST_F(Directories, may_be_deep_or_full_or_have_any_names)
     EXPECT_EQ([directory remove], 1u);
     setrlimit(RLIMIT_NOFILE, &before);
     EXPECT_FALSE(fs::exists(tree));
-    EXPECT_TRUE(outside_is_whole());
 }
 
 TEST_F(Directories, exchanged_for_links_do_not_lead_out_of_the_tree)
@@ -159,7 +146,7 @@ TEST_F(Directories, exchanged_for_links_do_not_lead_out_of_the_tree)
     }
     is_over = true;
     remover.join();
-    EXPECT_TRUE(outside_is_whole());
+    EXPECT_TRUE(fs::exists(folder / "outside/kept"));
 }
 
 TEST_F(Directories, are_accessible_if_all_in_them_is)
@@ -169,10 +156,9 @@ TEST_F(Directories, are_accessible_if_all_in_them_is)
     const auto test = [=](uint8_t execute, uint8_t write, uint8_t read) {
         return [directory has_access:execute write:write read:read];
     };
-    EXPECT_EQ(
-        lines_of([&] { EXPECT_EQ(test(1, 1, 1), 1); }),
-        Lines({"Tested accessibility of directory: /tree", "Tested accessibility of directory: /tree/sub",
-               "Tested accessibility of directory: /tree/sub/deep"}));
+    const std::string tested = "Tested accessibility of directory: /tree";
+    EXPECT_EQ(lines_of([&] { EXPECT_EQ(test(1, 1, 1), 1); }),
+              (std::vector{tested, tested + "/sub", tested + "/sub/deep"}));
     [directory set_log_actions:0];
     const std::string below = tree + "/sub/deep/file";
     fs::permissions(below, fs::perms(0400));
@@ -207,8 +193,8 @@ TEST_F(Directories, that_may_not_be_read_are_told)
         GTEST_SKIP() << "root may read them";
     fs::permissions(tree + "/sub", fs::perms(0));
     ZEB_Directory *const directory = directory_at(tree);
-    EXPECT_EQ(lines_of([=] { EXPECT_EQ([directory remove], 0u); }),
-              Lines({"Error removing directory: /tree", "Error removing directory: /tree/sub"}));
+    expect_removal(directory, EACCES,
+                   {"Error removing directory: /tree", "Error removing directory: /tree/sub"});
     EXPECT_FALSE(fs::exists(tree + "/file"));
     fs::permissions(tree + "/sub", fs::perms(0700));
     EXPECT_TRUE(fs::exists(tree + "/sub/deep/file"));
@@ -220,14 +206,11 @@ TEST(Standard_Paths, are_made_once)
     ZEB_Defaults *const suite = [ZEB_Defaults shared_suite];
     ZEB_String *const key = text("ZEB_path_for_resources");
     [suite remove_object_for_key:key];
-    const pid_t child = fork();
-    if (child == 0) {
-        [suite set_string_for_key:text("/else/where") key:key];
-        _exit(resources() == "/else/where" ? 0 : 1);
-    }
-    int status = -1;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(end_of_child(start_child([=] {
+                  [suite set_string_for_key:text("/else/where") key:key];
+                  EXPECT_EQ(resources(), "/else/where");
+              })),
+              0);
     EXPECT_EQ(resources(), "/Library/Korvane");
     [suite set_string_for_key:text("/later") key:key];
     EXPECT_EQ(resources(), "/Library/Korvane");

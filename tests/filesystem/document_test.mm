@@ -1,11 +1,5 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
 #include "tests/support/exchange.hpp"
-#include "tests/support/scratch_folder.hpp"
-#include "tests/support/strings.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/support/files.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -15,17 +9,14 @@ using namespace support;
 namespace
 {
 
-class Documents : public testing::Test
+class Documents : public File_Test
 {
 protected:
     Documents()
     {
         for (const char32_t *const one : {U"first", U"", U"\U0001F600 and more"})
             [table append_wide_string:wide_text(one)];
-        [file set_path:text(path)];
     }
-
-    ~Documents() override { [file release]; }
 
     /// Loads into a table that holds something else. A refusal leaves it and gives one line.
     uint32_t load(uint32_t (*load_table)(ZEB_Wide_String_Array *, ZEB_File *))
@@ -44,10 +35,8 @@ protected:
         return answer;
     }
 
-    Scratch_Folder folder;
-    const std::string path = folder / "document";
     ZEB_Wide_String_Array *const table = [ZEB_Wide_String_Array array_with_capacity:0];
-    ZEB_File *const file = [[ZEB_File alloc] init];
+    ZEB_File *const file = entry(path);
     bool is_the_same = false;
     int32_t last_index = -1;
 };

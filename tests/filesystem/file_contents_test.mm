@@ -1,111 +1,73 @@
-#include "tests/support/captured.hpp"
 #include "tests/support/files.hpp"
 
 #include <cerrno>
-#include <tuple>
-#include <unistd.h>
 
 using namespace support;
+using namespace std::string_literals;
 
 namespace
 {
 
-/// What reading leaves: the line that tells of a failure, its cause, and the contents.
-using Reading = std::tuple<std::string, int, std::string>;
+using File_Contents = File_Test;
 
-Reading reading_of(ZEB_File *file)
+void expect_read(ZEB_File *file, int error, const std::string &message, const std::string &contents = "")
 {
     ZEB_Byte_Array *const target = bytes("what was there goes");
-    const std::string line = standard_error_of([&] { [file read_contents:target]; });
-    return {line, [file last_error], text_of(target)};
+    expect_told(file, 1, error, message, [=] { return [file read_contents:target], 1u; });
+    EXPECT_EQ(text_of(target), contents);
 }
 
-/// What writing answers, the line that tells of a failure, and its cause.
-using Writing = std::tuple<uint32_t, std::string, int>;
-
-Writing writing_of(const std::string &path)
+std::string shorter(int count, int size)
 {
-    ZEB_File *const file = entry(path);
-    uint32_t answer = 2;
-    const std::string line = standard_error_of([&] { answer = [file write_contents:"x" length:1]; });
-    return {answer, line, [file last_error]};
+    return "Warning: Discrepancy in actual length read " + std::to_string(count) + " v.s. content size " +
+           std::to_string(size) + " while reading contents of file: ";
 }
-
-using File_Contents = File_Test;
 
 } // namespace
 
 TEST_F(File_Contents, are_written_and_read_as_they_are_or_compressed)
 {
     const std::string contents = std::string(50000, 'a') + '\0' + "end";
-    for (const int compressed : {0, 1}) {
-        ZEB_File *const file = entry(path);
-        [file set_contents_compressed:compressed];
-        ASSERT_EQ([file write_contents:contents.data() length:static_cast<uint32_t>(contents.size())], 1u);
-        EXPECT_EQ(file_text(path).size() < 1000, compressed == 1);
-        [file refresh_status];
-        EXPECT_EQ(reading_of(file), Reading("", 0, contents));
-        ZEB_Byte_Array *const loaded = bytes("");
-        [file load_contents:loaded];
-        EXPECT_EQ(text_of(loaded), contents);
-    }
+    const auto size = static_cast<uint32_t>(contents.size());
+    for (const bool replaces : {false, true})
+        for (const int compressed : {0, 1}) {
+            ZEB_File *const file = entry(path);
+            [file set_contents_compressed:compressed];
+            EXPECT_EQ(replaces ? [file replace_contents:contents.data() length:size]
+                               : [file write_contents:contents.data() length:size],
+                      1u);
+            EXPECT_EQ(file_text(path).size() < 1000, compressed == 1);
+            [file refresh_status];
+            expect_read(file, 0, "", contents);
+            ZEB_Byte_Array *const loaded = bytes("");
+            [file load_contents:loaded];
+            EXPECT_EQ(text_of(loaded), contents);
+        }
 }
 
-TEST_F(File_Contents, failures_to_read_are_told_and_leave_nothing)
+TEST_F(File_Contents, are_read_as_far_as_they_are_there)
 {
-    EXPECT_EQ(reading_of(entry(path)), Reading("Error opening file: " + path + "\n", ENOENT, ""));
-    EXPECT_EQ(reading_of(entry(folder.path)),
-              Reading("Error reading contents of file: " + folder.path + "\n", EISDIR, ""));
-    put_file(path, "");
-    EXPECT_EQ(reading_of(entry(path)),
-              Reading("Error, zero content size for file: " + path + "\n", ENODATA, ""));
-    put_file(path, "not a zlib stream");
-    ZEB_File *const plain = entry(path);
+    expect_read(entry(path), ENOENT, "Error opening file: ");
+    expect_read(entry(folder.path), EISDIR, "Error reading contents of file: ");
+    expect_read(changed_entry("", ""), ENODATA, "Error, zero content size for file: ");
+    expect_read(changed_entry("contents", "contents that grew"), 0, "", "contents");
+    expect_read(changed_entry("twelve bytes", "six by"), ENODATA, shorter(6, 12), "six by\0\0\0\0\0\0"s);
+    ZEB_File *const plain = changed_entry("not a zlib stream", "not a zlib stream");
     [plain set_contents_compressed:1];
-    EXPECT_EQ(reading_of(plain),
-              Reading("Error: Decompress failed while reading contents of file: " + path + "\n", EILSEQ, ""));
-    [plain set_report_errors:0];
-    EXPECT_EQ(reading_of(plain), Reading("", EILSEQ, ""));
-    ASSERT_EQ(truncate(path.c_str(), off_t{5} << 30), 0);
-    EXPECT_EQ(std::get<int>(reading_of(entry(path))), ENOMEM);
-}
-
-TEST_F(File_Contents, a_file_that_shrank_is_told_and_reads_as_zero_behind_its_end)
-{
-    put_file(path, "twelve bytes");
-    ZEB_File *const file = entry(path);
-    put_file(path, "six by");
-    EXPECT_EQ(reading_of(file), Reading("Warning: Discrepancy in actual length read 6 v.s. content size 12 "
-                                        "while reading contents of file: " +
-                                            path + "\n",
-                                        ENODATA, std::string("six by\0\0\0\0\0\0", 12)));
-}
-
-TEST_F(File_Contents, failures_to_write_are_told)
-{
-    const auto expect = [](const std::string &to, const char *message, int error) {
-        EXPECT_EQ(writing_of(to), Writing(0, message + to + "\n", error));
-    };
-    expect(folder / "missing/data", "Error opening file: ", ENOENT);
-    expect(folder.path, "Error opening file: ", EISDIR);
-    if (access("/dev/full", W_OK) == 0)
-        expect("/dev/full", "Error writing contents to file: ", ENOSPC);
-    EXPECT_EQ(writing_of("/dev/null"), Writing(1, "", 0));
-    // A path with a null inside is no path of the platform's.
-    expect(path + std::string("\0x", 2), "Error opening file: ", EINVAL);
-    EXPECT_EQ(access(path.c_str(), F_OK), -1);
-}
-
-TEST_F(File_Contents, a_fifo_without_a_partner_is_a_failure)
-{
-    put_file(path, "old");
-    ZEB_File *const file = entry(path);
-    unlink(path.c_str());
-    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    expect_read(plain, EILSEQ, "Error: Decompress failed while reading contents of file: ");
+    ZEB_File *const lost = changed_entry("old", "");
+    std::filesystem::remove(path);
+    mkfifo(path.c_str(), 0600);
     alarm(20);
-    EXPECT_EQ(writing_of(path), Writing(0, "Error opening file: " + path + "\n", ENXIO));
-    EXPECT_EQ(std::get<int>(reading_of(file)), ENODATA);
+    expect_read(lost, ENODATA, shorter(0, 3), "\0\0\0"s);
     alarm(0);
+    std::filesystem::remove(path);
+    put_file(path, "");
+    std::filesystem::resize_file(path, uint64_t{5} << 30);
+    ZEB_File *const huge = entry(path);
+    const Redirection unread(stderr);
+    [huge read_contents:bytes("")];
+    EXPECT_EQ([huge last_error], ENOMEM);
 }
 
 TEST_F(File_Contents, backstore_sets_aside_and_restore_brings_back)
@@ -117,21 +79,10 @@ TEST_F(File_Contents, backstore_sets_aside_and_restore_brings_back)
     [own set_log_actions:1];
     EXPECT_EQ(standard_output_of([&] { EXPECT_EQ([file backstore], 1u); }),
               "Backstored file: " + path + "\n");
-    EXPECT_EQ(text_of([file path]), path + std::string("~\0", 2));
+    EXPECT_EQ(text_of([file path]), path + "~\0"s);
     EXPECT_EQ(file_text(path + "~"), "first");
     [file refresh_status];
     EXPECT_EQ([file size], 5u);
     EXPECT_EQ(standard_output_of([&] { EXPECT_EQ([own restore], 1u); }), "Restored file: " + path + "\n");
     EXPECT_EQ(file_text(path), "first");
-    EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([own restore], 0u); }),
-              "Error restoring file: " + path + "\n");
-}
-
-TEST_F(File_Contents, paths_may_be_longer_than_a_thousand_bytes)
-{
-    const std::string deep = long_path(1500);
-    ZEB_File *const file = entry(deep);
-    EXPECT_EQ([file write_contents:"x" length:1], 1u);
-    EXPECT_EQ([file backstore], 1u);
-    EXPECT_EQ(file_text(deep + "~"), "x");
 }

@@ -18,12 +18,8 @@ protected:
 TEST_F(File_Status, is_what_the_platform_says)
 {
     symlink(path.c_str(), (folder / "link").c_str());
-    struct stat found;
-    ASSERT_EQ(stat(path.c_str(), &found), 0);
+    const struct stat found = status_of(path);
     for (ZEB_File *const file : {entry(path), entry(folder / "link")}) {
-        EXPECT_EQ([file exists], 1);
-        EXPECT_EQ([file kind], ZEB_File_Kind { ZEB_FILE_KIND_REGULAR });
-        EXPECT_EQ([file size], 5u);
         const uint8_t bits[] = {[file owner_read], [file owner_write], [file owner_execute],
                                 [file group_read], [file group_write], [file group_execute],
                                 [file other_read], [file other_write], [file other_execute]};
@@ -41,34 +37,27 @@ TEST_F(File_Status, is_what_the_platform_says)
     EXPECT_EQ([entry("/dev/null") kind], ZEB_File_Kind { ZEB_FILE_KIND_OTHER });
 }
 
-TEST_F(File_Status, of_nothing_clears_existence_and_size_alone)
-{
-    ZEB_File *const file = entry(path);
-    unlink(path.c_str());
-    EXPECT_EQ([file refresh_status], 1u);
-    EXPECT_EQ([file exists], 0);
-    EXPECT_EQ([file size], 0u);
-    EXPECT_EQ([file kind], ZEB_File_Kind { ZEB_FILE_KIND_REGULAR });
-}
-
-TEST_F(File_Status, that_cannot_be_read_keeps_the_reason)
+TEST_F(File_Status, that_cannot_be_read_clears_existence_and_size_and_keeps_the_reason)
 {
     symlink("loop", (folder / "loop").c_str());
-    const std::pair<std::string, int> rows[] = {{path, 0},
-                                                {folder / "missing", 0},
+    const std::pair<std::string, int> rows[] = {{folder / "missing", 0},
                                                 {folder / "missing/below", 0},
                                                 {folder / "file/it", 0},
                                                 {folder / "loop", ELOOP},
                                                 {folder / std::string(300, 'n'), ENAMETOOLONG},
                                                 {std::string("a\0b", 3), EINVAL},
                                                 {"", 0}};
+    ZEB_File *const file = entry(path);
     for (const auto &[name, error] : rows) {
-        ZEB_File *const file = entry(name);
-        EXPECT_EQ([file last_error], error) << name;
+        for (const std::string &place : {path, name}) {
+            [file set_path:text(place)];
+            EXPECT_EQ([file refresh_status], 1u);
+            EXPECT_EQ([file last_error], place == path ? 0 : error) << name;
+            EXPECT_EQ([file exists], place == path);
+            EXPECT_EQ([file size], place == path ? 5u : 0u);
+            EXPECT_EQ([file kind], ZEB_File_Kind { ZEB_FILE_KIND_REGULAR });
+        }
         EXPECT_EQ([[[file copy] autorelease] last_error], error) << name;
-        [file set_path:text(folder.path)];
-        [file refresh_status];
-        EXPECT_EQ([file last_error], 0);
     }
 }
 

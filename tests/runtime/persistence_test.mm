@@ -1,15 +1,10 @@
 #include "tests/runtime/defaults.hpp"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
+#include <cstdio>
 #include <filesystem>
-#include <spawn.h>
-#include <sys/wait.h>
+#include <vector>
 
 using namespace support;
-
-extern char **environ;
 
 namespace
 {
@@ -23,53 +18,28 @@ ZEB_Defaults *const *all()
     return shared;
 }
 
-/// Starts this program again, for one of the tests below that are for it alone.
-pid_t start(const std::string &test, const std::string &letter = "")
+/// Starts this program again, for one of the tests below that are for it alone. `pclose` answers 0 if it
+/// succeeds.
+FILE *start(const std::string &test, const std::string &letter = "")
 {
-    const std::string filter = "--gtest_filter=Other_Process.DISABLED_" + test;
     setenv("ZEB_LETTER", letter.c_str(), 1);
     // The application's defaults go by the name of the program.
     const std::string program = std::filesystem::read_symlink("/proc/self/exe");
-    const char *const arguments[] = {program.c_str(), filter.c_str(), "--gtest_also_run_disabled_tests",
-                                     "--gtest_brief=1", nullptr};
-    pid_t process = -1;
-    const int error =
-        posix_spawn(&process, arguments[0], nullptr, nullptr, const_cast<char **>(arguments), environ);
-    return error == 0 ? process : -1;
-}
-
-bool succeeded(pid_t process)
-{
-    int status = -1;
-    return process > 0 && waitpid(process, &status, 0) == process && WIFEXITED(status) &&
-           WEXITSTATUS(status) == 0;
+    const std::string options = "' --gtest_also_run_disabled_tests --gtest_brief=1 --gtest_filter=";
+    return popen(("'" + program + options + "Other_Process.DISABLED_" + test).c_str(), "w");
 }
 
 ZEB_String *key_of(const std::string &letter, int number) { return text(letter + std::to_string(number)); }
 
-class Persistence : public testing::Test
-{
-    void SetUp() override
-    {
-        if (!defaults_are_scratch())
-            GTEST_SKIP() << "these defaults are the user's";
-    }
-};
+using Persistence = Defaults_Test;
 
 } // namespace
 
 TEST(Other_Process, DISABLED_reads_values)
 {
-    for (NSUserDefaults *const defaults :
-         {static_cast<id>([ZEB_Suite_Defaults shared]), static_cast<id>([ZEB_Standard_Defaults shared])}) {
-        EXPECT_EQ([defaults bool_for_key:text("kept bool")], 1);
-        EXPECT_EQ([defaults integer_for_key:text("kept integer")], -70000);
-        EXPECT_EQ([defaults double_for_key:text("kept double")], -2.25e10);
-        EXPECT_EQ(text_of([defaults string_for_key:text("kept text")]), " z\u00fc\u20ac\r\n\t<&>\"\\ ");
-        EXPECT_EQ(text_of([defaults byte_array_for_key:text("kept bytes")]), std::string("\0\xff", 2));
-        EXPECT_EQ([[defaults byte_array_for_key:text("kept no bytes")] count], 0u);
-        EXPECT_NE([defaults byte_array_for_key:text("kept no bytes")], nil);
-        EXPECT_TRUE([[[defaults object_for_key:text("kept object")] objectForKey:@"a"] isEqual:@"1"]);
+    for (const Kept_Value &row : kept_values) {
+        EXPECT_EQ(values_of(all()[0], text(row.name)), row.in_suite) << row.name;
+        EXPECT_EQ(values_of(all()[1], text(row.name)), row.elsewhere) << row.name;
     }
 }
 
@@ -84,30 +54,23 @@ TEST(Other_Process, DISABLED_writes_its_keys)
 
 TEST_F(Persistence, a_new_process_reads_values_of_every_kind)
 {
-    for (ZEB_Defaults *const defaults : {all()[0], all()[1]}) {
-        [defaults set_bool_for_key:1 key:text("kept bool")];
-        [defaults set_integer_for_key:-70000 key:text("kept integer")];
-        [defaults set_double_for_key:-2.25e10 key:text("kept double")];
-        [defaults set_string_for_key:text(" z\u00fc\u20ac\r\n\t<&>\"\\ ") key:text("kept text")];
-        [defaults set_byte_array_for_key:bytes(std::string("\0\xff", 2)) key:text("kept bytes")];
-        [defaults set_byte_array_for_key:bytes("") key:text("kept no bytes")];
-        [defaults set_object_for_key:[NSDictionary dictionaryWithObject:@"1" forKey:@"a"]
-                                 key:text("kept object")];
-    }
+    for (const Kept_Value &row : kept_values)
+        for (ZEB_Defaults *const defaults : {all()[0], all()[1]})
+            row.store(defaults, text(row.name));
     EXPECT_EQ([all()[1] synchronize], YES); // the suite is saved by each write
-    EXPECT_TRUE(succeeded(start("reads_values")));
+    EXPECT_EQ(pclose(start("reads_values")), 0);
     EXPECT_TRUE(std::filesystem::exists(std::string(std::getenv("HOME")) + "/Defaults/Korvane.plist"));
 }
 
 TEST_F(Persistence, processes_that_write_the_suite_at_once_lose_nothing)
 {
-    pid_t writers[std::size(letters)];
-    for (size_t i = 0; i < std::size(letters); ++i)
-        writers[i] = start("writes_its_keys", letters[i]);
+    std::vector<FILE *> writers;
+    for (const std::string &letter : letters)
+        writers.push_back(start("writes_its_keys", letter));
     for (int i = 0; i < keys_of_each; ++i)
         [all()[0] set_integer_for_key:i key:key_of("own", i)];
-    for (const pid_t writer : writers)
-        EXPECT_TRUE(succeeded(writer));
+    for (FILE *const writer : writers)
+        EXPECT_EQ(pclose(writer), 0);
     [all()[0] synchronize];
     for (int i = 0; i < keys_of_each; ++i) {
         EXPECT_EQ([all()[0] integer_for_key:key_of("own", i)], i);

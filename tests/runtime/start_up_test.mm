@@ -27,16 +27,6 @@ TEST(Start_Up, names_the_domain_of_the_defaults)
     EXPECT_EQ(ZC_defaults_domain(), domain);
 }
 
-TEST(Start_Up, debug_logging_is_off_until_the_defaults_say_so)
-{
-    NSUserDefaults *const defaults = [NSUserDefaults standardUserDefaults];
-    EXPECT_EQ([defaults debug_logging_enabled], 0);
-    [defaults setBool:YES forKey:@"does_debug_logging"];
-    EXPECT_EQ([defaults debug_logging_enabled], 1);
-    [defaults removeObjectForKey:@"does_debug_logging"];
-    EXPECT_EQ([defaults debug_logging_enabled], 0);
-}
-
 TEST(Start_Up, sets_the_flags_of_the_unit_catalog_once)
 {
     uint8_t *const flags = ZC_unit_catalog_flags();
@@ -47,10 +37,8 @@ TEST(Start_Up, sets_the_flags_of_the_unit_catalog_once)
     EXPECT_EQ(flags[3], 0);
 }
 
-TEST(Start_Up, of_the_framework_runs_every_routine)
+TEST(Start_Up, of_debug_logging_comes_with_its_first_use)
 {
-    ZC_start_up_framework();
+    EXPECT_EQ([[NSUserDefaults standardUserDefaults] debug_logging_enabled], 0);
     EXPECT_TRUE([ZC_debug_logging_key() isEqualToString:@"does_debug_logging"]);
-    EXPECT_NE(ZC_defaults_domain(), nil);
-    ZC_start_up_framework();
 }

@@ -128,35 +128,26 @@ static int refusal(void)
 
 #define PLATFORM(name) ((__typeof__(&name))dlsym(RTLD_NEXT, #name))
 
-int openat(int folder_file, const char *path, int flags, ...)
-{
-    va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = flags & O_CREAT ? va_arg(arguments, mode_t) : 0;
-    va_end(arguments);
-    if (!is_below(folder_file, path))
-        return PLATFORM(openat)(folder_file, path, flags, mode);
-    if (is_due(OPENAT))
-        return refusal();
-    const int file = PLATFORM(openat)(folder_file, path, flags, mode);
-    watch(file);
-    return file;
-}
+/* A call that opens a file, with a mode if it may create it. */
+#define OPENS(name, parameters, is_ours, call, ...)                                                          \
+    int name parameters                                                                                      \
+    {                                                                                                        \
+        va_list rest;                                                                                        \
+        va_start(rest, flags);                                                                               \
+        const mode_t mode = flags & O_CREAT ? va_arg(rest, mode_t) : 0;                                      \
+        va_end(rest);                                                                                        \
+        if (!(is_ours))                                                                                      \
+            return PLATFORM(name)(__VA_ARGS__, mode);                                                        \
+        if (is_due(call))                                                                                    \
+            return refusal();                                                                                \
+        const int file = PLATFORM(name)(__VA_ARGS__, mode);                                                  \
+        watch(file);                                                                                         \
+        return file;                                                                                         \
+    }
 
-int open(const char *path, int flags, ...)
-{
-    va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = flags & O_CREAT ? va_arg(arguments, mode_t) : 0;
-    va_end(arguments);
-    if (!is_inside(path))
-        return PLATFORM(open)(path, flags, mode);
-    if (is_due(OPEN))
-        return refusal();
-    const int file = PLATFORM(open)(path, flags, mode);
-    watch(file);
-    return file;
-}
+OPENS(open, (const char *path, int flags, ...), is_inside(path), OPEN, path, flags)
+OPENS(openat, (int folder_file, const char *path, int flags, ...), is_below(folder_file, path), OPENAT,
+      folder_file, path, flags)
 
 ssize_t read(int file, void *bytes, size_t size)
 {
@@ -194,14 +185,6 @@ ssize_t copy_file_range(int from, off64_t *from_offset, int to, off64_t *to_offs
     return moved;
 }
 
-char *realpath(const char *restrict path, char *restrict resolved)
-{
-    if (!is_inside(path) || !is_due(REALPATH))
-        return PLATFORM(realpath)(path, resolved);
-    errno = outcome;
-    return NULL;
-}
-
 int close(int file)
 {
     if (!is_watched_file(file))
@@ -235,21 +218,19 @@ MAY_FAIL(mkdir, (const char *path, mode_t mode), (path, mode), is_inside(path), 
 MAY_FAIL(symlink, (const char *target, const char *path), (target, path), is_inside(path), SYMLINK)
 MAY_FAIL(lchown, (const char *path, uid_t user, gid_t group), (path, user, group), is_inside(path), LCHOWN)
 
-ssize_t readlink(const char *restrict path, char *restrict target, size_t size)
-{
-    return is_inside(path) && is_due(READLINK) ? refusal() : PLATFORM(readlink)(path, target, size);
-}
+/* One that answers something else than 0. */
+#define MAY_GIVE(type, failure, name, parameters, arguments, is_ours, call)                                  \
+    type name parameters                                                                                     \
+    {                                                                                                        \
+        return (is_ours) && is_due(call) && refusal() != 0 ? (failure) : PLATFORM(name) arguments;           \
+    }
 
-DIR *fdopendir(int file)
-{
-    return is_watched_file(file) && is_due(FDOPENDIR) && refusal() != 0 ? NULL : PLATFORM(fdopendir)(file);
-}
-
-struct dirent *readdir(DIR *stream)
-{
-    return is_watched_file(dirfd(stream)) && is_due(READDIR) && refusal() != 0 ? NULL
-                                                                               : PLATFORM(readdir)(stream);
-}
+MAY_GIVE(ssize_t, -1, readlink, (const char *restrict path, char *restrict target, size_t size),
+         (path, target, size), is_inside(path), READLINK)
+MAY_GIVE(char *, NULL, realpath, (const char *restrict path, char *restrict resolved), (path, resolved),
+         is_inside(path), REALPATH)
+MAY_GIVE(DIR *, NULL, fdopendir, (int file), (file), is_watched_file(file), FDOPENDIR)
+MAY_GIVE(struct dirent *, NULL, readdir, (DIR * stream), (stream), is_watched_file(dirfd(stream)), READDIR)
 
 int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*work)(void *), void *argument)
 {

@@ -25,6 +25,24 @@ unsigned zeb_calls_made(const char *call);
 
 #ifdef __cplusplus
 }
+
+#include <string>
+
+namespace support
+{
+
+/// Runs a piece of work with a failure planned in it, and returns how many such calls were made.
+template <class Work>
+unsigned run_failing(const std::string &folder, const char *call, unsigned number, int outcome, Work work)
+{
+    zeb_plan_failure(folder.c_str(), call, number, outcome);
+    work();
+    const unsigned calls = zeb_calls_made(call);
+    zeb_plan_failure("", "file", 0, 0);
+    return calls;
+}
+
+} // namespace support
 #endif
 
 #endif

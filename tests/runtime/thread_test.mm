@@ -35,7 +35,8 @@ double seconds_of(Work work)
 
 constexpr int turns = 2000;
 std::atomic<int> ended;
-std::atomic<id> given, thread;
+std::atomic<id> given;
+std::atomic<NSThread *> thread;
 
 } // namespace
 

@@ -35,7 +35,7 @@ double seconds_of(Work work)
 
 constexpr int turns = 2000;
 std::atomic<int> ended;
-std::atomic<id> given;
+std::atomic<void *> given;
 std::atomic<NSThread *> thread;
 
 } // namespace

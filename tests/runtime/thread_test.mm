@@ -35,8 +35,7 @@ double seconds_of(Work work)
 
 constexpr int turns = 2000;
 std::atomic<int> ended;
-std::atomic<void *> given;
-std::atomic<NSThread *> thread;
+std::atomic<void *> given, thread; // clang has no atomic objects
 
 } // namespace
 

@@ -28,7 +28,7 @@ struct Row {
     std::string other = {};               /* for what has two paths */
 };
 
-#define WORK(call) [](ZEB_File *file, ZEB_String *other) { return call; }
+#define WORK(call) [](ZEB_File *file, [[maybe_unused]] ZEB_String *other) { return call; }
 
 const Work create_file = WORK([file create_file]), create_directory = WORK([file create_directory]),
            create_parents = WORK([file create_parent_directories]), remove_entry = WORK([file remove]),

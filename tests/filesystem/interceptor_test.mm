@@ -67,7 +67,10 @@ struct Row {
     std::string new_name = {}; /* that the path follows */
 };
 
-#define WORK(call) [](ZEB_File *file, ZEB_String *other, ZEB_Byte_Array *target) { return call; }
+#define WORK(call)                                                                                           \
+    [](ZEB_File *file, [[maybe_unused]] ZEB_String *other, [[maybe_unused]] ZEB_Byte_Array *target) {        \
+        return call;                                                                                         \
+    }
 
 const Row rows[] = {
     {ZEB_FILE_REFRESH_STATUS, "file", WORK([file refresh_status]), false},

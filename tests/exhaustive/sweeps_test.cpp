@@ -31,12 +31,11 @@ std::uint64_t mixed(std::uint64_t value)
 
 std::string date_of_day(std::uint64_t index)
 {
-    const std::int32_t day = static_cast<std::int32_t>(static_cast<std::uint32_t>(index));
+    const auto day = static_cast<std::int32_t>(static_cast<std::uint32_t>(index));
     const auto [year, month, date_day] = ZC_map_julian_day_to_gregorian_date(day);
     const ZEB_Gregorian_Date expected = reference::date_from_julian_day(day);
-    if (year == expected.year && month == expected.month && date_day == expected.day)
-        return "";
-    return "day " + std::to_string(day);
+    const bool agrees = year == expected.year && month == expected.month && date_day == expected.day;
+    return agrees ? "" : "day " + std::to_string(day);
 }
 
 // Every month of all years that have a faster way, and of some around them; or fields of every size.
@@ -65,10 +64,9 @@ std::string text_difference(const std::string &expected, Writer writer, Argument
     char text[40];
     std::memset(text, '#', sizeof text);
     const std::size_t length = expected.size();
-    if (writer(text, arguments...) == text + length && std::memcmp(text, expected.c_str(), length + 1) == 0 &&
-        text[length + 1] == '#')
-        return "";
-    return "expected \"" + expected + '"';
+    const bool agrees = writer(text, arguments...) == text + length &&
+                        std::memcmp(text, expected.c_str(), length + 1) == 0 && text[length + 1] == '#';
+    return agrees ? "" : "expected \"" + expected + '"';
 }
 
 std::string unsigned_text(std::uint64_t index)
@@ -89,31 +87,25 @@ double step_around(double value, std::uint64_t random)
     return std::bit_cast<double>(std::bit_cast<std::uint64_t>(value) + random % 7 - 3);
 }
 
+double ten_to(std::uint64_t n, double lowest = 0) { return std::pow(10.0, static_cast<double>(n) + lowest); }
+
 // Doubles dense where a writer could go wrong, one kind after the other.
 double double_at(std::uint64_t index)
 {
     const std::uint64_t random = mixed(index), more = mixed(random);
     const double unit = static_cast<double>(random >> 11) * 0x1p-53; // 0 to below 1
     const double whole = static_cast<double>(random >> (11 + more % 53));
-    switch (index % 8) {
-    case 0:
-        return std::bit_cast<double>(random);
-    case 1:
-        return std::pow(10.0, unit * 10.0 - 4.0);
-    case 2:
-        return step_around(std::pow(10.0, static_cast<double>(random % 633) - 324.0), more);
-    case 3:
-        return step_around(random & 8 ? 1.0 : 0.0001, more) * (random & 16 ? 1.0 : 1.0 + unit * 1e-9);
-    case 4: // half a unit of the last decimal
-        return step_around((std::floor(unit * 1e9) + 0.5) / std::pow(10.0, static_cast<double>(7 + more % 6)),
-                           more >> 8);
-    case 5: // half a unit of the 15th digit, exact
-        return (std::floor(1e14 + unit * 8e14) + 0.5) * std::pow(10.0, static_cast<double>(more % 3));
-    case 6:
-        return step_around(whole * std::pow(10.0, static_cast<double>(more % 40) - 20.0), more >> 8);
-    default:
-        return whole / static_cast<double>(std::uint64_t{1} << more % 60);
-    }
+    const double near_1 = random & 16 ? 1.0 : 1.0 + unit * 1e-9;
+    const double tie = std::floor(unit * 1e9) + 0.5, tie_of_15_digits = std::floor(1e14 + unit * 8e14) + 0.5;
+    const std::uint64_t kind = index % 8;
+    return kind == 0   ? std::bit_cast<double>(random)
+           : kind == 1 ? std::pow(10.0, unit * 10.0 - 4.0)
+           : kind == 2 ? step_around(ten_to(random % 633, -324.0), more)
+           : kind == 3 ? step_around(random & 8 ? 1.0 : 0.0001, more) * near_1
+           : kind == 4 ? step_around(tie / ten_to(7 + more % 6), more >> 8) // half a unit of the last decimal
+           : kind == 5 ? tie_of_15_digits * ten_to(more % 3)
+           : kind == 6 ? step_around(whole * ten_to(more % 40, -20.0), more >> 8)
+                       : whole / static_cast<double>(std::uint64_t{1} << more % 60);
 }
 
 std::string double_text(std::uint64_t index)
@@ -129,11 +121,7 @@ std::string general_text(std::uint64_t index)
     const double value = index % 2 == 0 ? static_cast<double>(std::bit_cast<float>(bits)) : double_at(index);
     char expected[64];
     std::snprintf(expected, sizeof expected, "%g", value);
-    const auto write = [](char *text, double x) {
-        char *const end = engine::put_general(text, x);
-        *end = '\0';
-        return end;
-    };
+    const auto write = [](char *text, double x) { return &(*engine::put_general(text, x) = '\0'); };
     return text_difference(expected, write, value);
 }
 

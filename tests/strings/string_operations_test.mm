@@ -39,15 +39,14 @@ TEST(String_Operations, strings_describe_themselves_as_their_text)
 
 TEST(String_Operations, search)
 {
-    ZEB_String *const abc = text("abc");
-    EXPECT_EQ([abc index_of_substring:"b" length:1], 1u);
-    EXPECT_EQ([abc index_of_substring:"bc" length:2], ZEB_NOT_FOUND);
-    EXPECT_EQ([abc index_of_substring:"abc" length:3], ZEB_NOT_FOUND);
-    EXPECT_EQ([wide_text(U"abc") index_of_char:'c'], 2u);
-    EXPECT_EQ([wide_text(U"abc") index_of_char:'d'], ZEB_NOT_FOUND);
     const uint32_t b[] = {'b', 'c'};
+    for (const auto &[length, place] : {std::pair(1u, 1u), std::pair(2u, ZEB_NOT_FOUND)}) {
+        EXPECT_EQ([text("abc") index_of_substring:"bc" length:length], place);
+        EXPECT_EQ([wide_text(U"abc") index_of_substring:b length:length], place);
+    }
+    EXPECT_EQ([text("abc") index_of_substring:"abc" length:3], ZEB_NOT_FOUND);
     EXPECT_EQ([wide_text(U"abcd") index_of_substring:b length:2], 1u);
-    EXPECT_EQ([wide_text(U"abc") index_of_substring:b length:2], ZEB_NOT_FOUND);
+    EXPECT_EQ([wide_text(U"abc") index_of_char:'c'], 2u);
 }
 
 TEST(String_Operations, extend_the_sign_of_8_bit_characters)
@@ -89,9 +88,8 @@ TEST(String_Operations, serve_as_keys_of_a_dictionary)
 {
     NSMutableDictionary *const table = [NSMutableDictionary dictionary];
     ZEB_String *const key = text("key");
-    ZEB_Wide_String *const wide_key = wide_text(U"\U0001F511");
     [table setObject:@"narrow" forKey:(id)key];
-    [table setObject:@"wide" forKey:(id)wide_key];
+    [table setObject:@"wide" forKey:(id)wide_text(U"\U0001F511")];
     [key append_c_string:"s" length:1]; // the table keeps a copy
     EXPECT_TRUE([[table objectForKey:text("key")] isEqual:@"narrow"]);
     EXPECT_TRUE([[table objectForKey:wide_text(U"\U0001F511")] isEqual:@"wide"]);

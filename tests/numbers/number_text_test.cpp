@@ -31,10 +31,7 @@ TEST(Number_Text, known_texts_at_the_edges_of_the_ranges)
     const std::pair<std::vector<std::string>, const char *> rows[] = {
         {{pretty(-0.1234567), pretty(0.12345678), pretty(0.0001)}, "-0.1234567 0.12345678 0.0001"},
         {{pretty(std::nextafter(0.0001, 0.0)), pretty(std::nextafter(1.0, 0.0))}, "1e-04 1"},
-        {{pretty(999999999999999.5), pretty(-0.0)}, "1e+15 0"},
-        {{pretty(1000000000000005.0), pretty(1000000000000015.0)},
-         "1e+15 1.00000000000002e+15"}, // a tie goes to the even digit
-        {{pretty(-infinity), pretty(not_a_number)}, "Inf NaN"},
+        {{pretty(-0.0), pretty(-infinity), pretty(not_a_number)}, "0 Inf NaN"},
         {{pretty(0x1p-1074), pretty(-0x1.fffffffffffffp1023)},
          "4.94065645841247e-324 -1.79769313486232e+308"},
         {{pretty(1.0F / 3.0F), pretty(0.0001F)}, "0.3333 1e-04"}, // just below the double 0.0001

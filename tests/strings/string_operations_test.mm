@@ -17,7 +17,6 @@ TEST(String_Operations, platform_sorts_order_by_the_platform_s_codes)
     NSArray *const shuffled = [[in_order reverseObjectEnumerator] allObjects];
     EXPECT_TRUE([[shuffled sortedArrayUsingSelector:@selector(platform_compare:)] isEqual:in_order]);
     EXPECT_EQ([wide_text(U"b") platform_compare:wide_text(U"a")], NSOrderedDescending);
-    EXPECT_EQ([text("a") platform_compare:text("a")], NSOrderedSame);
     EXPECT_EQ([text("a") platform_compare:(id) @"a"], NSOrderedDescending);
     EXPECT_EQ([text("") platform_compare:nil], NSOrderedSame);
 }
@@ -34,7 +33,6 @@ TEST(String_Operations, strings_describe_themselves_as_their_text)
     EXPECT_STREQ([[objects description] UTF8String],
                  "{caf\xC3\xA9, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
     EXPECT_STREQ([[text("caf\xE9") description] UTF8String], "caf\xC3\xA9");
-    EXPECT_STREQ([[wide_text(U"text") description] UTF8String], "text");
 }
 
 TEST(String_Operations, search)
@@ -102,7 +100,5 @@ TEST(String_Views, are_live_and_empty_without_a_string)
     const std::string_view view = zeb::view(string);
     [string char_data][1] = 'X';
     EXPECT_EQ(view, "aXc");
-    EXPECT_EQ(static_cast<const void *>(view.data()), [string char_data]);
-    EXPECT_TRUE(zeb::view(static_cast<ZEB_String *>(nil)).empty());
-    EXPECT_TRUE(zeb::view(static_cast<ZEB_Wide_String *>(nil)).empty());
+    EXPECT_TRUE(zeb::view((ZEB_String *)nil).empty() && zeb::view((ZEB_Wide_String *)nil).empty());
 }

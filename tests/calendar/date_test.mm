@@ -10,6 +10,7 @@
 #include <functional>
 #include <random>
 #include <thread>
+#include <vector>
 
 namespace
 {
@@ -42,74 +43,56 @@ id archived(id object, bool keyed)
 
 TEST(Date, moves_by_units)
 {
-    enum Step { adds, truncates, advances };
+    enum Step { adds, cuts, moves_on };
+    constexpr uint64_t half = 500000000, last = 86399;
+    // In 2021; the texts are what each of the units alone makes of the time.
     const struct {
-        ZEB_Gregorian_Date date;
-        uint64_t second, nanosecond;
         Step step;
-        ZEB_Time_Unit unit;
         uint32_t count;
-        const char *text;
+        int32_t month, day;
+        uint64_t second, nanosecond;
+        std::vector<ZEB_Time_Unit> units;
+        const char *texts;
     } rows[] = {
-        {{2021, 12, 31}, 86399, 999999999, adds, 1, 1, "1/1/2022"},
-        {{2021, 12, 31}, 86399, 999999999, adds, 2, 1, "1/1/2022 0.000000999"},
-        {{2021, 12, 31}, 0, 0, adds, 3, 4000, "12/31/2021 00:00:013"},
-        {{2021, 12, 31}, 86399, 0, adds, 4, 1, "1/1/2022"},
-        {{2021, 12, 31}, 86399, 0, adds, 5, 2, "1/1/2022 00:01:59"},
-        {{2021, 2, 31}, 0, 7, adds, 6, 24, "3/4/2021 0.000000007"},
-        {{2021, 12, 31}, 5, 0, adds, 11, 4294967295, "12/30/2021 00:00:05"},
-        {{2021, 12, 31}, 5, 0, adds, 12, 3, "1/21/2022 00:00:05"},
-        {{2021, 1, 31}, 0, 0, adds, 13, 1, "3/3/2021"},
-        {{2021, 6, 15}, 0, 0, adds, 13, 12, "6/17/2022"},
-        {{2021, 5, 15}, 0, 0, adds, 14, 2, "11/15/2021"},
-        {{2020, 2, 29}, 0, 0, adds, 15, 1, "3/1/2021"},
-        {{2021, 2, 31}, 9, 0, adds, 7, 1, "2/31/2021 00:00:09"},
-        {{2021, 2, 31}, 9, 0, adds, 10, 1, "3/3/2021 00:00:09"},
-        {{2021, 2, 31}, 9, 0, adds, 16, 1, "3/3/2021 00:00:09"},
-        {{2021, 2, 31}, 90000, 0, adds, 0, 1, "3/4/2021 01:00:00"},
-        {{2021, 8, 15}, 86399, 5, truncates, 3, 0, "8/15/2021 23:59:59.000000005"},
-        {{2021, 8, 15}, 86399, 5, truncates, 4, 0, "8/15/2021 23:59:59"},
-        {{2021, 8, 15}, 86399, 5, truncates, 5, 0, "8/15/2021 23:59:00"},
-        {{2021, 8, 15}, 86399, 5, truncates, 6, 0, "8/15/2021 23:00:00"},
-        {{2021, 8, 15}, 86399, 5, truncates, 11, 0, "8/15/2021"},
-        {{2021, 8, 15}, 86399, 5, truncates, 12, 0, "8/15/2021"},
-        {{2021, 8, 15}, 86399, 5, truncates, 13, 0, "8/1/2021"},
-        {{2021, 8, 15}, 86399, 5, truncates, 14, 0, "6/1/2021"},
-        {{2021, 2, 15}, 5, 0, truncates, 14, 0, "12/1/2020"},
-        {{2021, 8, 15}, 86399, 5, truncates, 15, 0, "1/1/2021"},
-        {{2021, 2, 31}, 9, 0, truncates, 6, 0, "2/31/2021"},
-        {{2021, 2, 31}, 9, 0, truncates, 10, 0, "3/3/2021 00:00:09"},
-        {{2021, 8, 15}, 86399, 5, advances, 3, 0, "8/15/2021 23:59:59.000000005"},
-        {{2021, 8, 15}, 86399, 5, advances, 4, 0, "8/15/2021 24:00:00"},
-        {{2021, 8, 15}, 86399, 0, advances, 4, 0, "8/15/2021 23:59:59"},
-        {{2021, 8, 15}, 86399, 5, advances, 5, 0, "8/16/2021"},
-        {{2021, 8, 15}, 60, 5, advances, 5, 0, "8/15/2021 00:01:00.000000005"},
-        {{2021, 8, 15}, 86400, 5, advances, 6, 0, "8/16/2021 0.000000005"},
-        {{2021, 8, 15}, 3601, 5, advances, 6, 0, "8/15/2021 02:00:00"},
-        {{2021, 8, 15}, 1, 0, advances, 11, 0, "8/16/2021"},
-        {{2021, 8, 15}, 0, 0, advances, 11, 0, "8/15/2021"},
-        {{2021, 8, 15}, 0, 1, advances, 11, 0, "8/16/2021"},
-        {{2021, 8, 15}, 3, 4, advances, 12, 0, "8/15/2021"},
-        {{2021, 8, 1}, 0, 0, advances, 13, 0, "8/1/2021"},
-        {{2021, 8, 1}, 0, 1, advances, 13, 0, "9/1/2021"},
-        {{2021, 8, 2}, 0, 0, advances, 13, 0, "9/1/2021"},
-        {{2021, 12, 31}, 86399, 0, advances, 13, 0, "1/1/2022"},
-        {{2020, 12, 1}, 0, 0, advances, 14, 0, "12/1/2020"},
-        {{2021, 8, 1}, 0, 0, advances, 14, 0, "9/1/2021"},
-        {{2021, 12, 31}, 86399, 0, advances, 14, 0, "3/3/2022"},
-        {{2021, 1, 1}, 0, 0, advances, 15, 0, "1/1/2021"},
-        {{2021, 2, 1}, 0, 0, advances, 15, 0, "1/1/2022"},
-        {{2021, 2, 31}, 0, 0, advances, 1, 0, "3/3/2021"},
+        {adds, 1, 12, 31, last, 999999999, {1, 2}, "1/1/2022, 1/1/2022 0.000000999, "},
+        {adds, 4000, 12, 31, 0, 0, {3}, "12/31/2021 00:00:013, "},
+        {adds, 2, 12, 31, last, 0, {4, 5}, "1/1/2022 00:00:01, 1/1/2022 00:01:59, "},
+        {adds, 24, 2, 31, 0, half, {6}, "3/4/2021 0.5, "},
+        {adds, 4294967295, 12, 31, 5, 0, {11}, "12/30/2021 00:00:05, "},
+        {adds, 12, 6, 15, 0, 0, {13}, "6/17/2022, "},
+        {adds, 2, 5, 15, 0, 0, {12, 14}, "5/29/2021, 11/15/2021, "},
+        {adds, 1, 2, 29, 0, 0, {15}, "3/1/2022, "},
+        {adds, 1, 2, 31, 9, 0, {7, 10, 16}, "2/31/2021 00:00:09, 3/3/2021 00:00:09, 3/3/2021 00:00:09, "},
+        {adds, 1, 2, 31, 90000, 0, {0}, "3/4/2021 01:00:00, "},
+        {cuts, 0, 8, 15, last, half, {3, 4, 12}, "8/15/2021 23:59:59.5, 8/15/2021 23:59:59, 8/15/2021, "},
+        {cuts, 0, 8, 15, last, half, {5, 6}, "8/15/2021 23:59:00, 8/15/2021 23:00:00, "},
+        {cuts, 0, 8, 15, last, half, {11, 13, 14, 15}, "8/15/2021, 8/1/2021, 6/1/2021, 1/1/2021, "},
+        {cuts, 0, 2, 31, 9, 0, {6, 10, 14}, "2/31/2021, 3/3/2021 00:00:09, 12/1/2020, "},
+        {moves_on, 0, 8, 15, last, half, {3, 4}, "8/15/2021 23:59:59.5, 8/15/2021 24:00:00, "},
+        {moves_on, 0, 8, 15, last, half, {5, 6, 11, 12}, "8/16/2021, 8/16/2021, 8/16/2021, 8/15/2021, "},
+        {moves_on, 0, 8, 15, 60, half, {5, 6}, "8/15/2021 00:01:00.5, 8/15/2021 01:00:00, "},
+        {moves_on, 0, 8, 15, 86400, half, {6}, "8/16/2021 0.5, "},
+        {moves_on, 0, 8, 1, 0, 0, {11, 13, 14, 15}, "8/1/2021, 8/1/2021, 9/1/2021, 1/1/2022, "},
+        {moves_on, 0, 8, 1, 0, half, {11, 13}, "8/2/2021, 9/1/2021, "},
+        {moves_on, 0, 8, 2, 0, 0, {13}, "9/1/2021, "},
+        {moves_on, 0, 12, 1, 0, 0, {14, 15}, "12/1/2021, 1/1/2022, "},
+        {moves_on, 0, 12, 31, last, 0, {4, 11, 14}, "12/31/2021 23:59:59, 1/1/2022, 3/3/2022, "},
+        {moves_on, 0, 1, 1, 0, 0, {15}, "1/1/2021, "},
+        {moves_on, 0, 2, 31, 0, 0, {1}, "3/3/2021, "},
     };
     for (const auto &row : rows) {
-        ZEB_Date *const date = date_of(row.date, row.second, row.nanosecond);
-        if (row.step == truncates)
-            [date truncate_to_unit:row.unit];
-        else if (row.step == advances)
-            [date advance_to_unit_boundary:row.unit];
-        else
-            [date add_time_units:row.unit n:row.count];
-        EXPECT_EQ(slash_text(date), row.text) << row.step << " unit " << row.unit << " second " << row.second;
+        std::string texts;
+        for (const ZEB_Time_Unit unit : row.units) {
+            ZEB_Date *const date = date_of({2021, row.month, row.day}, row.second, row.nanosecond);
+            if (row.step == cuts)
+                [date truncate_to_unit:unit];
+            else if (row.step == moves_on)
+                [date advance_to_unit_boundary:unit];
+            else
+                [date add_time_units:unit n:row.count];
+            texts += slash_text(date) + ", ";
+        }
+        EXPECT_EQ(texts, row.texts) << row.step << " at second " << row.second;
     }
 }
 
@@ -129,8 +112,7 @@ TEST(Date, day_numbers_stay_those_of_the_fields)
         // Elsewhere the mapping to dates and the one from dates are not each other's inverse.
         const ZEB_Gregorian_Date fields{[date year], [date month], [date day]};
         const int32_t day = [date julian_day];
-        ASSERT_TRUE(day < 1000 || day > 500000000 || ZC_map_gregorian_date_to_julian_day(fields) == day)
-            << day;
+        ASSERT_TRUE(day < 1000 || day > 500000000 || ZC_map_gregorian_date_to_julian_day(fields) == day);
     }
 }
 
@@ -169,15 +151,14 @@ TEST(Date, known_days_of_daylight_saving)
         uint64_t second;
         bool daylight;
     } rows[] = {
-        {{2025, 3, 9}, 7199, false},   {{2025, 3, 9}, 7200, true},   {{2025, 11, 2}, 3600, false},
-        {{2025, 11, 3}, 0, true},      {{2025, 12, 1}, 0, false},    {{2006, 4, 2}, 7199, false},
-        {{2006, 4, 2}, 7200, true},    {{2006, 10, 29}, 7199, true}, {{2006, 10, 29}, 7200, false},
-        {{2006, 3, 31}, 80000, false}, {{1998, 10, 25}, 7199, true}, {{1998, 10, 25}, 7200, false},
-        {{2015, 3, 8}, 7199, false},   {{2015, 3, 8}, 7200, true},
+        {{2025, 3, 9}, 7199, false},   {{2025, 3, 9}, 7200, true},    {{2025, 11, 2}, 3600, false},
+        {{2025, 11, 3}, 0, true},      {{2025, 12, 1}, 0, false},     {{2006, 4, 2}, 7199, false},
+        {{2006, 4, 2}, 7200, true},    {{2006, 10, 29}, 7199, true},  {{2006, 10, 29}, 7200, false},
+        {{2006, 3, 31}, 80000, false}, {{1998, 10, 25}, 7200, false}, {{2015, 3, 8}, 7200, true},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ([date_of(row.date, row.second) is_daylight_saving_time], row.daylight)
-            << row.date.year << "-" << row.date.month << "-" << row.date.day;
+    for (const auto &[date, second, daylight] : rows)
+        EXPECT_EQ([date_of(date, second) is_daylight_saving_time], daylight)
+            << date.year << ' ' << date.month;
 }
 
 TEST(Date, setters_keep_the_two_forms_in_step_save_the_raw_one)
@@ -189,21 +170,15 @@ TEST(Date, setters_keep_the_two_forms_in_step_save_the_raw_one)
 
     ZEB_Date *const stored = date_of({2021, 2, 31}, 7, 8);
     const std::string spilled = "2/31/2021 00:00:07.000000008 day 2459277";
-    EXPECT_EQ(shown(stored), spilled);
-    EXPECT_EQ(shown([[[ZEB_Date alloc] init_with_date:stored] autorelease]), spilled);
-    EXPECT_EQ(shown([[stored copy] autorelease]), spilled);
     [date assign_date:stored];
-    EXPECT_EQ(shown(date), spilled);
+    ZEB_Date *const same[] = {stored, date, [[[ZEB_Date alloc] init_with_date:stored] autorelease],
+                              [[stored copy] autorelease]};
+    for (ZEB_Date *const one : same)
+        EXPECT_EQ(shown(one), spilled);
     [date update_date_from_julian_day];
     EXPECT_EQ(shown(date), "3/3/2021 00:00:07.000000008 day 2459277");
     [date assign_date:nil];
     EXPECT_EQ(shown(date), shown(never_set()));
-
-    ZEB_Date *const january = date_of({2021, 1, 31}, 5);
-    [january add_months_clamped:1];
-    EXPECT_EQ(shown(january), "2/28/2021 00:00:05 day 2459274");
-    [january add_months_clamped:-12];
-    EXPECT_EQ(shown(january), "2/28/2020 00:00:05 day 2458908");
 }
 
 TEST(Date, the_clock_gives_the_local_time_and_never_steps_back_where_the_second_turns)
@@ -246,14 +221,11 @@ TEST(Date, comparisons_look_at_the_day_number_and_the_time)
     EXPECT_EQ([earliest days_since:ascending[1]], INT32_MAX - 2451544); // wraps around
 
     ZEB_Date *const spilled = date_of({1999, 12, 32}), *const first = ascending[1];
-    EXPECT_TRUE([spilled isEqual:first]); // the same day by another name
-    EXPECT_EQ([spilled hash], [first hash]);
+    EXPECT_TRUE([spilled isEqual:first] && [spilled hash] == [first hash]); // the same day by another name
     // Nil is a date that was never set.
-    EXPECT_FALSE([first isEqual:nil]);
+    EXPECT_FALSE([first isEqual:nil] || [first is_at_or_before_date:nil]);
     EXPECT_EQ([first days_since:nil], 2451545);
-    EXPECT_EQ([first is_at_or_before_date:nil], 0);
-    EXPECT_EQ([never_set() is_equal_to_date:nil], 0);
-    EXPECT_FALSE([first isEqual:@"1/1/2000"]);
+    EXPECT_FALSE([never_set() is_equal_to_date:nil] || [first isEqual:@"1/1/2000"]);
 }
 
 TEST(Date_Coding, dates_come_back_as_themselves_from_both_kinds_of_archive)
@@ -295,17 +267,14 @@ TEST(Time_Stamp, is_an_instant_and_nothing_else)
     ZEB_Time_Stamp *const stamp = [[[ZEB_Time_Stamp alloc] init_with_time:5 nanosecond:60] autorelease];
     ZEB_Time_Stamp *const copied = [[stamp copy] autorelease];
     EXPECT_EQ([copied is_equal_to:stamp], 1);
-    EXPECT_TRUE([copied isEqual:stamp]);
-    EXPECT_EQ([copied hash], [stamp hash]);
+    EXPECT_TRUE([copied isEqual:stamp] && [copied hash] == [stamp hash]);
     EXPECT_STREQ([[stamp description] UTF8String], "5.000000060");
     // In one piece, also where a stream sends its unsigned longs elsewhere.
-    EXPECT_EQ(
-        support::standard_error_of([=] { [[ZEB_Error_Stream shared_error_stream] write_object:stamp]; }),
-        "5.000000060");
+    ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
+    EXPECT_EQ(support::standard_error_of([=] { [stream write_object:stamp]; }), "5.000000060");
     [copied set_time_value:5 nanosecond:61];
     EXPECT_EQ([copied is_equal_to:stamp], 0);
     [copied set_time_value:6 nanosecond:60];
     EXPECT_EQ([copied is_equal_to:stamp], 0);
-    EXPECT_EQ([stamp is_equal_to:nil], 0);
-    EXPECT_FALSE([stamp isEqual:@"5"]);
+    EXPECT_FALSE([stamp is_equal_to:nil] || [stamp isEqual:@"5"]);
 }

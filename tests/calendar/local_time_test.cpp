@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <limits>
 
 TEST(Local_Time, the_zone_moves_the_clock_and_the_nanoseconds_stay)
 {
@@ -15,14 +14,13 @@ TEST(Local_Time, the_zone_moves_the_clock_and_the_nanoseconds_stay)
     } rows[] = {
         {"AAA-3", 0, {{1970, 1, 1}, 2440588, {10800, 5}}},
         {"BBB5", 0, {{1969, 12, 31}, 2440587, {68400, 5}}}, // noticed without a further call
-        {"BBB5", std::numeric_limits<std::time_t>::max(),
-         engine::unset_date_time}, // beyond the platform's years
+        {"BBB5", INT64_MAX, engine::unset_date_time},       // beyond the platform's years
     };
     for (const auto &row : rows) {
         setenv("TZ", row.zone, 1);
         const engine::Date_Time value = engine::local_date_time(row.instant, 5);
-        EXPECT_TRUE(engine::is_equal(value, row.expected)) << row.zone << " " << value.time.second;
-        EXPECT_EQ(value.date.day, row.expected.date.day);
+        EXPECT_TRUE(engine::is_equal(value, row.expected) && value.date.day == row.expected.date.day)
+            << row.zone;
     }
     unsetenv("TZ");
 }

@@ -79,8 +79,7 @@ TEST(Number_Scanning, nothing_is_read_of_no_characters_or_in_no_base)
         EXPECT_EQ(ZC_assign_int_with_base_from_char_c_array("1", 1, base, &value), 0U);
         EXPECT_EQ(ZC_assign_unsigned64_with_base_from_char_c_array("1", 1, base, &wide), 0U);
     }
-    EXPECT_EQ(value, 7);
-    EXPECT_EQ(wide, 7U);
+    EXPECT_TRUE(value == 7 && wide == 7);
     EXPECT_EQ(ZC_assign_int_from_char_c_array("123", 2, &value), 2U); // not beyond the length
     EXPECT_EQ(value, 12);
 }

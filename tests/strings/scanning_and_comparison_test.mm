@@ -103,12 +103,10 @@ TEST(Number_Scanners, find_numbers_and_special_words)
         {"  -3", 2, 0, 3, 1},         {"abc7", 3, 0, 3, 2},         {"x = 4.2e1  ", 4, 0, 8, 10},
         {"value INF", 4, 0, 8, 8},    {"12E5", 0, none, 3, 2},      {"12G5F", 0, none, 4, 4},
         {"inf", 0, 3, 2, 1},          {"\t iNf", 2, 0, 4, 3},       {"infinity", 0, 8, 7, 7},
-        {"Infinity", 0, 8, 7, 7},     {"infinit", 0, 3, 2, 6},      {"INFINITYx", 0, 8, 2, 8},
-        {"xinfinity", 3, 0, 8, 8},    {" nan", 1, 0, 3, 3},         {"NaN \v", 0, 3, 2, 4},
-        {"nano", 0, 3, none, 3},      {"xnan", none, 0, 3, 3},      {"na", none, 0, none, 1},
-        {"in", none, 0, none, 1},     {"if", 1, 0, 1, 0},           {"\v\f\r\n ", none, 0, none, 4},
-        {" 7\t", 1, 0, 1, 2},         {"8 f ", 0, 1, 2, 3},         {std::string("7\0", 2), 0, 1, 0, 1},
-        {"\xFF", none, 0, none, 0},   {"\xA0 7\xA0", 2, 0, 2, 3},   {"+-.", 0, none, 2, none},
+        {"infinit", 0, 3, 2, 6},      {"INFINITYx", 0, 8, 2, 8},    {"xinfinity", 3, 0, 8, 8},
+        {"NaN \v", 0, 3, 2, 4},       {"nano", 0, 3, none, 3},      {"xnan", none, 0, 3, 3},
+        {"na", none, 0, none, 1},     {"in", none, 0, none, 1},     {"\v\f\r\n ", none, 0, none, 4},
+        {" 7\t", 1, 0, 1, 2},         {"+-.", 0, none, 2, none},    {std::string("7\0", 2), 0, 1, 0, 1},
     };
     for (const auto &row : rows) {
         EXPECT_EQ([text(row.text) index_of_number_start], row.start) << row.text;

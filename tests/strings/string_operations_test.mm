@@ -17,7 +17,6 @@ TEST(String_Operations, platform_sorts_order_by_the_platform_s_codes)
     NSArray *const shuffled = [[in_order reverseObjectEnumerator] allObjects];
     EXPECT_TRUE([[shuffled sortedArrayUsingSelector:@selector(platform_compare:)] isEqual:in_order]);
     EXPECT_EQ([wide_text(U"b") platform_compare:wide_text(U"a")], NSOrderedDescending);
-    EXPECT_EQ([text("a") platform_compare:text("a")], NSOrderedSame);
     EXPECT_EQ([text("a") platform_compare:(id) @"a"], NSOrderedDescending);
     EXPECT_EQ([text("") platform_compare:nil], NSOrderedSame);
 }
@@ -34,20 +33,18 @@ TEST(String_Operations, strings_describe_themselves_as_their_text)
     EXPECT_STREQ([[objects description] UTF8String],
                  "{caf\xC3\xA9, w\xC3\xA9, {caf\xC3\xA9, caf\xC3\xA9, , {}}}");
     EXPECT_STREQ([[text("caf\xE9") description] UTF8String], "caf\xC3\xA9");
-    EXPECT_STREQ([[wide_text(U"text") description] UTF8String], "text");
 }
 
 TEST(String_Operations, search)
 {
-    ZEB_String *const abc = text("abc");
-    EXPECT_EQ([abc index_of_substring:"b" length:1], 1u);
-    EXPECT_EQ([abc index_of_substring:"bc" length:2], ZEB_NOT_FOUND);
-    EXPECT_EQ([abc index_of_substring:"abc" length:3], ZEB_NOT_FOUND);
-    EXPECT_EQ([wide_text(U"abc") index_of_char:'c'], 2u);
-    EXPECT_EQ([wide_text(U"abc") index_of_char:'d'], ZEB_NOT_FOUND);
     const uint32_t b[] = {'b', 'c'};
+    for (const auto &[length, place] : {std::pair(1u, 1u), std::pair(2u, ZEB_NOT_FOUND)}) {
+        EXPECT_EQ([text("abc") index_of_substring:"bc" length:length], place);
+        EXPECT_EQ([wide_text(U"abc") index_of_substring:b length:length], place);
+    }
+    EXPECT_EQ([text("abc") index_of_substring:"abc" length:3], ZEB_NOT_FOUND);
     EXPECT_EQ([wide_text(U"abcd") index_of_substring:b length:2], 1u);
-    EXPECT_EQ([wide_text(U"abc") index_of_substring:b length:2], ZEB_NOT_FOUND);
+    EXPECT_EQ([wide_text(U"abc") index_of_char:'c'], 2u);
 }
 
 TEST(String_Operations, extend_the_sign_of_8_bit_characters)
@@ -89,9 +86,8 @@ TEST(String_Operations, serve_as_keys_of_a_dictionary)
 {
     NSMutableDictionary *const table = [NSMutableDictionary dictionary];
     ZEB_String *const key = text("key");
-    ZEB_Wide_String *const wide_key = wide_text(U"\U0001F511");
     [table setObject:@"narrow" forKey:(id)key];
-    [table setObject:@"wide" forKey:(id)wide_key];
+    [table setObject:@"wide" forKey:(id)wide_text(U"\U0001F511")];
     [key append_c_string:"s" length:1]; // the table keeps a copy
     EXPECT_TRUE([[table objectForKey:text("key")] isEqual:@"narrow"]);
     EXPECT_TRUE([[table objectForKey:wide_text(U"\U0001F511")] isEqual:@"wide"]);
@@ -104,7 +100,5 @@ TEST(String_Views, are_live_and_empty_without_a_string)
     const std::string_view view = zeb::view(string);
     [string char_data][1] = 'X';
     EXPECT_EQ(view, "aXc");
-    EXPECT_EQ(static_cast<const void *>(view.data()), [string char_data]);
-    EXPECT_TRUE(zeb::view(static_cast<ZEB_String *>(nil)).empty());
-    EXPECT_TRUE(zeb::view(static_cast<ZEB_Wide_String *>(nil)).empty());
+    EXPECT_TRUE(zeb::view((ZEB_String *)nil).empty() && zeb::view((ZEB_Wide_String *)nil).empty());
 }

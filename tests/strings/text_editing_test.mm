@@ -33,10 +33,8 @@ void walk(std::mt19937 &random)
         literal.resize(appends ? literal.size() : 0);
         for (const signed char c : bytes)
             literal.push_back(static_cast<typename decltype(literal)::value_type>(c));
-        if (appends)
-            [string append_c_string:source length:static_cast<uint32_t>(bytes.size())];
-        else
-            [string copy_c_string:source length:static_cast<uint32_t>(bytes.size())];
+        const auto length = static_cast<uint32_t>(bytes.size());
+        appends ? [string append_c_string:source length:length] : [string copy_c_string:source length:length];
         while (capacity <= literal.size())
             capacity *= 2;
         ASSERT_EQ(zeb::view(string), literal);
@@ -74,8 +72,7 @@ TYPED_TEST(Text_Editing, reports_a_size_that_cannot_be_had)
     EXPECT_EQ([string capacity], 0u);
     [string copy_c_string:&byte length:1];
     expect_failure("Runtime error in reallocate macro");
-    EXPECT_EQ([string count], 1u);
-    EXPECT_EQ([string capacity], 16u);
+    EXPECT_TRUE([string count] == 1 && [string capacity] == 16);
 }
 
 TEST(Null_Terminator, lies_behind_the_text)

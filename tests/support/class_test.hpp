@@ -1,4 +1,5 @@
-/// What nearly every test of classes uses: values to and from the framework's, and what goes onto the streams.
+/// What nearly every test of classes uses: values to and from the framework's, and what goes onto the
+/// streams.
 #pragma once
 
 #include "tests/support/captured.hpp"

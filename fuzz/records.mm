@@ -6,11 +6,6 @@
 
 #include <cstring>
 
-@interface NSObject (Binary_Contents)
-- (void)ZEB_encode_binary_contents:(ZEB_String *)buffer;
-- (uint32_t)ZEB_decode_binary_contents:(ZEB_Char_Vector *)buffer needs_swap:(uint8_t)needs_swap;
-@end
-
 namespace
 {
 
@@ -30,13 +25,13 @@ std::vector<id> find_families()
 
 /// What was decoded is encoded, in this machine's byte order, and decoded again: the same record of the same
 /// size.
-void check_round_trip(id decoded, uint32_t consumed, const char *record, bool was_swapped)
+void check_round_trip(ZEB_Byte_Array *decoded, uint32_t consumed, const char *record, bool was_swapped)
 {
     ZEB_String *const buffer = [ZEB_String array_with_capacity:0];
     [decoded ZEB_encode_binary_contents:buffer];
     fuzz::require([buffer count] == consumed);
     fuzz::require(was_swapped || std::memcmp([buffer char_data], record, consumed) == 0);
-    const id again = [[[[decoded class] alloc] init] autorelease];
+    ZEB_Byte_Array *const again = [[[[decoded class] alloc] init] autorelease];
     fuzz::require([again ZEB_decode_binary_contents:buffer needs_swap:0] == consumed);
     ZEB_String *const second = [ZEB_String array_with_capacity:0];
     [again ZEB_encode_binary_contents:second];
@@ -56,13 +51,14 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // A block of its own size, so that the sanitizer sees what is read behind it.
     std::vector<char> record(data + 2, data + size);
     ZEB_String *const source = [ZEB_String link_to_chars:record.data() count:static_cast<uint32_t>(size - 2)];
-    const id array = [[[(Class)families[data[0] % families.size()] alloc] init] autorelease];
+    // Of any family: its messages are those of bytes.
+    ZEB_Byte_Array *const array = [[[(Class)families[data[0] % families.size()] alloc] init] autorelease];
     const uint32_t consumed = [array ZEB_decode_binary_contents:source needs_swap:is_swapped];
     fuzz::require(consumed <= size - 2);
     if (consumed != 0)
         check_round_trip(array, consumed, record.data(), is_swapped);
     else
-        fuzz::require([static_cast<ZEB_Byte_Array *>(array) count] == 0);
+        fuzz::require([array count] == 0);
     [pool drain];
     return 0;
 }

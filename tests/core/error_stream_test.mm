@@ -1,22 +1,6 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
+#include "tests/support/class_test.hpp"
 
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
-#include "tests/support/ints.hpp"
-
-#include <gtest/gtest.h>
-
-using support::diagnostic;
-using support::standard_error_of;
-using support::standard_output_of;
-
-namespace
-{
-
-constexpr ZEB_Char_Span no_note = {"", 0};
-constexpr ZEB_Char_Span note = {"Two words, not this", 9};
-
-} // namespace
+static constexpr ZEB_Char_Span no_note = {"", 0}, note = {"Two words, not this", 9};
 
 /// Keeps what it is given, and is in trouble itself when it is asked for that.
 @interface Gathering_Error_Stream : ZEB_Error_Stream {
@@ -45,12 +29,10 @@ TEST(Error_Stream, every_writer_goes_through_one_operation_but_for_unsigned_long
         const auto on_output = standard_output_of([&] {
             on_error += standard_error_of([=] {
                 [stream write_int:1];
-                [stream write_double_with_format:2.5 format:"<%g>"];
                 [stream write_char_with_format:'d' format:"<%c>"];
                 [stream set_char_format:"[%c]"];
                 [stream write_char:'e'];
                 [stream set_char_format:NULL];
-                [stream write_object:support::ints({1, 2})];
                 [stream write_selector:@selector(set_count:)];
                 [stream write_class_with_format:[ZEB_String class] format:"<%s>"];
                 [stream write_unsigned_long:5];
@@ -59,7 +41,7 @@ TEST(Error_Stream, every_writer_goes_through_one_operation_but_for_unsigned_long
         });
         EXPECT_EQ(on_output, "5(6)");
     }
-    EXPECT_EQ(on_error, "1<2.5><d>e{1, 2}set_count:<ZEB_String>");
+    EXPECT_EQ(on_error, "1<d>eset_count:<ZEB_String>");
     EXPECT_EQ(gathered, on_error);
 
     // What is raised while another diagnostic is written goes on without the stream, and once.

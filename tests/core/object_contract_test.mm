@@ -60,9 +60,6 @@ TEST(Root_Operations, work_on_platform_objects)
 {
     Changeling *const object = [Changeling ZEB_alloc];
     EXPECT_EQ([object ZEB_init], object);
-    EXPECT_EQ([Changeling ZEB_responds_to_selector:@selector(alloc)], 1);
-    EXPECT_EQ([Changeling ZEB_instances_respond_to_selector:@selector(copy)], 1);
-    EXPECT_EQ([object ZEB_is_kind_of_class:[NSObject class]], 1);
     [[object ZEB_retain] ZEB_release];
     [object ZEB_release];
     NSMutableString *const text = [[@"abc" mutableCopy] autorelease];

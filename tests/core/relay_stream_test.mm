@@ -1,13 +1,4 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
-#include "tests/support/ints.hpp"
-#include "tests/support/strings.hpp"
-
-#include <gtest/gtest.h>
-
-using namespace support;
+#include "tests/support/class_test.hpp"
 
 /// Writes down each message between bars, and what it writes itself meanwhile.
 @interface Listener : NSObject <ZEB_Message_Listener> {
@@ -92,10 +83,6 @@ TEST_F(Relay, diagnostics_are_printed_always_and_told_on_demand)
         EXPECT_EQ(echoed, line);
     }
     EXPECT_EQ([stream echoes], 0);
-    [stream set_captures_diagnostics:1];
-    [stream set_verbose:0];
-    EXPECT_EQ(told(diagnose) + echoed, "");
-    EXPECT_EQ([stream warning_count], 4u);
 }
 
 TEST_F(Relay, a_holder_keeps_its_own_text)

@@ -1,12 +1,5 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/comma_locale.hpp"
-#include "tests/support/ints.hpp"
-
-#include <gtest/gtest.h>
-
-using namespace support;
 
 // Every writer, by its first format and by given ones, onto each kind of stream: tests/encoding. No stream
 // receives a list so far: each says so, on standard output.

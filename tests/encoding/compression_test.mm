@@ -1,14 +1,4 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
-#include "tests/support/strings.hpp"
-
-#include <gtest/gtest.h>
-
-#include <map>
-
-using namespace support;
+#include "tests/support/class_test.hpp"
 
 static const std::string contents = std::string(40000, 'x') + "tail";
 
@@ -68,11 +58,15 @@ TEST(Compression, a_link_refuses_once_and_before_anything_is_done)
 
 TEST(Compression, tells_the_known_states)
 {
-    std::map<int32_t, std::string> lines = {{-6, "zlib version mismatch.\n"},
-                                            {-4, "out of memory.\n"},
-                                            {-3, "invalid or incomplete deflate data.\n"},
-                                            {-2, "invalid compression level.\n"},
-                                            {-1, "General error.\n"}};
+    const std::string lines[] = {"",
+                                 "zlib version mismatch.\n",
+                                 "",
+                                 "out of memory.\n",
+                                 "invalid or incomplete deflate data.\n",
+                                 "invalid compression level.\n",
+                                 "General error.\n",
+                                 "",
+                                 ""};
     for (int32_t status = -7; status <= 1; ++status)
-        EXPECT_EQ(standard_error_of([&] { print_zlib_error(status); }), "zlib error: " + lines[status]);
+        EXPECT_EQ(standard_error_of([=] { print_zlib_error(status); }), "zlib error: " + lines[status + 7]);
 }

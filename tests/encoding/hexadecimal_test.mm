@@ -1,14 +1,7 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/guarded_text.hpp"
-#include "tests/support/strings.hpp"
-
-#include <gtest/gtest.h>
 
 #include <charconv>
-
-using namespace support;
 
 static std::string hexadecimal(uint64_t value)
 {

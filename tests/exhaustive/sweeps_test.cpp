@@ -29,9 +29,13 @@ std::uint64_t mixed(std::uint64_t value)
     return value ^ value >> 31;
 }
 
+std::uint32_t low_half(std::uint64_t index) { return static_cast<std::uint32_t>(index); }
+
+float float_at(std::uint64_t index) { return std::bit_cast<float>(low_half(index)); }
+
 std::string date_of_day(std::uint64_t index)
 {
-    const auto day = static_cast<std::int32_t>(static_cast<std::uint32_t>(index));
+    const auto day = static_cast<std::int32_t>(low_half(index));
     const auto [year, month, date_day] = ZC_map_julian_day_to_gregorian_date(day);
     const ZEB_Gregorian_Date expected = reference::date_from_julian_day(day);
     const bool agrees = year == expected.year && month == expected.month && date_day == expected.day;
@@ -52,9 +56,10 @@ std::string day_of_date(std::uint64_t index)
     if (index < swept_months)
         date = {static_cast<std::int32_t>(index / 16) - 4810, static_cast<std::int32_t>(index % 16) - 1,
                 date.day};
-    if (ZC_map_gregorian_date_to_julian_day(date) == reference::julian_day(date))
-        return "";
-    return std::to_string(date.year) + "-" + std::to_string(date.month) + "-" + std::to_string(date.day);
+    const bool agrees = ZC_map_gregorian_date_to_julian_day(date) == reference::julian_day(date);
+    return agrees ? ""
+                  : std::to_string(date.year) + "-" + std::to_string(date.month) + "-" +
+                        std::to_string(date.day);
 }
 
 // The text, its end, and an untouched byte after it; else what it should be.
@@ -71,14 +76,12 @@ std::string text_difference(const std::string &expected, Writer writer, Argument
 
 std::string unsigned_text(std::uint64_t index)
 {
-    const auto value = static_cast<std::uint32_t>(index);
-    return text_difference(std::to_string(value), ZC_pretty_format_unsigned, value);
+    return text_difference(std::to_string(low_half(index)), ZC_pretty_format_unsigned, low_half(index));
 }
 
 std::string float_text(std::uint64_t index)
 {
-    const float value = std::bit_cast<float>(static_cast<std::uint32_t>(index));
-    return text_difference(reference::pretty_float(value), ZC_pretty_format_float, value);
+    return text_difference(reference::pretty_float(float_at(index)), ZC_pretty_format_float, float_at(index));
 }
 
 // Up to three steps in either direction.
@@ -117,8 +120,7 @@ std::string double_text(std::uint64_t index)
 // Every float, and doubles.
 std::string general_text(std::uint64_t index)
 {
-    const auto bits = static_cast<std::uint32_t>(index / 2);
-    const double value = index % 2 == 0 ? static_cast<double>(std::bit_cast<float>(bits)) : double_at(index);
+    const double value = index % 2 == 0 ? double{float_at(index / 2)} : double_at(index);
     char expected[64];
     std::snprintf(expected, sizeof expected, "%g", value);
     const auto write = [](char *text, double x) { return &(*engine::put_general(text, x) = '\0'); };

@@ -1,12 +1,7 @@
 /// The records of TT_PHRASE, there and back, in both byte orders, cut short, and through a link.
 #include "tests/arrays/ZEB_T_Samples.hpp"
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/exchange.hpp"
-
-#include <gtest/gtest.h>
-
-using namespace support;
 
 namespace
 {

@@ -84,12 +84,10 @@ TEST(Date, moves_by_units)
         std::string texts;
         for (const ZEB_Time_Unit unit : row.units) {
             ZEB_Date *const date = date_of({2021, row.month, row.day}, row.second, row.nanosecond);
-            if (row.step == cuts)
-                [date truncate_to_unit:unit];
-            else if (row.step == moves_on)
-                [date advance_to_unit_boundary:unit];
-            else
+            if (row.step == adds)
                 [date add_time_units:unit n:row.count];
+            else
+                row.step == cuts ? [date truncate_to_unit:unit] : [date advance_to_unit_boundary:unit];
             texts += slash_text(date) + ", ";
         }
         EXPECT_EQ(texts, row.texts) << row.step << " at second " << row.second;

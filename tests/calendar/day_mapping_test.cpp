@@ -57,9 +57,7 @@ TEST(Civil_Calendar, clamped_months_agree_with_the_standard_library)
     using namespace std::chrono;
     std::mt19937_64 random(31);
     for (int i = 0; i < 20000; ++i) {
-        const auto below = [&](int limit) {
-            return static_cast<int>(random() % static_cast<unsigned>(limit));
-        };
+        const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
         const ZEB_Gregorian_Date start{below(20001) - 10000, below(12) + 1, below(31) + 1};
         const int step = below(4001) - 2000;
         const year_month target = year{start.year} / start.month + months{step};

@@ -14,20 +14,15 @@ namespace
 constexpr auto read_date = ZC_assign_date_from_iso8601_char_c_array;
 constexpr auto read_seconds = ZC_assign_seconds_from_iso8601_char_c_array;
 
+constexpr std::size_t size = ZEB_DATE_TEXT_SIZE;
+
 std::string text_of(std::int64_t day, ZEB_Time_Value time = {0, 0})
 {
-    return guarded_text(ZEB_DATE_TEXT_SIZE, ZC_format_iso8601_date_and_time, day, time);
+    return guarded_text(size, ZC_format_iso8601_date_and_time, day, time);
 }
 
-std::string text_of_seconds(double seconds)
-{
-    return guarded_text(ZEB_DATE_TEXT_SIZE, ZC_format_iso8601_from_seconds, seconds);
-}
-
-std::string text_of_date(ZEB_Gregorian_Date date)
-{
-    return guarded_text(ZEB_DATE_TEXT_SIZE, ZC_format_iso8601_date, date);
-}
+std::string text_of_seconds(double x) { return guarded_text(size, ZC_format_iso8601_from_seconds, x); }
+std::string text_of_date(ZEB_Gregorian_Date x) { return guarded_text(size, ZC_format_iso8601_date, x); }
 
 } // namespace
 

@@ -31,8 +31,8 @@ void expect_scan(const std::string &text, Convert convert, Scanner scanner, Argu
 std::string random_real(std::mt19937_64 &random)
 {
     char text[80];
-    const double value =
-        static_cast<double>(random() >> random() % 64) / static_cast<double>(random() >> random() % 64 | 1);
+    const auto any_size = [&] { return static_cast<double>(random() >> random() % 64); };
+    const double value = any_size() / (any_size() + 1);
     const char *const formats[] = {"%.17g", "%g", "%.3f", "%.25f", "%e", "%a", "%+.5f", "%.30e"};
     std::snprintf(text, sizeof text, formats[random() % 8], random() % 2 ? value : -value);
     return text;

@@ -6,6 +6,7 @@
 #include "tests/support/strings.hpp"
 #include "tests/support/vector_targets.hpp"
 
+#include <array>
 #include <cctype>
 #include <cstring>
 #include <numeric>
@@ -42,8 +43,7 @@ void expect_same_orders(const std::string &left, const std::string &right)
 {
     ZEB_String *const first = text(left), *const second = text(right);
     ASSERT_EQ([first compare:second], order(left, right));
-    ASSERT_EQ([first is_less:second], left < right);
-    ASSERT_EQ([first is_equal:second], left == right);
+    ASSERT_TRUE([first is_less:second] == (left < right) && [first is_equal:second] == (left == right));
     const ZEB_Comparison without_case = order(folded(left), folded(right));
     ASSERT_EQ([first compare_ignoring_case:second], without_case) << left << '|' << right;
     ASSERT_EQ([first is_equal_ignoring_case:second], without_case == ZEB_COMPARED_EQUAL);
@@ -88,40 +88,41 @@ void expect_every_pair_of_bytes_to_compare_alike()
     }
 }
 
-} // namespace
+using Scans = std::array<uint32_t, 4>;
 
 /// The four scans of a text: where a number starts, how long one in front is, where the last one ends, and
 /// the last character that is none of a number's.
+Scans scans(const std::string &characters)
+{
+    ZEB_String *const scanned = text(characters);
+    return {[scanned index_of_number_start],
+            [scanned number_prefix_length],
+            [scanned index_of_number_end],
+            [scanned index_of_last_non_number]};
+}
+
+} // namespace
+
 TEST(Number_Scanners, find_numbers_and_special_words)
 {
     constexpr uint32_t none = ZEB_NOT_FOUND;
-    const struct {
-        std::string text;
-        uint32_t start, prefix, end, last;
-    } rows[] = {
-        {"", none, none, none, none}, {"12.5e3", 0, none, 5, none}, {"12 apples", 0, 2, 7, 8},
-        {"  -3", 2, 0, 3, 1},         {"abc7", 3, 0, 3, 2},         {"x = 4.2e1  ", 4, 0, 8, 10},
-        {"value INF", 4, 0, 8, 8},    {"12E5", 0, none, 3, 2},      {"12G5F", 0, none, 4, 4},
-        {"inf", 0, 3, 2, 1},          {"\t iNf", 2, 0, 4, 3},       {"infinity", 0, 8, 7, 7},
-        {"infinit", 0, 3, 2, 6},      {"INFINITYx", 0, 8, 2, 8},    {"xinfinity", 3, 0, 8, 8},
-        {"NaN \v", 0, 3, 2, 4},       {"nano", 0, 3, none, 3},      {"xnan", none, 0, 3, 3},
-        {"na", none, 0, none, 1},     {"in", none, 0, none, 1},     {"\v\f\r\n ", none, 0, none, 4},
-        {" 7\t", 1, 0, 1, 2},         {"+-.", 0, none, 2, none},    {std::string("7\0", 2), 0, 1, 0, 1},
+    const std::pair<std::string, Scans> rows[] = {
+        {"", {none, none, none, none}}, {"12.5e3", {0, none, 5, none}}, {"12 apples", {0, 2, 7, 8}},
+        {"  -3", {2, 0, 3, 1}},         {"abc7", {3, 0, 3, 2}},         {"x = 4.2e1  ", {4, 0, 8, 10}},
+        {"value INF", {4, 0, 8, 8}},    {"12E5", {0, none, 3, 2}},      {"12G5F", {0, none, 4, 4}},
+        {"inf", {0, 3, 2, 1}},          {"\t iNf", {2, 0, 4, 3}},       {"infinity", {0, 8, 7, 7}},
+        {"infinit", {0, 3, 2, 6}},      {"INFINITYx", {0, 8, 2, 8}},    {"xinfinity", {3, 0, 8, 8}},
+        {"NaN \v", {0, 3, 2, 4}},       {"nano", {0, 3, none, 3}},      {"xnan", {none, 0, 3, 3}},
+        {"na", {none, 0, none, 1}},     {"in", {none, 0, none, 1}},     {"\v\f\r\n ", {none, 0, none, 4}},
+        {" 7\t", {1, 0, 1, 2}},         {"+-.", {0, none, 2, none}},    {std::string("7\0", 2), {0, 1, 0, 1}},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ([text(row.text) index_of_number_start], row.start) << row.text;
-        EXPECT_EQ([text(row.text) number_prefix_length], row.prefix) << row.text;
-        EXPECT_EQ([text(row.text) index_of_number_end], row.end) << row.text;
-        EXPECT_EQ([text(row.text) index_of_last_non_number], row.last) << row.text;
-    }
+    for (const auto &[text, expected] : rows)
+        EXPECT_EQ(scans(text), expected) << text;
     // Of single bytes, those that a number can have.
     for (int byte = 0; byte < 256; ++byte) {
-        ZEB_String *const single = text(std::string(1, static_cast<char>(byte)));
         const bool is_number = byte != 0 && std::strchr("+-.0123456789EFGefg", byte) != nullptr;
-        EXPECT_EQ([single index_of_number_start], is_number ? 0 : none) << byte;
-        EXPECT_EQ([single number_prefix_length], is_number ? none : 0) << byte;
-        EXPECT_EQ([single index_of_number_end], is_number ? 0 : none) << byte;
-        EXPECT_EQ([single index_of_last_non_number], is_number && !std::strchr("EFG", byte) ? none : 0);
+        const Scans found{0, none, 0, std::strchr("EFG", byte) ? 0 : none}, passed_over{none, 0, none, 0};
+        EXPECT_EQ(scans(std::string(1, static_cast<char>(byte))), is_number ? found : passed_over) << byte;
     }
 }
 

@@ -118,7 +118,7 @@ ZEB_EXPORT
 - (void)put_bytes:(const char *)bytes length:(uint32_t)length;
 
 /** Prints the arguments through a printf format in the "C" locale, and puts the resulting bytes; nothing if
-   there are none or the C library fails. Values in their first format do not pass through here. */
+    there are none or the C library fails. Values in their first format do not pass through here. */
 - (void)put_format:(const char *)format arguments:(va_list)arguments;
 
 /** Scans standard input through a scanf format and returns the number of fields stored. */

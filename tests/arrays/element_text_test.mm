@@ -1,15 +1,10 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/samples.hpp"
-#include "tests/support/strings.hpp"
-
-#include <gtest/gtest.h>
 
 namespace
 {
 
-uint8_t bytes[] = {7, 200, 3};
+uint8_t small_bytes[] = {7, 200, 3};
 double doubles[] = {0.1, 1e7, 123456.789};
 char chars[] = {'a', '\xFF'};
 uint32_t units[] = {0x41, 0xE9};
@@ -19,7 +14,7 @@ void *pointers[] = {reinterpret_cast<void *>(12)};
 
 TEST(Element_Text, goes_by_the_writer_of_the_type)
 {
-    ZEB_Byte_Array *const some_bytes = [ZEB_Byte_Array link_to_bytes:bytes count:3];
+    ZEB_Byte_Array *const some_bytes = [ZEB_Byte_Array link_to_bytes:small_bytes count:3];
     ZEB_Wide_String *const wide = [ZEB_Wide_String link_to_wide_chars:units count:2];
     ZEB_String_Array *const strings = [ZEB_String_Array array_with_capacity:0];
     [strings append_string:support::text("a")];

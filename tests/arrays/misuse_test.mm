@@ -1,11 +1,7 @@
 /// What a caller can do wrong, or in an odd way, with one family or with two.
-#import <Korvane_ZEB/Korvane_ZEB.h>
 
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/samples.hpp"
-
-#include <gtest/gtest.h>
 
 namespace
 {

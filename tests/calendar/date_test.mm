@@ -1,7 +1,4 @@
 #include "tests/calendar/dates.hpp"
-#include "tests/support/captured.hpp"
-
-#include <gtest/gtest.h>
 
 #include <chrono>
 #include <cmath>
@@ -269,7 +266,7 @@ TEST(Time_Stamp, is_an_instant_and_nothing_else)
     EXPECT_STREQ([[stamp description] UTF8String], "5.000000060");
     // In one piece, also where a stream sends its unsigned longs elsewhere.
     ZEB_Stream *const stream = [ZEB_Error_Stream shared_error_stream];
-    EXPECT_EQ(support::standard_error_of([=] { [stream write_object:stamp]; }), "5.000000060");
+    EXPECT_EQ(standard_error_of([=] { [stream write_object:stamp]; }), "5.000000060");
     [copied set_time_value:5 nanosecond:61];
     EXPECT_EQ([copied is_equal_to:stamp], 0);
     [copied set_time_value:6 nanosecond:60];

@@ -1,10 +1,6 @@
 #include "tests/calendar/dates.hpp"
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
 #include "tests/support/guarded_text.hpp"
 #include "tests/support/random_text.hpp"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +8,6 @@
 #include <cstring>
 
 using namespace zeb_test;
-using support::text;
-using support::text_of;
 
 namespace
 {
@@ -164,9 +158,9 @@ TEST_F(Date_Text, slash_text_replaces_or_is_appended)
               "-2147483648/-2147483648/-2147483648 5124095576030431:00:151.84467440737096e+10");
 
     ZEB_String *const link = [ZEB_String link_to_chars:[string char_data] count:2];
-    EXPECT_EQ(support::standard_error_of([&] { [date append_text:link]; }),
-              support::fix_line("append_c_string:length:", "ZEB_String",
-                                "Cannot append c string through link, no append made."));
+    EXPECT_EQ(standard_error_of([&] { [date append_text:link]; }),
+              fix_line("append_c_string:length:", "ZEB_String",
+                       "Cannot append c string through link, no append made."));
 }
 
 TEST_F(Date_Text, pretty_dates_are_read_back_as_the_instants_that_they_were)
@@ -237,7 +231,7 @@ TEST_F(Date_Text, iso_8601_text_comes_back_also_far_out_where_clamped_months_agr
 TEST_F(Date_Text, a_stream_writes_it_by_its_own_date_format)
 {
     ZEB_Stream *const stream = [[[ZEB_Stream alloc] init] autorelease];
-    const auto written = support::standard_output_of([&] {
+    const auto written = standard_output_of([&] {
         [stream write_object:date];
         [stream set_date_format:"|%j|"];
         [stream write_object_text:date];

@@ -1,7 +1,7 @@
 /// Dates by their fields, and what they are.
 #pragma once
 
-#include "tests/support/strings.hpp"
+#include "tests/support/class_test.hpp"
 
 inline ZEB_Date *date_of(ZEB_Gregorian_Date date, uint64_t second = 0, uint64_t nanosecond = 0)
 {

@@ -2,12 +2,10 @@
 #include "tests/support/files.hpp"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <sys/resource.h>
 #include <thread>
 
-using namespace support;
 namespace fs = std::filesystem;
 
 namespace

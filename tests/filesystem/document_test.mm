@@ -2,9 +2,6 @@
 #include "tests/support/files.hpp"
 
 #include <algorithm>
-#include <cerrno>
-
-using namespace support;
 
 namespace
 {

@@ -1,11 +1,8 @@
-#include "tests/support/captured.hpp"
 #include "tests/support/files.hpp"
 
 #include <algorithm>
-#include <cerrno>
 #include <unistd.h>
 
-using namespace support;
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 

@@ -1,10 +1,6 @@
 #include "tests/support/failing_calls.h"
 #include "tests/support/files.hpp"
 
-#include <cerrno>
-
-using namespace support;
-
 namespace
 {
 

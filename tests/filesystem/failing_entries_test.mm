@@ -1,10 +1,8 @@
 #include "tests/support/failing_calls.h"
 #include "tests/support/files.hpp"
 
-#include <cerrno>
 #include <vector>
 
-using namespace support;
 namespace fs = std::filesystem;
 
 namespace

@@ -1,8 +1,5 @@
 #include "tests/support/files.hpp"
 
-#include <cerrno>
-
-using namespace support;
 using namespace std::string_literals;
 
 namespace

@@ -1,10 +1,7 @@
 #include "tests/support/files.hpp"
 
-#include <cerrno>
 #include <climits>
 #include <unistd.h>
-
-using namespace support;
 
 namespace
 {

@@ -1,12 +1,9 @@
 #include "tests/support/child.hpp"
 #include "tests/support/files.hpp"
 
-#include <cerrno>
 #include <csignal>
 #include <grp.h>
 #include <sys/resource.h>
-
-using namespace support;
 
 namespace
 {

@@ -1,9 +1,6 @@
 #include "tests/support/files.hpp"
 
-#include <cerrno>
 #include <unistd.h>
-
-using namespace support;
 
 class File_Status : public File_Test
 {

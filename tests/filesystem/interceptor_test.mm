@@ -1,11 +1,9 @@
 #include "tests/support/files.hpp"
 
-#include <cerrno>
 #include <cstring>
 #import <objc/runtime.h>
 #include <vector>
 
-using namespace support;
 using namespace std::string_literals;
 
 // What the interceptor was asked about.

@@ -4,8 +4,6 @@
 
 #include <csignal>
 
-using namespace support;
-
 namespace
 {
 

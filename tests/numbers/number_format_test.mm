@@ -1,8 +1,5 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
+#include "tests/support/class_test.hpp"
 #include "tests/support/guarded_text.hpp"
-
-#include <gtest/gtest.h>
 
 #include <array>
 #include <cmath>

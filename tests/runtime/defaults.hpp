@@ -1,10 +1,9 @@
 /// The defaults objects, and what is read of them.
 #pragma once
 
-#include "tests/support/strings.hpp"
+#include "tests/support/class_test.hpp"
 
 #include <cstdlib>
-#include <gtest/gtest.h>
 #include <string>
 
 namespace support

@@ -1,9 +1,5 @@
 #include "tests/runtime/defaults.hpp"
-#include "tests/support/captured.hpp"
 #include "tests/support/comma_locale.hpp"
-#include "tests/support/diagnostic.hpp"
-
-using namespace support;
 
 namespace
 {

@@ -1,11 +1,6 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/failing_calls.h"
 #include "tests/support/sanitizer.hpp"
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
 

@@ -4,8 +4,6 @@
 #include <filesystem>
 #include <vector>
 
-using namespace support;
-
 namespace
 {
 

@@ -1,7 +1,4 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include <gtest/gtest.h>
-
+#include "tests/support/class_test.hpp"
 #include <string>
 
 static std::string released;

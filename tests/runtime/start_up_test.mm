@@ -1,9 +1,6 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include <gtest/gtest.h>
-
 #include "core/engine/namespace.hpp"
 #include "core/engine/one_time.hpp"
+#include "tests/support/class_test.hpp"
 
 #include <algorithm>
 

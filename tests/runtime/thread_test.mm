@@ -1,18 +1,10 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
-
-#include <gtest/gtest.h>
-
+#include "tests/support/class_test.hpp"
 #include <atomic>
 #include <chrono>
 #include <cmath>
 #include <csignal>
 #include <sys/time.h>
 #include <thread>
-
-using namespace support;
 
 namespace
 {

@@ -1,16 +1,12 @@
 /// Text between the platform's strings and the framework's, against the plain chain of platform calls.
-#import <Korvane_ZEB/Korvane_ZEB.h>
+#include "tests/support/class_test.hpp"
 #import <Korvane_ZEB/ZEB_String_Views.hpp>
 
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
 #include "tests/support/sanitizer.hpp"
-#include "tests/support/strings.hpp"
 #include "tests/support/vector_targets.hpp"
 
 #include <random>
 
-using namespace support;
 using zeb::view;
 
 namespace

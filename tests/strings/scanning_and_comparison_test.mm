@@ -1,9 +1,7 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
+#include "tests/support/class_test.hpp"
 #include "tests/support/comma_locale.hpp"
 #include "tests/support/random_text.hpp"
 #include "tests/support/sanitizer.hpp"
-#include "tests/support/strings.hpp"
 #include "tests/support/vector_targets.hpp"
 
 #include <array>
@@ -11,7 +9,6 @@
 #include <cstring>
 #include <numeric>
 
-using namespace support;
 using namespace zeb_test;
 
 namespace

@@ -1,15 +1,8 @@
 /// That each operation of the string classes hands its own fields and arguments to the engine.
-#import <Korvane_ZEB/Korvane_ZEB.h>
+#include "tests/support/class_test.hpp"
 #import <Korvane_ZEB/ZEB_String_Views.hpp>
 
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
-#include "tests/support/strings.hpp"
-
-#include <gtest/gtest.h>
 #import <objc/runtime.h>
-
-using namespace support;
 
 TEST(String_Operations, platform_sorts_order_by_the_platform_s_codes)
 {

@@ -1,15 +1,11 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
+#include "tests/support/class_test.hpp"
 #import <Korvane_ZEB/ZEB_String_Views.hpp>
 
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
 #include "tests/support/random_text.hpp"
 #include "tests/support/sanitizer.hpp"
 #include "tests/support/vector_targets.hpp"
 
 #import <objc/runtime.h>
-
-using namespace support;
 
 namespace
 {

@@ -1,11 +1,10 @@
 /// File entries for tests.
 #pragma once
 
-#include "tests/support/captured.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/scratch_folder.hpp"
-#include "tests/support/strings.hpp"
 
-#include <gtest/gtest.h>
+#include <cerrno>
 #include <sys/stat.h>
 
 namespace support

@@ -1,19 +1,11 @@
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/memory.hpp"
-#include "tests/support/strings.hpp"
-
-#include <gtest/gtest.h>
 
 #include <fstream>
 #include <map>
 
 namespace
 {
-
-using support::wide_text;
 
 struct Row {
     uint32_t dimension, code, group, position;
@@ -42,9 +34,9 @@ std::string told(ZEB_Unit_Catalog *units, ZEB_Unit_Identity unit, uint32_t group
     EXPECT_EQ([units append_unit_symbol_in_parentheses:enclosed group:group position:position], has_symbol);
     EXPECT_EQ([symbol is_not_empty], has_symbol);
     std::string line;
-    for (ZEB_Wide_String *text : {[units unit_singular_name:unit], [units unit_plural_name:unit],
-                                  [units unit_abbreviation:unit], [units unit_plural_abbreviation:unit], one,
-                                  many, symbol, enclosed})
+    for (ZEB_Wide_String *text :
+         {[units unit_singular_name:unit], [units unit_plural_name:unit], [units unit_abbreviation:unit],
+          [units unit_plural_abbreviation:unit], one, many, symbol, enclosed})
         line += "\t" + (text != nil ? std::string([[text description] UTF8String]) : "nil");
     return line;
 }
@@ -94,14 +86,14 @@ TEST(Unit_Catalog, appends_nothing_to_links_and_to_nil)
 
     uint32_t characters[] = {'a', 'b'};
     ZEB_Wide_String *const link = [ZEB_Wide_String link_to_wide_chars:characters count:1];
-    EXPECT_EQ(support::standard_error_of([&] {
+    EXPECT_EQ(standard_error_of([&] {
                   EXPECT_EQ([units append_unit_symbol:link group:5 position:20], 0);
                   EXPECT_EQ([units append_unit_text:link identity:meter fallback:nil plural:0], 0);
               }),
-              support::fix_line("append_wide_char:", "ZEB_Wide_String",
-                                "Cannot append element through link, no append made.") +
-                  support::fix_line("append_array:", "ZEB_Wide_String",
-                                    "Cannot append array through link, no append made."));
+              fix_line("append_wide_char:", "ZEB_Wide_String",
+                       "Cannot append element through link, no append made.") +
+                  fix_line("append_array:", "ZEB_Wide_String",
+                           "Cannot append array through link, no append made."));
     EXPECT_EQ([link count] + characters[1], 1u + 'b');
 }
 
@@ -125,21 +117,21 @@ TEST(Unit_Catalog, holds_no_wrong_text_where_memory_fails)
     ZEB_Unit_Catalog *const whole = [[[ZEB_Unit_Catalog alloc] init] autorelease];
     [[ZEB_Error_Stream shared_error_stream] set_verbose:0];
     ZEB_Wide_String *const target = [ZEB_Wide_String array_with_capacity:2];
-    support::memory.is_out = true;
+    memory.is_out = true;
     EXPECT_EQ([whole append_unit_symbol_in_parentheses:target group:5 position:20] + [target count], 0u);
-    support::memory.is_out = false;
-    const long before = support::memory.blocks;
+    memory.is_out = false;
+    const long before = memory.blocks;
     for (int call = 0, has_failed = 1; has_failed; call += 1 + call / 8) {
-        support::memory.calls_until_failure = call;
+        memory.calls_until_failure = call;
         ZEB_Unit_Catalog *const units = [[ZEB_Unit_Catalog alloc] init];
-        has_failed = support::memory.calls_until_failure < 0;
-        support::memory.calls_until_failure = -1;
+        has_failed = memory.calls_until_failure < 0;
+        memory.calls_until_failure = -1;
         for (const auto &[unit, row] : table) {
             ZEB_Wide_String *const found = [units unit_plural_name:unit];
             EXPECT_TRUE(found == nil || [found is_equal:[whole unit_plural_name:unit]]);
         }
         [units release];
-        EXPECT_EQ(support::memory.blocks, before);
+        EXPECT_EQ(memory.blocks, before);
     }
     [[ZEB_Error_Stream shared_error_stream] set_verbose:1];
 }

@@ -3,12 +3,9 @@
 /// it reports; and again with each allocation failing in turn.
 #include "tests/arrays/ZEB_T_Samples.hpp"
 #include "tests/arrays/differential.hpp"
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
+#include "tests/support/class_test.hpp"
 #include "tests/support/memory.hpp"
 #include "tests/support/vector_targets.hpp"
-
-#include <gtest/gtest.h>
 
 #include <regex>
 
@@ -87,8 +84,8 @@ struct Ours {
         else if (place == a_vector)
             vector = [[[ZEB_T_Vector alloc] init_as_copy_of_TT_word_vector:owner] autorelease];
         else if (place == a_link)
-            vector = array =
-                [[[ZEB_T_Array alloc] init_as_link_to_TT_word_vector:owner range:viewed] autorelease];
+            vector = array = [[[ZEB_T_Array alloc] init_as_link_to_TT_word_vector:owner
+                                                                            range:viewed] autorelease];
         else
             vector = [[[ZEB_T_Vector alloc] init_as_link_to_TT_word_vector:owner range:viewed] autorelease];
         // A string that a pool holds is a link as well.

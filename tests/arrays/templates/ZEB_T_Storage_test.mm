@@ -1,9 +1,6 @@
 /// What initialisers, links and foreign storage of TT_PHRASE promise, and what is refused without a link.
 #include "tests/arrays/ZEB_T_Samples.hpp"
-#include "tests/support/captured.hpp"
-#include "tests/support/diagnostic.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/support/class_test.hpp"
 
 #include <functional>
 

@@ -16,6 +16,8 @@
 #include <stdio.h>
 #include <string.h>
 
+const char *const program_name = "series_store";
+
 namespace
 {
 
@@ -44,7 +46,9 @@ Exit_Status run(const char *csv_path, const char *store_path)
 {
     Series *const series = [[[Series alloc] init] autorelease];
     const Csv_Outcome outcome = read_csv(csv_path, series);
-    if (outcome == CSV_FAILED)
+    if (outcome == CSV_EMPTY)
+        complain(csv_path, "it has no rows");
+    if (outcome == CSV_EMPTY || outcome == CSV_FAILED)
         return failed;
     ZEB_String *const contents = encoded_series(series);
     if (contents == nil) {

@@ -1,28 +1,13 @@
 """Lets every call of the series store to the platform fail in turn, and kills it before each; what then lies
 on the disk is held against the exit status, and a run without faults must get past it."""
 
-import concurrent.futures
-import errno
-import os
 import pathlib
-import subprocess
 import sys
 import tempfile
 
-program, library = sys.argv[1:]
-ANSWERS_0, DOES_HALF, IS_THE_LAST = 0, -1, -2
+import faults
 
-# Calls, and what becomes of them: of one of them, or, with "+", also of all behind it. Those of the second
-# kind are no failures.
-failing = [("open", errno.EIO), ("read", errno.EIO), ("read", ANSWERS_0), ("write", errno.ENOSPC),
-           ("write", ANSWERS_0), ("close", errno.EIO), ("rename", errno.EIO), ("ftruncate", errno.EIO),
-           ("stat", errno.EIO), ("stat", errno.EACCES), ("lstat", errno.EIO), ("fstat", errno.EIO),
-           ("fchmod", errno.EPERM), ("fsync", errno.EIO), ("copy_file_range", ANSWERS_0),
-           ("memory", errno.ENOMEM), ("file", IS_THE_LAST), ("memory+", errno.ENOMEM)]
-harmless = [("open", errno.EINTR), ("read", errno.EINTR), ("read", DOES_HALF), ("write", errno.EINTR),
-            ("write", DOES_HALF), ("close", errno.EINTR), ("ftruncate", errno.EINTR),
-            ("fsync", errno.EINTR), ("fchown", errno.EPERM), ("copy_file_range", errno.EIO),
-            ("copy_file_range", DOES_HALF)]
+program, library = sys.argv[1:]
 failures = []
 passed = set()  # what was found on the disk, and got past
 
@@ -42,15 +27,8 @@ def put(folder, files):
         (folder / name).write_bytes(contents)
 
 
-def run(folder, call="", number=0, outcome=0, counts=None):
-    environment = dict(os.environ)
-    if call:
-        environment.update(LD_PRELOAD=library, ZEB_FAILING_FOLDER=str(folder), ZEB_FAILING_CALL=call,
-                           ZEB_FAILING_NUMBER=str(number), ZEB_FAILING_OUTCOME=str(outcome))
-    if counts:
-        environment["ZEB_FAILING_COUNTS"] = str(counts)
-    return subprocess.run([program, str(folder / "csv"), str(folder / "store")], env=environment,
-                          capture_output=True, text=True)
+def run(folder, *fault):
+    return faults.run([program, str(folder / "csv"), str(folder / "store")], library, folder, *fault)
 
 
 def files_of(folder, with_strays=True):
@@ -72,10 +50,10 @@ def check_fault(name, before, after, call, number, outcome):
         if result.returncode == 0:
             check(found == after, f"{told}: success, and not what was asked for")
         else:
-            expected = (1,) if outcome != IS_THE_LAST else (-9,)
+            expected = (1,) if outcome != faults.IS_THE_LAST else (-9,)
             check(result.returncode in expected, f"{told}: how it ended")
             check(result.returncode != 1 or result.stderr, f"{told}: says nothing")
-            check((call, outcome) not in harmless, f"{told}: fails for nothing")
+            check((call, outcome) not in faults.harmless, f"{told}: fails for nothing")
             store = found.get("store")
             check(set(found) <= {"store", "store~"}, f"{told}: leaves something")
             check(store in (before.get("store"), new, None), f"{told}: the store is none")
@@ -90,12 +68,12 @@ def check_fault(name, before, after, call, number, outcome):
 
 
 def count_calls(before):
-    with tempfile.TemporaryDirectory() as place, tempfile.TemporaryDirectory() as other:
-        folder, counts = pathlib.Path(place), pathlib.Path(other) / "counts"
+    with tempfile.TemporaryDirectory() as place:
+        folder = pathlib.Path(place)
         put(folder, {"csv": csv, **before})
-        check(run(folder, "file", 0, 0, counts).returncode == 0, "a run without faults")
-        return files_of(folder), {line.split()[0]: int(line.split()[1])
-                                  for line in counts.read_text().splitlines()}
+        result, calls = faults.counted_run([program, str(folder / "csv"), str(folder / "store")], library, folder)
+        check(result.returncode == 0, "a run without faults")
+        return files_of(folder), calls
 
 
 def store_of(text):
@@ -108,10 +86,9 @@ def store_of(text):
 csv = rows(0.5, 300).encode()
 new, old, older = store_of(csv), store_of(rows(1000, 200).encode()), store_of(rows(2000, 100).encode())
 whole = (new, old, older)
-every = {call for call, outcome in failing + harmless} - {"memory+"}
 # What the run finds, what of it is set aside afterwards, and the calls that are of interest there.
 starts = {
-    "a store and one set aside": ({"store": old, "store~": older}, old, every),
+    "a store and one set aside": ({"store": old, "store~": older}, old, faults.every),
     "nothing": ({}, None, {"rename", "stat", "file"}),
     "a store only set aside": ({"store~": old}, old, {"stat", "file"}),
     "a store cut short": ({"store": old[:200], "store~": older}, older, {"rename", "stat", "memory+", "file"}),
@@ -124,10 +101,7 @@ for name, (before, aside, interesting) in starts.items():
           f"{name}: {sorted(after)}")
     print(name, calls)
     check(calls["memory"] > 5 and calls["rename"] > 0, f"{name}: calls are counted")
-    jobs += [(name, before, after, call, number, outcome) for call, outcome in failing + harmless
-             if call in interesting for number in range(1, calls[call.rstrip("+")] + 1)]
-with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-    for job in [pool.submit(check_fault, *job) for job in jobs]:
-        job.result()
+    jobs += [(name, before, after, *fault) for fault in faults.jobs_of(calls, interesting)]
+faults.at_once(check_fault, jobs)
 print(f"{len(jobs)} faults, {len(failures)} failed")
 sys.exit(1 if failures else 0)

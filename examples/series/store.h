@@ -19,5 +19,11 @@ ZEB_String *encoded_series(Series *series);
     complete store, else the reason; nothing is printed. */
 Store_State load_series(const char *path, Series *series, const char **fault);
 
+/** The same for the bytes of a file that was read. */
+Store_State decode_store(ZEB_Byte_Array *stored, Series *series, const char **fault);
+
+/** Whether bytes begin as those of a store do, and not as text does. */
+bool begins_as_store(ZEB_Byte_Array *stored);
+
 /** Replaces the file at a path by encoded contents, compressed. Returns null, or the reason of a failure. */
 const char *write_store(const char *path, ZEB_String *contents);

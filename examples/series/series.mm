@@ -22,6 +22,7 @@ bool are_identical(ZEB_Double_Array *left, ZEB_Double_Array *right)
     if (self != nil) {
         instants = [[ZEB_Double_Array alloc] init];
         values = [[ZEB_Double_Array alloc] init];
+        value_name = [[ZEB_String alloc] init];
     }
     return self;
 }
@@ -30,6 +31,7 @@ bool are_identical(ZEB_Double_Array *left, ZEB_Double_Array *right)
 {
     [instants release];
     [values release];
+    [value_name release];
     [super dealloc];
 }
 
@@ -41,6 +43,11 @@ bool are_identical(ZEB_Double_Array *left, ZEB_Double_Array *right)
 - (ZEB_Double_Array *)values
 {
     return values;
+}
+
+- (ZEB_String *)value_name
+{
+    return value_name;
 }
 
 - (BOOL)is_identical_to:(Series *)other

@@ -48,13 +48,11 @@ bool holds_only_zeros(ZEB_Byte_Array *stored)
     return std::all_of(bytes.begin(), bytes.end(), [](uint8_t byte) { return byte == 0; });
 }
 
-/// Whether a stream without an end is the beginning of a compressed series. `contents` is its decompressed
-/// part.
-bool is_beginning(ZEB_Byte_Array *stored, ZEB_Byte_Array *contents)
+/// Whether the bytes, as far as there are any, are the first of a compressed stream.
+bool agrees_with_stream(ZEB_Byte_Array *stored)
 {
     const size_t size = std::min<size_t>([stored count], sizeof compressed_header);
-    return (size == 0 || memcmp([stored byte_data], compressed_header, size) == 0) &&
-           agrees_with_header(contents);
+    return size == 0 || memcmp([stored byte_data], compressed_header, size) == 0;
 }
 
 bool begins_with_header(ZEB_Byte_Array *contents)
@@ -109,8 +107,9 @@ const char *load_stored(ZEB_Byte_Array *stored, Series *series, bool &is_cut_sho
     const int32_t status = ZC_decompress_bytes_to_bytes(stored, contents);
     if (status == memory_is_short)
         return "there is no memory for it";
-    is_cut_short =
-        holds_only_zeros(stored) || (status == is_no_whole_stream && is_beginning(stored, contents));
+    // A stream without an end may be the beginning of a store.
+    is_cut_short = holds_only_zeros(stored) || (status == is_no_whole_stream && agrees_with_stream(stored) &&
+                                                agrees_with_header(contents));
     if (is_cut_short)
         return "it is cut short";
     return status != 0 ? "it is no store" : decode_series(contents, series);
@@ -127,19 +126,26 @@ ZEB_String *encoded_series(Series *series)
     return is_encoding_of(series, contents) ? contents : nil;
 }
 
-Store_State load_series(const char *path, Series *series, const char **fault)
+Store_State decode_store(ZEB_Byte_Array *stored, Series *series, const char **fault)
 {
     const Quiet_Diagnostics quiet;
-    ZEB_Byte_Array *const stored = [ZEB_Byte_Array array_with_capacity:0];
-    const File_Outcome outcome = read_file(path, stored, fault);
-    if (outcome != FILE_READ)
-        return outcome == FILE_MISSING ? STORE_MISSING : STORE_UNKNOWN;
     bool is_cut_short = false;
     *fault = load_stored(stored, series, is_cut_short);
     if (*fault == NULL)
         return STORE_WHOLE;
     return is_cut_short ? STORE_CUT_SHORT : STORE_UNKNOWN;
 }
+
+Store_State load_series(const char *path, Series *series, const char **fault)
+{
+    ZEB_Byte_Array *const stored = [ZEB_Byte_Array array_with_capacity:0];
+    const File_Outcome outcome = read_file(path, stored, fault);
+    if (outcome != FILE_READ)
+        return outcome == FILE_MISSING ? STORE_MISSING : STORE_UNKNOWN;
+    return decode_store(stored, series, fault);
+}
+
+bool begins_as_store(ZEB_Byte_Array *stored) { return [stored is_not_empty] && agrees_with_stream(stored); }
 
 const char *write_store(const char *path, ZEB_String *contents)
 {

@@ -15,5 +15,8 @@ File_Outcome read_file(const char *path, ZEB_Byte_Array *contents, const char **
 /** Returns a path with a suffix, valid until the pool is drained; null if allocation fails. */
 const char *path_with_suffix(const char *path, const char *suffix);
 
+/** What messages begin with: each program defines its own. */
+extern const char *const program_name;
+
 /** Reports a path's fault on standard error, and returns false. */
 bool complain(const char *path, const char *fault);

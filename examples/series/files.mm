@@ -50,6 +50,6 @@ const char *path_with_suffix(const char *path, const char *suffix)
 
 bool complain(const char *path, const char *fault)
 {
-    fprintf(stderr, "series_store: %s: %s\n", path, fault);
+    fprintf(stderr, "%s: %s: %s\n", program_name, path, fault);
     return false;
 }

@@ -10,7 +10,7 @@ namespace
 {
 
 constexpr char byte_order_mark[] = {'\xEF', '\xBB', '\xBF'};
-constexpr uint32_t greatest_told_length = 80;
+constexpr uint32_t greatest_told_length = 80, greatest_told_count = 20;
 constexpr double seconds_per_day = 86400;
 
 struct Line {
@@ -76,47 +76,82 @@ bool append_row(Series *series, Line line)
     return true;
 }
 
+void read_header(Series *series, Line line)
+{
+    const char *const comma = static_cast<const char *>(memchr(line.text, ',', line.length));
+    if (comma != NULL)
+        [[series value_name] set_chars:comma + 1
+                                 count:static_cast<uint32_t>(line.text + line.length - comma - 1)];
+}
+
 void tell_unreadable(const char *path, uint32_t number, Line line)
 {
-    fprintf(stderr, "series_store: %s, line %u cannot be read: %.*s\n", path, number,
+    fprintf(stderr, "%s: %s, line %u cannot be read: %.*s\n", program_name, path, number,
             static_cast<int>(std::min(line.length, greatest_told_length)), line.text);
 }
 
+struct Lines_Read {
+    uint32_t rows = 0;
+    uint32_t unreadable = 0;
+};
+
+Lines_Read read_lines(const char *path, const char *text, uint32_t length, Series *series)
+{
+    Lines_Read read;
+    const bool is_marked =
+        length >= sizeof byte_order_mark && memcmp(text, byte_order_mark, sizeof byte_order_mark) == 0;
+    uint32_t at = is_marked ? sizeof byte_order_mark : 0;
+    for (uint32_t number = 1; at < length; ++number) {
+        const Line line = next_line(text, length, at);
+        if (line.length == 0)
+            continue;
+        if (number == 1 && !begins_with_date(line)) {
+            read_header(series, line);
+        } else if (append_row(series, line)) {
+            ++read.rows;
+        } else {
+            if (read.unreadable++ < greatest_told_count)
+                tell_unreadable(path, number, line);
+        }
+    }
+    if (read.unreadable > greatest_told_count)
+        fprintf(stderr, "%s: %s, more lines that cannot be read: %u\n", program_name, path,
+                read.unreadable - greatest_told_count);
+    return read;
+}
+
+/// Returns the fault of a file whose lines were read, or null.
+const char *fault_of(Lines_Read read, uint32_t length, Series *series)
+{
+    // An array that could not grow reported it and skipped the element.
+    if ([[series instants] count] != read.rows || [[series values] count] != read.rows)
+        return "there is no memory for its rows";
+    const bool may_be_empty = length == 0 || [[series value_name] is_not_empty];
+    return read.rows == 0 && (read.unreadable != 0 || !may_be_empty) ? "no line of it can be read" : NULL;
+}
+
 } // namespace
+
+Csv_Outcome parse_csv(const char *path, ZEB_Byte_Array *contents, Series *series)
+{
+    const char *const text = reinterpret_cast<const char *>([contents byte_data]);
+    const Lines_Read read = read_lines(path, text, [contents count], series);
+    const char *const fault = fault_of(read, [contents count], series);
+    if (fault != NULL) {
+        complain(path, fault);
+        return CSV_FAILED;
+    }
+    if (read.rows == 0)
+        return CSV_EMPTY;
+    return read.unreadable == 0 ? CSV_READ : CSV_READ_IN_PART;
+}
 
 Csv_Outcome read_csv(const char *path, Series *series)
 {
     const char *fault;
     ZEB_Byte_Array *const contents = [ZEB_Byte_Array array_with_capacity:0];
-    if (read_file(path, contents, &fault) != FILE_READ) {
-        complain(path, fault);
-        return CSV_FAILED;
-    }
-    const char *const text = reinterpret_cast<const char *>([contents byte_data]);
-    const uint32_t length = [contents count];
-    const bool is_marked =
-        length >= sizeof byte_order_mark && memcmp(text, byte_order_mark, sizeof byte_order_mark) == 0;
-    uint32_t row_count = 0;
-    Csv_Outcome outcome = CSV_READ;
-    uint32_t at = is_marked ? sizeof byte_order_mark : 0;
-    for (uint32_t number = 1; at < length; ++number) {
-        const Line line = next_line(text, length, at);
-        if (line.length == 0 || (number == 1 && !begins_with_date(line)))
-            continue;
-        if (append_row(series, line)) {
-            ++row_count;
-            continue;
-        }
-        tell_unreadable(path, number, line);
-        outcome = CSV_READ_IN_PART;
-    }
-    // An array that could not grow reported it and skipped the element.
-    if ([[series instants] count] != row_count || [[series values] count] != row_count)
-        fault = "there is no memory for its rows";
-    else if (row_count == 0)
-        fault = "no line of it can be read";
-    if (fault == NULL)
-        return outcome;
+    if (read_file(path, contents, &fault) == FILE_READ)
+        return parse_csv(path, contents, series);
     complain(path, fault);
     return CSV_FAILED;
 }

@@ -1,6 +1,6 @@
 #import "axis.h"
 
-#import "text_width.h"
+#import "texts.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #import "date_axis.h"
 #import "extremes.h"
 #import "picture.h"
-#import "text_width.h"
+#import "texts.h"
 #import "value_axis.h"
 
 #import <Korvane_ZEB/ZEB_Array_Spans.hpp>
@@ -25,13 +25,6 @@ constexpr const char *label_attributes = "font-size=\"12\" fill=\"#333\"";
 constexpr const char *grid_attributes = "stroke=\"#ddd\"";
 constexpr const char *frame_attributes = "fill=\"none\" stroke=\"#888\"";
 constexpr const char *curve_attributes = "fill=\"#1f5fa8\" stroke=\"#1f5fa8\" stroke-linejoin=\"round\"";
-
-ZEB_Wide_String *wide_text(const char *chars)
-{
-    ZEB_Wide_String *const text = [ZEB_Wide_String array_with_capacity:16];
-    [text copy_c_string:chars length:static_cast<uint32_t>(strlen(chars))];
-    return text;
-}
 
 void draw_date_ticks(Picture *picture, Axis *dates)
 {

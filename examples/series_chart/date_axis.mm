@@ -1,12 +1,11 @@
 #import "date_axis.h"
 
 #import "date_steps.h"
-#import "text_width.h"
+#import "texts.h"
 #import "unit_names.h"
 
 #include <algorithm>
 #include <stdio.h>
-#include <string.h>
 
 namespace
 {
@@ -38,13 +37,6 @@ const char *month_name_of(ZEB_Date *date)
 {
     const int32_t month = [date month];
     return month_names[month - 1];
-}
-
-ZEB_Wide_String *wide_text(const char *chars)
-{
-    ZEB_Wide_String *const text = [ZEB_Wide_String array_with_capacity:16];
-    [text copy_c_string:chars length:static_cast<uint32_t>(strlen(chars))];
-    return text;
 }
 
 /// What is written at a tick: the time, day, month or year.

@@ -8,7 +8,7 @@
  *
  * The exit status is
  *   0  if the picture shows the series;
- *   2  if it does, but lines of the CSV were skipped;
+ *   2  if it does, but lines of the CSV, or points of the store without a date, were left out;
  *   1  if something failed; a picture that was there is then unchanged.
  */
 #import "chart.h"
@@ -16,6 +16,7 @@
 #import "files.h"
 #import "preparing.h"
 #import "store.h"
+#import "texts.h"
 #import "unit_names.h"
 
 #import <Korvane_ZEB/ZEB_Array_Spans.hpp>
@@ -29,23 +30,9 @@ const char *const program_name = "series_chart";
 namespace
 {
 
-enum Exit_Status { all_well = 0, failed = 1, lines_left_out = 2 };
+enum Exit_Status { all_well = 0, failed = 1, points_left_out = 2 };
 
 constexpr char picture_start[] = "<svg xmlns=\"http://www.w3.org/2000/svg\"";
-
-/// Returns UTF-8 text as code points; byte by byte where it is none.
-ZEB_Wide_String *wide_text(const char *chars, uint32_t length)
-{
-    ZEB_Wide_String *const text = [ZEB_Wide_String array_with_capacity:length + 1];
-    if (![text set_code_points_from_utf8:[ZEB_String link_to_chars:const_cast<char *>(chars) count:length]])
-        [text copy_c_string:chars length:length];
-    return text;
-}
-
-ZEB_Wide_String *wide_text(const char *chars)
-{
-    return wide_text(chars, static_cast<uint32_t>(strlen(chars)));
-}
 
 /// Returns a file's name without its folder and extension.
 ZEB_Wide_String *name_of(const char *path)
@@ -64,7 +51,7 @@ Exit_Status read_series(const char *path, Series *series)
         const Csv_Outcome outcome = parse_csv(path, contents, series);
         if (outcome == CSV_FAILED)
             return failed;
-        return outcome == CSV_READ_IN_PART ? lines_left_out : all_well;
+        return outcome == CSV_READ_IN_PART ? points_left_out : all_well;
     }
     is_read = is_read && decode_store(contents, series, &fault) == STORE_WHOLE;
     if (!is_read)
@@ -119,19 +106,31 @@ bool write_picture(const char *path, ZEB_String *picture)
     return (answer == 1 && error == 0) || complain(path, strerror(error));
 }
 
+/// Returns the picture of a series; null if there is no memory for all of it.
+ZEB_String *picture_of(Series *series, ZEB_Wide_String *title, ZEB_Wide_String *values_title)
+{
+    ZEB_String *const picture = chart_of_series(series, title, values_title);
+    // What the framework refused it reported and counted, and the picture lacks it.
+    return [[ZEB_Error_Stream shared_error_stream] warning_count] == 0 ? picture : nil;
+}
+
 /// `arguments` are those of the command, null where there are none.
 Exit_Status run(const char *const (&arguments)[4])
 {
     const auto [series_path, picture_path, title, unit] = arguments;
     Series *const series = [[[Series alloc] init] autorelease];
-    const Exit_Status status = read_series(series_path, series);
+    Exit_Status status = read_series(series_path, series);
     ZEB_Wide_String *const values_title = status != failed ? title_of_values(series, unit) : nil;
     if (values_title == nil)
         return failed;
-    ZEB_String *const picture =
-        prepare_series(series)
-            ? chart_of_series(series, title != NULL ? wide_text(title) : name_of(series_path), values_title)
-            : nil;
+    const uint32_t count = [[series instants] count];
+    const bool is_prepared = prepare_series(series);
+    if ([[series instants] count] != count) {
+        complain(series_path, "points without a date are left out");
+        status = points_left_out;
+    }
+    ZEB_Wide_String *const head = title != NULL ? wide_text(title) : name_of(series_path);
+    ZEB_String *const picture = is_prepared ? picture_of(series, head, values_title) : nil;
     if (picture == nil)
         complain(picture_path, strerror(ENOMEM));
     return picture != nil && write_picture(picture_path, picture) ? status : failed;

@@ -1,6 +1,8 @@
-#import "text_width.h"
+#import "texts.h"
 
 #import <Korvane_ZEB/ZEB_Array_Spans.hpp>
+
+#include <string.h>
 
 namespace
 {
@@ -27,6 +29,19 @@ double width_of(uint32_t code)
 
 } // namespace
 
+ZEB_Wide_String *wide_text(const char *chars, uint32_t length)
+{
+    ZEB_Wide_String *const text = [ZEB_Wide_String array_with_capacity:length + 1];
+    if (![text set_code_points_from_utf8:[ZEB_String link_to_chars:const_cast<char *>(chars) count:length]])
+        [text copy_c_string:chars length:length];
+    return text;
+}
+
+ZEB_Wide_String *wide_text(const char *chars)
+{
+    return wide_text(chars, static_cast<uint32_t>(strlen(chars)));
+}
+
 double text_width(ZEB_Wide_Char_Vector *text, double font_size)
 {
     double width = 0;
@@ -39,8 +54,7 @@ void cut_to_width(ZEB_Wide_String *text, double font_size, double width)
 {
     if (text_width(text, font_size) <= width)
         return;
-    ZEB_Wide_String *const dots = [ZEB_Wide_String array_with_capacity:4];
-    [dots copy_c_string:"..." length:3];
+    ZEB_Wide_String *const dots = wide_text("...");
     while ([text is_not_empty] && text_width(text, font_size) + text_width(dots, font_size) > width)
         [text decrement_count];
     [text append_array:dots];

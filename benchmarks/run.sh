@@ -13,7 +13,7 @@ if [[ "${1:-}" == --room=* ]]; then
     shift
 fi
 build=build/benchmarks
-cmake --preset release -B $build -DZEB_BUILD_BENCHMARKS=ON -DZEB_BUILD_TESTS=OFF >&2
+cmake --preset release -B $build -DZEB_BUILD_BENCHMARKS=ON -DZEB_BUILD_TESTS=OFF -DZEB_BUILD_EXAMPLES=ON >&2
 cmake --build $build --target "${rooms[@]/%/_benchmarks}" >&2
 # One processor for all of a run, where the system can be told so. Memory that was freed stays at hand, so
 # that no contender pays for fresh pages.

@@ -28,10 +28,10 @@ uint32_t split(std::span<const Character> text, std::span<const Character> separ
 template <class String, class Strings, class Character>
 void join(String *target, Strings *strings, std::span<const Character> separator, SEL selector)
 {
-    const auto characters_of = [](String *string) { return text_of(string); };
+    const auto storage_of_string = [](String *string) { return storage_of_array(string); };
     const auto elements =
         strings != nil ? std::span<String *const>(strings->data, strings->count) : std::span<String *const>();
-    engine::join_texts(storage_of_array(target), elements, separator, characters_of,
+    engine::join_texts(storage_of_array(target), elements, separator, storage_of_string,
                        engine::Fix_Report{target, selector});
 }
 

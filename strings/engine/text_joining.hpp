@@ -3,6 +3,7 @@
 
 #include "arrays/engine/overlap.hpp"
 #include "strings/engine/c_strings.hpp"
+#include "strings/engine/text_prefetch.hpp"
 
 #include <cstring>
 #include <span>
@@ -14,29 +15,31 @@ namespace joining_detail
 {
 
 /// The texts of some strings, and what stands between them.
-template <class Element, class Character, class Text_Of>
+template <class Element, class Character, class Storage_Of>
 struct Joined_Text {
     std::span<Element const> strings;
     std::span<const Character> separator;
-    Text_Of text_of;
+    Storage_Of storage_of;
 
     /// Calls `visit(characters)` for each piece of the joined text.
     template <class Visit>
     void for_each_piece(Visit visit) const noexcept
     {
-        bool is_first = true;
-        for (const Element &string : strings) {
-            if (!is_first)
+        for (std::size_t i = 0; i < strings.size(); ++i) {
+            prefetch_text(strings.data(), i, strings.size(), storage_of);
+            if (i != 0)
                 visit(separator);
-            visit(text_of(string));
-            is_first = false;
+            if (strings[i] != Element{})
+                visit(std::span<const Character>(storage_of(strings[i]).elements()));
         }
     }
 
     void put(Character *out) const noexcept
     {
         for_each_piece([&out](std::span<const Character> piece) {
-            if (!piece.empty())
+            if (piece.size() == 1) // as most separators
+                *out = piece[0];
+            else if (!piece.empty())
                 std::memcpy(out, piece.data(), piece.size_bytes());
             out += piece.size();
         });
@@ -60,20 +63,22 @@ void set_in_new_block(Text_Storage<Character> string, const Joined &joined, std:
 
 } // namespace joining_detail
 
-/// Sets the string to the texts of the strings with the separator between them. `text_of` returns the
-/// characters of one. A link refuses.
-template <class Character, class Element, class Text_Of, class Report>
+/// Sets the string to the texts of the strings with the separator between them. `storage_of` returns
+/// the storage of one. A link refuses.
+template <class Character, class Element, class Storage_Of, class Report>
 void join_texts(Text_Storage<Character> string, std::span<Element const> strings,
-                std::span<const Character> separator, Text_Of text_of, Report report) noexcept
+                std::span<const Character> separator, Storage_Of storage_of, Report report) noexcept
 {
     if (string.is_link())
         return report(notes::join_strings_through_link);
-    const joining_detail::Joined_Text<Element, Character, Text_Of> joined{strings, separator, text_of};
+    const joining_detail::Joined_Text<Element, Character, Storage_Of> joined{strings, separator, storage_of};
+    const void *const block = string.data;
+    const std::size_t block_size = string.block_size();
     std::uint64_t length = 0;
     bool is_own = false;
     joined.for_each_piece([&](std::span<const Character> piece) {
         length += piece.size();
-        is_own |= overlaps(piece, string.data, string.block_size());
+        is_own |= overlaps(piece, block, block_size);
     });
     if (is_own)
         return joining_detail::set_in_new_block(string, joined, length, report);

@@ -35,14 +35,19 @@ std::uint32_t first_start(std::span<const Character> text, std::span<const Chara
                                       static_cast<std::uint32_t>(begin));
 }
 
-/// Returns the last start below `end`, given one. Searches forwards, in the upper half of what is left.
+/// Returns the last start below `end`, given one. Searches forwards: there is mostly none; where there are
+/// many, each time at least half of what is left is passed over.
 template <class Character>
 std::uint32_t last_start(std::span<const Character> text, std::span<const Character> part,
                          std::uint32_t found, std::size_t end) noexcept
 {
     while (found + 1 < end) {
+        std::uint32_t next = first_start(text, part, found + 1, end);
+        if (next == ZEB_NOT_FOUND)
+            break;
+        found = next;
         const std::size_t middle = end - (end - found) / 2;
-        const std::uint32_t next = first_start(text, part, middle, end);
+        next = middle < end ? first_start(text, part, middle, end) : ZEB_NOT_FOUND;
         if (next == ZEB_NOT_FOUND)
             end = middle;
         else

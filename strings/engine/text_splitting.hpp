@@ -6,6 +6,7 @@
 #include "arrays/engine/storage/insertion.hpp"
 #include "strings/engine/string_notes.hpp"
 #include "strings/engine/string_storage.hpp"
+#include "strings/engine/text_prefetch.hpp"
 
 #include <algorithm>
 #include <cstring>
@@ -54,17 +55,17 @@ private:
 namespace splitting_detail
 {
 
-/// Calls `visit(string, characters)` for each piece and the string that takes it. Stops where that returns
-/// false, and returns false then.
-template <class Element, class Character, class Visit>
+/// Calls `visit(storage, characters)` for each piece and the string that takes it. Stops where that returns
+/// false or a string is nil, as it may be in storage set by the caller, and returns false then.
+template <class Element, class Character, class Storage_Of, class Visit>
 bool for_each_piece(Element *strings, std::span<const Character> text, std::span<const std::uint32_t> ends,
-                    std::size_t separator_size, Visit visit) noexcept
+                    std::size_t separator_size, Storage_Of storage_of, Visit visit) noexcept
 {
     std::size_t begin = 0;
-    for (const std::uint32_t end : ends) {
-        if (!visit(*strings++, text.subspan(begin, end - begin)))
+    for (std::size_t i = 0; i < ends.size(); begin = ends[i++] + separator_size) {
+        prefetch_text(strings, i, ends.size(), storage_of);
+        if (strings[i] == Element{} || !visit(storage_of(strings[i]), text.subspan(begin, ends[i] - begin)))
             return false;
-        begin = end + separator_size;
     }
     return true;
 }
@@ -89,42 +90,12 @@ void set_characters(Text_Storage<Character> string, std::span<const Character> c
     string.count = static_cast<std::uint32_t>(characters.size());
 }
 
-/// A text, copied if it lies in a string of the array.
-template <class Character>
-class Foreign_Text
-{
-public:
-    template <class Kind, class Storage_Of>
-    Foreign_Text(std::span<const Character> text, Array_Storage<Kind> array, Storage_Of storage_of) noexcept
-        : lies_in_array(is_in(text, array, storage_of)), given(text),
-          copy({}, lies_in_array ? text : std::span<const Character>())
-    {
-    }
-    bool is_valid() const noexcept { return copy.is_valid(); }
-    std::span<const Character> characters() const noexcept { return lies_in_array ? copy.elements() : given; }
-
-private:
-    template <class Kind, class Storage_Of>
-    static bool is_in(std::span<const Character> text, Array_Storage<Kind> array, Storage_Of storage_of)
-    {
-        const std::uint32_t slots = std::max(array.count, array.kind.made());
-        return std::any_of(array.data, array.data + slots, [&](const auto &string) {
-            return string != typename Kind::Element{} &&
-                   overlaps(text, storage_of(string).data, storage_of(string).block_size());
-        });
-    }
-
-    bool lies_in_array;
-    std::span<const Character> given;
-    Element_Copy<Plain_Elements<Character>> copy;
-};
-
 } // namespace splitting_detail
 
 /// Sets the strings of an array to the pieces of a text and returns their number. `storage_of` returns the
 /// storage of a string. A link refuses; then, and if allocation fails, returns 0 and changes nothing.
 template <class Kind, class Character, class Storage_Of, class Report>
-std::uint32_t split_text(std::span<const Character> given, std::span<const Character> given_separator,
+std::uint32_t split_text(std::span<const Character> text, std::span<const Character> separator,
                          Array_Storage<Kind> array, Storage_Of storage_of, Report report) noexcept
 {
     using namespace splitting_detail;
@@ -136,29 +107,32 @@ std::uint32_t split_text(std::span<const Character> given, std::span<const Chara
         report(notes::reallocate_failed);
         return std::uint32_t{0};
     };
-    const Foreign_Text<Character> text(given, array, storage_of),
-        separator(given_separator, array, storage_of);
-    if (!text.is_valid() || !separator.is_valid())
-        return failed();
-    const Piece_Ends ends(text.characters(), separator.characters());
+    const Piece_Ends ends(text, separator);
     if (!ends.is_valid())
         return failed();
     const auto count = static_cast<std::uint32_t>(ends.elements().size());
     if (!grow(array, count, report) || !open_up_to(array, count, report))
         return 0;
     const auto each_piece = [&](auto visit) {
-        return for_each_piece(array.data, text.characters(), ends.elements(), separator.characters().size(),
-                              visit);
+        return for_each_piece(array.data, text, ends.elements(), separator.size(), storage_of, visit);
     };
-    using String = typename Kind::Element;
+    using Storage = Text_Storage<Character>;
     using Piece = std::span<const Character>;
-    const auto make_room = [&](String string, Piece piece) { // in storage set by the caller it may be nil
-        return string != String{} && has_room(storage_of(string), static_cast<std::uint32_t>(piece.size()));
+    bool is_own = false; // whether the text lies in a string that takes a piece
+    const auto make_room = [&](Storage string, Piece piece) {
+        is_own = overlaps(text, string.data, string.block_size());
+        return !is_own && has_room(string, static_cast<std::uint32_t>(piece.size()));
     };
-    if (!each_piece(make_room))
+    bool is_ready = each_piece(make_room);
+    const Element_Copy<Plain_Elements<Character>> copy({}, is_own ? text : Piece());
+    if (is_own && copy.is_valid()) {
+        text = copy.elements();
+        is_ready = each_piece(make_room);
+    }
+    if (!is_ready)
         return failed();
-    each_piece([&](String string, Piece piece) {
-        set_characters(storage_of(string), piece);
+    each_piece([](Storage string, Piece piece) {
+        set_characters(string, piece);
         return true;
     });
     array.count = count;

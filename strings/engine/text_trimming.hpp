@@ -2,7 +2,6 @@
 #pragma once
 
 #include "arrays/engine/algorithms/search.hpp"
-#include "core/engine/ascii.hpp"
 #include "strings/engine/string_notes.hpp"
 #include "strings/engine/string_storage.hpp"
 
@@ -16,12 +15,15 @@ namespace zeb::engine
 /// Which ends of a text are trimmed.
 enum class Trimmed_Ends { both, left, right };
 
-/// The white space of ASCII.
+/// The white space of ASCII, by one comparison and a table of bits.
 struct Is_White_Space {
-    bool operator()(char character) const noexcept { return is_ascii_space(character); }
     bool operator()(std::uint32_t unit) const noexcept
     {
-        return unit < 0x80 && is_ascii_space(static_cast<char>(unit));
+        return unit <= ' ' && ((std::uint64_t{1} << ' ' | std::uint64_t{0x1F} << '\t') >> unit & 1) != 0;
+    }
+    bool operator()(char character) const noexcept
+    {
+        return (*this)(std::uint32_t{static_cast<unsigned char>(character)});
     }
 };
 
@@ -61,14 +63,15 @@ void trim_text(Text_Storage<Character> string, Trimmed_Ends ends, const Is_Dropp
 {
     if (string.is_link())
         return report(notes::trim_text_through_link);
+    Character *const data = string.data;
     std::size_t begin = 0;
     std::size_t end = string.count;
-    while (ends != Trimmed_Ends::left && end > 0 && is_dropped(string.data[end - 1]))
+    while (ends != Trimmed_Ends::left && end > 0 && is_dropped(data[end - 1]))
         --end;
-    while (ends != Trimmed_Ends::right && begin < end && is_dropped(string.data[begin]))
+    while (ends != Trimmed_Ends::right && begin < end && is_dropped(data[begin]))
         ++begin;
     if (begin != 0)
-        std::memmove(string.data, string.data + begin, (end - begin) * sizeof(Character));
+        std::memmove(data, data + begin, (end - begin) * sizeof(Character));
     string.count = static_cast<std::uint32_t>(end - begin);
 }
 

@@ -54,6 +54,8 @@ void append_platform_string(ZEB_Wide_String *string, NSString *given, engine::Fi
 + (ZEB_String *)string_with_format:(const char *)format, ...
 {
     ZEB_String *const made = [[[self alloc] init] autorelease];
+    if (made == nil)
+        return nil;
     va_list arguments;
     va_start(arguments, format);
     engine::append_formatted(storage_of_array(made), format, arguments, engine::Fix_Report{made, _cmd});
@@ -129,6 +131,8 @@ void append_platform_string(ZEB_Wide_String *string, NSString *given, engine::Fi
 + (ZEB_Wide_String *)string_with_format:(const char *)format, ...
 {
     ZEB_Wide_String *const made = [[[self alloc] init] autorelease];
+    if (made == nil)
+        return nil;
     va_list arguments;
     va_start(arguments, format);
     engine::append_formatted(storage_of_array(made), format, arguments, engine::Fix_Report{made, _cmd});

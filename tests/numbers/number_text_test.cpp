@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 
 using zeb_test::guarded_text;
 
@@ -80,8 +81,13 @@ TEST(Number_Text, shortest_texts_at_the_edges_of_the_notations)
         {-0x1.fffffffffffffp1023, "-1.7976931348623157e+308"},
         {0x1p-44, "5.684341886080802e-14"}, // rounded to 16 digits it is another number
     };
-    for (const auto &[value, expected] : rows)
+    for (const auto &[value, expected] : rows) {
+        double read = 0;
         EXPECT_EQ(shortest(value), expected);
+        ZC_assign_double_from_char_c_array(expected, static_cast<std::uint32_t>(std::strlen(expected)),
+                                           &read);
+        EXPECT_TRUE(read == value || std::isnan(value)) << expected;
+    }
     EXPECT_EQ(shortest(0.1F) + ' ' + shortest(16777216.0F) + ' ' + shortest(0x1p-149F), "0.1 16777216 1e-45");
 }
 

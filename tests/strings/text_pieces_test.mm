@@ -128,8 +128,9 @@ TYPED_TEST(Text_Pieces, are_trimmed_in_place)
     using S = TypeParam;
     S *const ab = made<S>("ab");
     for (const auto &[text, both, left, right, without_ab] : rows) {
-        const auto expect = [&](const std::string &expected, const char *selector, auto trim) {
-            EXPECT_EQ(characters_of(refused<S>(text, selector, no_trim, trim)), expected) << selector << text;
+        const auto expect = [&, given = text](const std::string &expected, const char *selector, auto trim) {
+            EXPECT_EQ(characters_of(refused<S>(given, selector, no_trim, trim)), expected)
+                << selector << given;
         };
         expect(both, "trim_whitespace", [](S *string) { [string trim_whitespace]; });
         expect(left, "trim_whitespace_left", [](S *string) { [string trim_whitespace_left]; });

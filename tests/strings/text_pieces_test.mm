@@ -127,16 +127,16 @@ TYPED_TEST(Text_Pieces, are_trimmed_in_place)
     };
     using S = TypeParam;
     S *const ab = made<S>("ab");
-    for (const auto &[text, both, left, right, without_ab] : rows) {
-        const auto expect = [&, given = text](const std::string &expected, const char *selector, auto trim) {
-            EXPECT_EQ(characters_of(refused<S>(given, selector, no_trim, trim)), expected)
-                << selector << given;
+    for (const Row &row : rows) {
+        const auto expect = [&](const std::string &expected, const char *selector, auto trim) {
+            EXPECT_EQ(characters_of(refused<S>(row.text, selector, no_trim, trim)), expected)
+                << selector << row.text;
         };
-        expect(both, "trim_whitespace", [](S *string) { [string trim_whitespace]; });
-        expect(left, "trim_whitespace_left", [](S *string) { [string trim_whitespace_left]; });
-        expect(right, "trim_whitespace_right", [](S *string) { [string trim_whitespace_right]; });
-        expect(without_ab, "trim_chars_in:", [ab](S *string) { [string trim_chars_in:ab]; });
-        expect(text, "trim_chars_in:", [](S *string) { [string trim_chars_in:nil]; });
+        expect(row.both, "trim_whitespace", [](S *string) { [string trim_whitespace]; });
+        expect(row.left, "trim_whitespace_left", [](S *string) { [string trim_whitespace_left]; });
+        expect(row.right, "trim_whitespace_right", [](S *string) { [string trim_whitespace_right]; });
+        expect(row.without_ab, "trim_chars_in:", [ab](S *string) { [string trim_chars_in:ab]; });
+        expect(row.text, "trim_chars_in:", [](S *string) { [string trim_chars_in:nil]; });
         expect("", "trim_chars_in:", [](S *string) { [string trim_chars_in:link_onto(string)]; });
     }
 }

@@ -190,6 +190,10 @@ TYPED_TEST(Text_Pieces, may_lie_in_the_array_that_takes_them)
         EXPECT_EQ([text split_by_text:separator into:array], 3u);
         EXPECT_EQ(pieces_of(array), (std::vector<std::string>{"1", "2;3", "4"}));
     }
+    auto *const full = array_of<TypeParam>({"sixteen letters."}); // whose block has to grow
+    [zeb::elements(full)[0] trim_allocation];
+    EXPECT_EQ(split_by_char(zeb::elements(full)[0], '/', full), 1u);
+    EXPECT_EQ(characters_of(zeb::elements(full)[0]), "sixteen letters.");
     auto *const linked = array_of<TypeParam>(before);
     [zeb::elements(linked)[0] release];
     TypeParam *const other = made<TypeParam>("kept");

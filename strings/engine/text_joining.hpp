@@ -17,32 +17,54 @@ namespace joining_detail
 /// The texts of some strings, and what stands between them.
 template <class Element, class Character, class Storage_Of>
 struct Joined_Text {
+    using Text = std::span<const Character>;
+
     std::span<Element const> strings;
-    std::span<const Character> separator;
+    Text separator;
     Storage_Of storage_of;
 
-    /// Calls `visit(characters)` for each piece of the joined text.
+    /// Calls `visit(characters)` for the text of each string, which is empty for nil.
     template <class Visit>
-    void for_each_piece(Visit visit) const noexcept
+    void for_each_text(Visit visit) const noexcept
     {
         for (std::size_t i = 0; i < strings.size(); ++i) {
             prefetch_text(strings.data(), i, strings.size(), storage_of);
-            if (i != 0)
-                visit(separator);
-            if (strings[i] != Element{})
-                visit(std::span<const Character>(storage_of(strings[i]).elements()));
+            visit(strings[i] != Element{} ? Text(storage_of(strings[i]).elements()) : Text());
         }
+    }
+
+    /// Returns the length, and sets `overlaps_block` if a part lies in the block.
+    std::uint64_t length(const void *block, std::size_t block_size, bool &overlaps_block) const noexcept
+    {
+        std::uint64_t length = strings.empty() ? 0 : separator.size() * (strings.size() - 1);
+        overlaps_block = overlaps(separator, block, block_size);
+        for_each_text([&](Text text) {
+            length += text.size();
+            overlaps_block |= overlaps(text, block, block_size);
+        });
+        return length;
     }
 
     void put(Character *out) const noexcept
     {
-        for_each_piece([&out](std::span<const Character> piece) {
-            if (piece.size() == 1) // as most separators
-                *out = piece[0];
-            else if (!piece.empty())
-                std::memcpy(out, piece.data(), piece.size_bytes());
-            out += piece.size();
+        Text before;
+        for_each_text([&](Text text) {
+            if (before.size() == 1) // as most separators
+                *out = before[0];
+            else
+                copy(before, out);
+            out += before.size();
+            copy(text, out);
+            out += text.size();
+            before = separator;
         });
+    }
+
+private:
+    static void copy(Text text, Character *out) noexcept
+    {
+        if (!text.empty())
+            std::memcpy(out, text.data(), text.size_bytes());
     }
 };
 
@@ -72,14 +94,8 @@ void join_texts(Text_Storage<Character> string, std::span<Element const> strings
     if (string.is_link())
         return report(notes::join_strings_through_link);
     const joining_detail::Joined_Text<Element, Character, Storage_Of> joined{strings, separator, storage_of};
-    const void *const block = string.data;
-    const std::size_t block_size = string.block_size();
-    std::uint64_t length = 0;
     bool is_own = false;
-    joined.for_each_piece([&](std::span<const Character> piece) {
-        length += piece.size();
-        is_own |= overlaps(piece, block, block_size);
-    });
+    const std::uint64_t length = joined.length(string.data, string.block_size(), is_own);
     if (is_own)
         return joining_detail::set_in_new_block(string, joined, length, report);
     if (!grow_text(string, length, report))

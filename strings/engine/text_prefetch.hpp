@@ -12,7 +12,7 @@ template <class String, class Storage_Of>
 inline void prefetch_text(String const *strings, std::size_t index, std::size_t count,
                           Storage_Of storage_of) noexcept
 {
-    constexpr std::size_t objects_ahead = 16, characters_ahead = 8;
+    constexpr std::size_t objects_ahead = 32, characters_ahead = 12;
     if (index + objects_ahead >= count)
         return;
     __builtin_prefetch(strings[index + objects_ahead]);

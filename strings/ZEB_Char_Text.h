@@ -14,7 +14,8 @@
 @interface ZEB_Char_Vector (Text)
 
 /** Returns the index at which a run of bytes first occurs. An occurrence that ends with the last character is
-    not found, so a text is never found in itself; neither is an empty run. */
+    not found, so a text is never found in itself; neither is an empty run. `find_text:` (ZEB_Text_Search.h)
+    finds the former. */
 - (uint32_t)index_of_substring:(const char *)bytes length:(uint32_t)length;
 
 /** Returns the index at which a number can begin: after leading white space, at "inf", "infinity" or "nan" in

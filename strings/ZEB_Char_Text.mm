@@ -61,7 +61,7 @@ using engine::text_of;
 - (NSComparisonResult)platform_compare:(ZEB_Char_Vector *)other
 {
     return engine::platform_order(
-        engine::compare(text_of(self), text_of(engine::vector_or_nil<ZEB_Char_Vector>(other))));
+        engine::compare(text_of(self), text_of(engine::instance_or_nil<ZEB_Char_Vector>(other))));
 }
 
 - (ZEB_Comparison)compare_ignoring_case:(ZEB_Char_Vector *)other

@@ -29,11 +29,11 @@ inline NSComparisonResult platform_order(ZEB_Comparison order)
     return order == ZEB_COMPARED_LESS ? NSOrderedAscending : NSOrderedDescending;
 }
 
-/// Returns the object as a vector; nil if it is of another class.
-template <class Vector>
-Vector *vector_or_nil(id object)
+/// Returns the object as one of the class wanted; nil if it is of another.
+template <class Wanted>
+Wanted *instance_or_nil(id object)
 {
-    return [object isKindOfClass:[Vector class]] ? static_cast<Vector *>(object) : nil;
+    return [object isKindOfClass:[Wanted class]] ? static_cast<Wanted *>(object) : nil;
 }
 
 } // namespace zeb::engine

@@ -16,7 +16,8 @@
 - (uint32_t)index_of_char:(uint32_t)unit;
 
 /** Returns the index at which a run of units first occurs. An occurrence that ends with the last unit is not
-    found, so a text is never found in itself; neither is an empty run. */
+    found, so a text is never found in itself; neither is an empty run. `find_text:` (ZEB_Text_Search.h) finds
+    the former. */
 - (uint32_t)index_of_substring:(const uint32_t *)units length:(uint32_t)length;
 
 /** Returns 1 if both hold the same units, else 0. */

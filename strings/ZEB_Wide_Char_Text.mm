@@ -40,7 +40,7 @@ using engine::text_of;
 - (NSComparisonResult)platform_compare:(ZEB_Wide_Char_Vector *)other
 {
     return engine::platform_order(
-        engine::compare(text_of(self), text_of(engine::vector_or_nil<ZEB_Wide_Char_Vector>(other))));
+        engine::compare(text_of(self), text_of(engine::instance_or_nil<ZEB_Wide_Char_Vector>(other))));
 }
 
 @end

@@ -12,6 +12,7 @@ namespace zeb_bench
 void add_comparison_rows();
 void add_replacement_rows();
 void add_conversion_rows();
+void add_text_rows();
 
 /// Words of small letters and spaces, as frequent as in English.
 std::string words(std::size_t length);

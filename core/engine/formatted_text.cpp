@@ -19,6 +19,7 @@ Formatted_Text::Formatted_Text(std::span<char> buffer, const char *format, va_li
     if (length >= 0 && static_cast<std::size_t>(length) >= buffer.size()) {
         const std::size_t size = static_cast<std::size_t>(length) + 1;
         long_text.reset(new (std::nothrow) char[size]);
+        no_memory = long_text == nullptr;
         length = long_text != nullptr ? std::vsnprintf(long_text.get(), size, format, again) : -1;
     }
     va_end(again);

@@ -21,6 +21,9 @@ public:
     /// Whether the text could be printed: neither the C library nor the allocator failed.
     bool is_valid() const noexcept { return length >= 0; }
 
+    /// Whether it is the allocator that failed.
+    bool lacks_memory() const noexcept { return no_memory; }
+
     const char *characters() const noexcept { return long_text != nullptr ? long_text.get() : short_text; }
 
     /// Returns the number of characters without the terminating null; 0 for an invalid text.
@@ -30,6 +33,7 @@ private:
     const char *short_text;
     std::unique_ptr<char[]> long_text;
     int length;
+    bool no_memory = false;
 };
 
 } // namespace zeb::engine

@@ -2,7 +2,6 @@
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
 #include <stdio.h>
-#include <string.h>
 
 // A file that is already there becomes "PATH~".
 static bool set_aside(ZEB_String *path)
@@ -63,13 +62,10 @@ static bool run(ZEB_String *path)
 int main(int count, const char **arguments)
 {
     NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
-    ZEB_String *const path = [[ZEB_String alloc] init];
-    if (count == 2)
-        [path set_chars:arguments[1] count:(uint32_t)strlen(arguments[1])];
-    const bool is_done = run(path);
+    const char *const given = count == 2 ? arguments[1] : "";
+    const bool is_done = run([ZEB_String string_with_c_string:given]);
     if (!is_done)
-        fprintf(stderr, "first_program: \"%s\" is not stored\n", count == 2 ? arguments[1] : "");
-    [path release];
+        fprintf(stderr, "first_program: \"%s\" is not stored\n", given);
     [pool drain];
     return is_done ? 0 : 1;
 }

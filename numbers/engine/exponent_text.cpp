@@ -20,6 +20,8 @@ char *put_mantissa(char *out, std::uint64_t fifteen_digits) noexcept
     return store_kept(out, sixteen_digits(decimals * 100));
 }
 
+} // namespace
+
 char *put_exponent(char *out, int exponent) noexcept
 {
     *out++ = 'e';
@@ -33,8 +35,6 @@ char *put_exponent(char *out, int exponent) noexcept
     *out++ = static_cast<char>('0' + magnitude % 10);
     return out;
 }
-
-} // namespace
 
 template <int significant_digits>
 char *put_exponent_form(char *out, Rounded_Decimal decimal) noexcept

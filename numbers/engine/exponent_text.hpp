@@ -13,6 +13,9 @@ namespace zeb::engine
 template <int significant_digits>
 char *put_exponent_form(char *out, double x) noexcept;
 
+/// Writes 'e', a sign and two or three digits; returns the position after the last one.
+char *put_exponent(char *out, int exponent) noexcept;
+
 /// Writes a number already rounded to that many digits in the same form.
 template <int significant_digits>
 char *put_exponent_form(char *out, Rounded_Decimal decimal) noexcept;

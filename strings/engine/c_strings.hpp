@@ -59,13 +59,13 @@ void copy_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_
     end_with_characters(string, 0, bytes, length, report);
 }
 
-/// Appends the given bytes.
+/// Appends the given bytes. A link refuses with the note given.
 template <class Element, class Report>
-void append_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_t length,
-                     Report report) noexcept
+void append_c_string(Text_Storage<Element> string, const char *bytes, std::uint32_t length, Report report,
+                     Char_Span refusal = notes::append_c_string_through_link) noexcept
 {
     if (string.is_link())
-        return report(notes::append_c_string_through_link);
+        return report(refusal);
     end_with_characters(string, string.count, bytes, length, report);
 }
 

@@ -4,6 +4,7 @@
 #include "arrays/engine/allocator.hpp"
 #include "arrays/engine/storage/own_source.hpp"
 #include "arrays/engine/storage/resizing.hpp"
+#include "strings/engine/c_strings.hpp"
 #include "strings/engine/string_storage.hpp"
 #include "strings/engine/utf.hpp"
 
@@ -100,22 +101,44 @@ bool set_to_utf16_of_utf8(Wide_Char_Storage string, std::span<const char> utf8, 
     return write_decoded(string, utf8, utf16_length_of_utf8(utf8), utf16_from_utf8, report);
 }
 
+/// Stores each byte as an unsigned number.
+inline bool units_from_bytes(std::span<const char> bytes, std::uint32_t *units) noexcept
+{
+    for (const char byte : bytes)
+        *units++ = static_cast<unsigned char>(byte);
+    return true;
+}
+
 /// Sets the string to the UTF-16 units of UTF-8 or, for text that is not UTF-8, to its bytes as unsigned
 /// numbers. A link refuses as it does a new length.
 template <class Report>
 void set_to_utf16_or_bytes(Wide_Char_Storage string, std::span<const char> text, Report report) noexcept
 {
-    const auto widen = [](std::span<const char> bytes, std::uint32_t *units) {
-        for (const char byte : bytes)
-            *units++ = static_cast<unsigned char>(byte);
-        return true;
-    };
     if (string.is_link())
         report(notes::length_through_link);
     else if (is_valid_utf8(text))
         write_decoded(string, text, utf16_length_of_utf8(text), utf16_from_utf8, report);
     else
-        write_decoded(string, text, text.size(), widen, report);
+        write_decoded(string, text, text.size(), units_from_bytes, report);
+}
+
+/// Appends the UTF-16 units of UTF-8 or, of text that is not UTF-8, its bytes as unsigned numbers. A link
+/// refuses with the note given.
+template <class Report>
+void append_utf16_or_bytes(Wide_Char_Storage string, std::span<const char> text, Report report,
+                           Char_Span refusal) noexcept
+{
+    if (string.is_link())
+        return report(refusal);
+    const Unaliased_Values<char> source({}, text, string.data, string.block_size());
+    if (!source.is_valid())
+        return report(notes::reallocate_failed);
+    const bool is_utf8 = is_valid_utf8(text);
+    const std::size_t length = is_utf8 ? utf16_length_of_utf8(text) : text.size();
+    if (!grow_text(string, std::uint64_t{string.count} + length, report))
+        return;
+    (is_utf8 ? utf16_from_utf8 : units_from_bytes)(source.elements(), string.data + string.count);
+    string.count += static_cast<std::uint32_t>(length);
 }
 
 /// Sets the string to the UTF-8 of UTF-16 units, of which only the low 16 bits count; a link becomes an

@@ -205,6 +205,7 @@ TEST(Date, comparisons_look_at_the_day_number_and_the_time)
     for (int i = 0; i < 5; ++i) {
         for (int j = 0; j < 5; ++j) {
             EXPECT_EQ([ascending[i] is_at_or_before_date:ascending[j]], i <= j);
+            EXPECT_EQ([ascending[i] platform_compare:ascending[j]], (i > j) - (i < j));
             EXPECT_EQ([ascending[i] is_equal_to_date:ascending[j]], i == j);
             EXPECT_EQ([ascending[i] isEqual:ascending[j]], i == j);
             EXPECT_EQ([ascending[i] hash] == [ascending[j] hash], i == j);
@@ -221,6 +222,20 @@ TEST(Date, comparisons_look_at_the_day_number_and_the_time)
     EXPECT_FALSE([first isEqual:nil] || [first is_at_or_before_date:nil]);
     EXPECT_EQ([first days_since:nil], 2451545);
     EXPECT_FALSE([never_set() is_equal_to_date:nil] || [first isEqual:@"1/1/2000"]);
+}
+
+TEST(Time_Stamp, platform_sorts_order_stamps_as_dates)
+{
+    const auto stamp = [](uint64_t second, uint64_t nanosecond) {
+        return [[[ZEB_Time_Stamp alloc] init_with_time:second nanosecond:nanosecond] autorelease];
+    };
+    NSArray *const in_order =
+        [NSArray arrayWithObjects:stamp(0, 0), stamp(7, 0), stamp(7, 1), stamp(8, 0), nil];
+    NSArray *const shuffled = [[in_order reverseObjectEnumerator] allObjects];
+    EXPECT_TRUE([[shuffled sortedArrayUsingSelector:@selector(platform_compare:)] isEqual:in_order]);
+    EXPECT_EQ([stamp(0, 0) platform_compare:nil], NSOrderedSame);
+    EXPECT_EQ([stamp(0, 1) platform_compare:(id) @"7"], NSOrderedDescending);
+    EXPECT_EQ([never_set() platform_compare:(id) @"7"], NSOrderedSame);
 }
 
 TEST(Date_Coding, dates_come_back_as_themselves_from_both_kinds_of_archive)

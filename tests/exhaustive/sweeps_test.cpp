@@ -6,11 +6,13 @@
 #include "core/engine/namespace.hpp"
 #include "numbers/ZEB_Number_Functions.h"
 #include "numbers/engine/general_text.hpp"
+#include "numbers/engine/shortest_text.hpp"
 #include "tests/reference/calendar.hpp"
 #include "tests/reference/number_text.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstring>
@@ -127,6 +129,23 @@ std::string general_text(std::uint64_t index)
     return text_difference(expected, write, value);
 }
 
+// Every float, and doubles: mostly those of the other writers, and every power of two with its neighbours.
+std::string shortest_text(std::uint64_t index)
+{
+    const auto write = [](char *text, auto x) { // which writes past its text
+        char longer[engine::longest_shortest_text];
+        char *const end = std::copy(longer, engine::put_shortest(longer, x), text);
+        return &(*end = '\0');
+    };
+    if (index % 2 == 0)
+        return text_difference(reference::shortest(float_at(index / 2)), write, float_at(index / 2));
+    const std::uint64_t power = index / 16 % 2200;
+    const double value = index % 16 == 1
+                             ? step_around(std::ldexp(1.0, static_cast<int>(power) - 1080), mixed(index))
+                             : double_at(index);
+    return text_difference(reference::shortest(-value), write, -value);
+}
+
 // Every count of decimals, in the range that has a fixed text; half of the numbers have few decimals or ties.
 std::string fixed_text(std::uint64_t index)
 {
@@ -159,6 +178,7 @@ const Sweep all_sweeps[] = {
     {"double_text", 128000000, double_text},
     {"fixed_text", 128000000, fixed_text},
     {"general_text", 2 * all_32_bit_values, general_text},
+    {"shortest_text", 2 * all_32_bit_values, shortest_text},
 };
 
 #ifdef ZEB_SWEEP_ALL

@@ -1,10 +1,13 @@
+#include "core/engine/namespace.hpp"
 #include "numbers/ZEB_Number_Functions.h"
+#include "numbers/engine/shortest_text.hpp"
 #include "tests/support/guarded_text.hpp"
 #include "tests/support/random_text.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 
 using zeb_test::guarded_text;
 
@@ -21,6 +24,13 @@ std::string fixed(std::uint32_t n, float x) { return guarded_text(size, ZC_forma
 std::string fraction(std::uint32_t n, double x)
 {
     return guarded_text(size, ZC_format_fraction_double, n, x);
+}
+
+template <class Number>
+std::string shortest(Number x)
+{
+    char text[engine::longest_shortest_text];
+    return {text, engine::put_shortest(text, x)};
 }
 
 } // namespace
@@ -46,6 +56,39 @@ TEST(Number_Text, known_texts_at_the_edges_of_the_ranges)
     for (const auto &[texts, expected] : rows)
         EXPECT_EQ(texts, zeb_test::words_of(expected));
     EXPECT_EQ(fraction(3, 0.0001), "");
+}
+
+TEST(Number_Text, shortest_texts_at_the_edges_of_the_notations)
+{
+    const std::pair<double, const char *> rows[] = {
+        {0.0, "0"},
+        {-0.0, "-0"},
+        {infinity, "Inf"},
+        {-infinity, "-Inf"},
+        {not_a_number, "NaN"},
+        {0.1, "0.1"},
+        {1e-4, "0.0001"},
+        {-1.25e-4, "-0.000125"},
+        {1e-7, "1e-07"},
+        {1.5e-5, "1.5e-05"},
+        {100, "100"},
+        {1e15, "1000000000000000"},
+        {0x1p53, "9007199254740992"},
+        {1e16, "1e+16"},
+        {1e22, "1e+22"},
+        {123456.75, "123456.75"},
+        {0x1p-1074, "5e-324"},
+        {-0x1.fffffffffffffp1023, "-1.7976931348623157e+308"},
+        {0x1p-44, "5.684341886080802e-14"}, // rounded to 16 digits it is another number
+    };
+    for (const auto &[value, expected] : rows) {
+        double read = 0;
+        EXPECT_EQ(shortest(value), expected);
+        ZC_assign_double_from_char_c_array(expected, static_cast<std::uint32_t>(std::strlen(expected)),
+                                           &read);
+        EXPECT_TRUE(read == value || std::isnan(value)) << expected;
+    }
+    EXPECT_EQ(shortest(0.1F) + ' ' + shortest(16777216.0F) + ' ' + shortest(0x1p-149F), "0.1 16777216 1e-45");
 }
 
 TEST(Number_Text, unsigned_numbers_around_the_powers_of_ten)

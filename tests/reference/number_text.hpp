@@ -2,6 +2,7 @@
 
 // Number text as plainly as it can be said, with the C library's formatting in the "C" locale.
 
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -58,5 +59,27 @@ inline std::string pretty(double x, unsigned decimals_below_one, unsigned decima
 
 inline std::string pretty_double(double x) { return pretty(x, 12, 10, 15); }
 inline std::string pretty_float(float x) { return pretty(static_cast<double>(x), 4, 4, 6); }
+
+// The standard library's shortest digits, in the framework's notation.
+template <class Number>
+std::string shortest(Number x)
+{
+    const std::string sign = std::signbit(x) && !std::isnan(x) ? "-" : "";
+    if (!std::isfinite(x) || x == 0)
+        return std::isnan(x) ? "NaN" : sign + (x == 0 ? "0" : "Inf");
+    char place[64];
+    const auto end =
+        std::to_chars(place, place + sizeof place, std::fabs(x), std::chars_format::scientific).ptr;
+    const std::string printed(place, end);
+    const std::size_t e = printed.find('e');
+    const int exponent = std::stoi(printed.substr(e + 1));
+    if (exponent < -4 || exponent > 15)
+        return sign + printed;
+    std::string digits = printed.substr(0, 1) + printed.substr(e > 1 ? 2 : 1, e > 1 ? e - 2 : 0);
+    digits.insert(0, static_cast<std::size_t>(exponent < 0 ? -exponent : 0), '0');
+    const std::size_t point = exponent < 0 ? 1 : static_cast<std::size_t>(exponent) + 1;
+    digits.append(point > digits.size() ? point - digits.size() : 0, '0');
+    return sign + (point < digits.size() ? digits.insert(point, ".") : digits);
+}
 
 } // namespace reference

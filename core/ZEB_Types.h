@@ -50,6 +50,15 @@ typedef struct ZEB_Time_Value {
     uint64_t nanosecond;
 } ZEB_Time_Value;
 
+/* What one pixel column of a chart shows of the points of a series that are in it: `ZC_decimate`. */
+typedef struct ZEB_Chart_Column {
+    double first;
+    double lowest;
+    double highest;
+    double last;
+    uint32_t count; /* of points */
+} ZEB_Chart_Column;
+
 /* The result of every search that finds nothing. */
 #define ZEB_NOT_FOUND UINT32_MAX
 

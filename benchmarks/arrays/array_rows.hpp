@@ -6,6 +6,7 @@ namespace zeb_bench
 
 void add_append_rows();
 void add_scan_rows();
+void add_decimation_rows();
 void add_change_rows();
 void add_sort_rows();
 void add_ordered_find_rows();

@@ -1,6 +1,7 @@
 #include "benchmarks/arrays/compiled_loops.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #if defined(__AVX2__)
 #include <immintrin.h>
@@ -93,6 +94,24 @@ std::size_t replace(Element *elements, std::size_t count, Element value, Element
 ZEB_ELEMENT(std::uint8_t)
 ZEB_ELEMENT(std::int32_t)
 ZEB_ELEMENT(double)
+
+void decimate(const double *positions, const double *values, std::size_t count, double start, double end,
+              ZEB_Chart_Column *columns, std::size_t column_count)
+{
+    const double scale = static_cast<double>(column_count) / (end - start), infinity = HUGE_VAL;
+    std::fill(columns, columns + column_count, ZEB_Chart_Column{0, infinity, -infinity, 0, 0});
+    for (std::size_t i = 0; i < count; ++i) {
+        if (positions[i] < start || positions[i] > end)
+            continue;
+        const std::size_t at = static_cast<std::size_t>((positions[i] - start) * scale);
+        ZEB_Chart_Column &column = columns[std::min(at, column_count - 1)];
+        if (column.count++ == 0)
+            column.first = values[i];
+        column.last = values[i];
+        column.lowest = values[i] < column.lowest ? values[i] : column.lowest;
+        column.highest = values[i] > column.highest ? values[i] : column.highest;
+    }
+}
 
 namespace
 {

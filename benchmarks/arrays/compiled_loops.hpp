@@ -2,6 +2,8 @@
 /// user gets by turning the compiler up, and the limits of the memory.
 #pragma once
 
+#include <Korvane_ZEB/ZEB_Types.h>
+
 #include <cstddef>
 #include <cstdint>
 
@@ -24,6 +26,10 @@ template <class Element>
 bool equal(const Element *left, const Element *right, std::size_t count);
 template <class Element>
 std::size_t replace(Element *elements, std::size_t count, Element value, Element replacement);
+
+/// Asks each point for its column.
+void decimate(const double *positions, const double *values, std::size_t count, double start, double end,
+              ZEB_Chart_Column *columns, std::size_t column_count);
 
 /// Limits: read all of a block, read two, write one past the caches where it is large, change one in place.
 std::uint64_t read(const void *block, std::size_t bytes);

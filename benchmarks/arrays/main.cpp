@@ -5,6 +5,7 @@ int main(int argc, char **argv)
 {
     zeb_bench::add_append_rows();
     zeb_bench::add_scan_rows();
+    zeb_bench::add_decimation_rows();
     zeb_bench::add_change_rows();
     zeb_bench::add_sort_rows();
     zeb_bench::add_ordered_find_rows();

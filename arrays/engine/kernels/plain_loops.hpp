@@ -5,6 +5,7 @@
 #include "arrays/engine/element_order.hpp"
 
 #include <cstddef>
+#include <limits>
 
 namespace zeb::engine::plain
 {
@@ -103,6 +104,23 @@ Element maximum(const Element *elements, std::size_t count, Less less = {}) noex
 {
     return foremost(elements, count,
                     [&](const Element &later, const Element &best) { return less(best, later); });
+}
+
+/// The lowest and the highest of some numbers; of none, low is above high.
+struct Number_Range {
+    double low = std::numeric_limits<double>::infinity();
+    double high = -std::numeric_limits<double>::infinity();
+};
+
+/// NaN is left out, and of equal numbers the first one counts.
+inline Number_Range number_range(const double *numbers, std::size_t count) noexcept
+{
+    Number_Range range;
+    for (std::size_t index = 0; index < count; ++index) {
+        range.low = numbers[index] < range.low ? numbers[index] : range.low;
+        range.high = range.high < numbers[index] ? numbers[index] : range.high;
+    }
+    return range;
 }
 
 } // namespace zeb::engine::plain

@@ -1,0 +1,117 @@
+/// The columns of a chart against the loop that says what they are, on each vector instruction set.
+#include "arrays/engine/algorithms/decimation.hpp"
+
+#include "core/engine/namespace.hpp"
+#include "tests/support/vector_targets.hpp"
+
+#include <bit>
+#include <random>
+#include <vector>
+
+using namespace zeb_test;
+
+namespace
+{
+
+constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+struct Chart {
+    std::vector<double> positions, values;
+    double start, end;
+    std::vector<ZEB_Chart_Column> columns;
+};
+
+std::vector<ZEB_Chart_Column> plain_columns(const Chart &chart)
+{
+    const double n = static_cast<double>(chart.columns.size());
+    std::vector<ZEB_Chart_Column> all(chart.columns.size(),
+                                      {not_a_number, not_a_number, not_a_number, not_a_number, 0});
+    for (size_t i = 0; i < chart.positions.size(); ++i) {
+        const double position = chart.positions[i], value = chart.values[i];
+        if (position < chart.start || position > chart.end)
+            continue;
+        const double number = std::floor((position - chart.start) * (n / (chart.end - chart.start)));
+        ZEB_Chart_Column &column = all[static_cast<size_t>(std::min(number, n - 1))];
+        column.first = column.count++ == 0 ? value : column.first;
+        column.lowest = value < column.lowest || std::isnan(column.lowest) ? value : column.lowest;
+        column.highest = value > column.highest || std::isnan(column.highest) ? value : column.highest;
+        column.last = value;
+    }
+    return all;
+}
+
+std::vector<uint64_t> bits_of(const std::vector<ZEB_Chart_Column> &columns)
+{
+    std::vector<uint64_t> bits;
+    for (const auto &[first, lowest, highest, last, count] : columns) {
+        for (const double value : {first, lowest, highest, last})
+            bits.push_back(std::isnan(value) ? 1 : std::bit_cast<uint64_t>(value));
+        bits.push_back(count);
+    }
+    return bits;
+}
+
+/// Points in crowds and far apart, ties among them, some outside of the bounds; values of few kinds or many.
+Chart random_chart(std::mt19937 &random, size_t points, size_t columns)
+{
+    Chart chart{{}, {}, static_cast<double>(random() % 5) - 2.3, 0, {columns, {1, 2, 3, 4, 5}}};
+    const std::vector<double> odd{not_a_number, infinity, -infinity, 0.0, -0.0, 1, -1, not_a_number};
+    const uint32_t step = 1 + random() % 90, kinds = 1 + random() % 20, first_kind = random() % 8;
+    double position = -3;
+    while (chart.positions.size() < points) {
+        position += random() % 7 == 0 ? static_cast<double>(random() % step) / 16 : 0;
+        chart.positions.push_back(position);
+        const size_t kind = first_kind + random() % kinds;
+        chart.values.push_back(kind < odd.size() ? odd[kind] : static_cast<double>(random()) - 1e9);
+    }
+    chart.end = chart.start + 0.1 + (position + 3) * static_cast<double>(random() % 12) / 10;
+    return chart;
+}
+
+} // namespace
+
+TEST(Decimation, shows_what_the_plain_loop_does)
+{
+    std::mt19937 random(1);
+    for (const size_t points : {0, 1, 2, 17, 300, 6000})
+        for (const size_t columns : {1, 2, 7, 100, 1000})
+            for (int turn = 0; turn < 12; ++turn) {
+                Chart chart = random_chart(random, points, columns);
+                const auto expected = bits_of(plain_columns(chart));
+                on_each_target([&] {
+                    ASSERT_TRUE(engine::decimate(chart.positions, chart.values, chart.start, chart.end,
+                                                 chart.columns));
+                    ASSERT_EQ(bits_of(chart.columns), expected) << points << " points, turn " << turn;
+                });
+            }
+}
+
+/// Every point counts once where a bound or a width is not exact in binary, the last one of all too.
+TEST(Decimation, of_evenly_spaced_points_is_even)
+{
+    for (const double width : {0.1, 0.3, 1e-7, 1e300, 1.0 / 3}) {
+        Chart chart{{0}, std::vector<double>(641), 0, 640 * width, std::vector<ZEB_Chart_Column>(64)};
+        while (chart.positions.size() < 641)
+            chart.positions.push_back(static_cast<double>(chart.positions.size()) * width);
+        engine::decimate(chart.positions, chart.values, chart.start, chart.end, chart.columns);
+        EXPECT_EQ(bits_of(chart.columns), bits_of(plain_columns(chart)));
+        EXPECT_GE(chart.columns.back().count, 10u);
+    }
+}
+
+TEST(Decimation, of_positions_in_disorder_stays_within_the_arrays)
+{
+    std::mt19937 random(2);
+    const double odd[] = {not_a_number, infinity, -infinity, 1e300};
+    for (int turn = 0; turn < 300; ++turn) {
+        Chart chart = random_chart(random, random() % 200, 1 + random() % 40);
+        std::shuffle(chart.positions.begin(), chart.positions.end(), random);
+        for (double &position : chart.positions)
+            if (random() % 9 == 0)
+                position = odd[random() % 4];
+        engine::decimate(chart.positions, chart.values, chart.start, chart.end, chart.columns);
+        for (const ZEB_Chart_Column &column : chart.columns)
+            ASSERT_LE(column.count, chart.positions.size());
+    }
+}

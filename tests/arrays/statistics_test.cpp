@@ -1,4 +1,6 @@
 /// Statistics against their definitions in wider numbers, on each vector instruction set.
+#include "arrays/engine/algorithms/histogram.hpp"
+#include "arrays/engine/algorithms/quantiles.hpp"
 #include "arrays/engine/algorithms/statistics.hpp"
 
 #include "core/engine/namespace.hpp"
@@ -92,12 +94,60 @@ TYPED_TEST(Statistics, are_those_of_the_definition)
                                                           are_close(found.sum, expected.sum, 1e-14)));
                 ASSERT_TRUE(are_close(found.mean, expected.mean, 1e-14))
                     << found.mean << " " << expected.mean;
-                ASSERT_TRUE(are_close(found.variance, expected.variance, 1e-11)) << count << " numbers " << found.variance << " " << expected.variance << " mean " << found.mean;
+                ASSERT_TRUE(are_close(found.variance, expected.variance, 1e-11))
+                    << count << " numbers " << found.variance << " " << expected.variance << " mean "
+                    << found.mean;
                 ASSERT_TRUE(are_close(found.sample_variance, expected.sample_variance, 1e-11));
                 first = first == 0 ? found.variance : first;
                 ASSERT_TRUE(found.variance == first || found.variance != found.variance);
             });
         }
+}
+
+/// Between neighbours in the sorted numbers, and ascending with the fractions.
+TYPED_TEST(Statistics, part_the_numbers)
+{
+    std::mt19937_64 random(2);
+    for (const size_t count : {0, 1, 2, 101, 5000}) {
+        const std::vector<TypeParam> all = numbers<TypeParam>(random, count);
+        std::vector<TypeParam> sorted;
+        std::ranges::copy_if(all, std::back_inserter(sorted), [](TypeParam each) { return each == each; });
+        std::ranges::sort(sorted);
+        double parts[11];
+        for (int i = 0; i <= 10; ++i)
+            parts[i] = i / 10.0;
+        ASSERT_TRUE(engine::quantiles<TypeParam>(all, parts, parts));
+        for (size_t i = 0; i <= 10 && !sorted.empty(); ++i) {
+            const size_t tenths = (sorted.size() - 1) * i;
+            ASSERT_GE(parts[i], static_cast<double>(sorted[tenths / 10]));
+            ASSERT_LE(parts[i], static_cast<double>(sorted[(tenths + 9) / 10]));
+        }
+        EXPECT_EQ(std::isnan(parts[5]), sorted.empty());
+    }
+}
+
+TYPED_TEST(Statistics, count_what_is_in_each_bin)
+{
+    std::mt19937_64 random(3);
+    for (const size_t bins : {1, 7, 5000}) {
+        const std::vector<TypeParam> all = numbers<TypeParam>(random, 3001);
+        const double first = all[0] == all[0] ? std::abs(static_cast<double>(all[0])) : 1;
+        const double low = -first / 2, high = first * 1.5 + 1;
+        std::vector<uint32_t> expected(bins + 3), counts(bins);
+        for (const TypeParam each : all) {
+            const double number = static_cast<double>(each);
+            const double place = std::floor((number - low) * (static_cast<double>(bins) / (high - low)));
+            ++expected[number != number ? bins + 2
+                       : number < low   ? bins
+                       : number > high  ? bins + 1
+                                        : std::min(static_cast<size_t>(place), bins - 1)];
+        }
+        ZEB_Histogram_Rest rest;
+        const engine::Equal_Parts parts(low, high, static_cast<uint32_t>(bins));
+        ASSERT_TRUE(engine::histogram<TypeParam>(all, parts, counts, rest));
+        counts.insert(counts.end(), {rest.below, rest.above, rest.nan_count});
+        EXPECT_EQ(counts, expected);
+    }
 }
 
 /// What rounding takes is added again, as long as nothing overflows.

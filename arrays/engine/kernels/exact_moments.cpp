@@ -35,6 +35,7 @@ void add_short_run(const std::uint8_t *bytes, std::size_t count, std::uint8_t fl
     auto sums = hn::Zero(d64);
     auto squares = hn::Zero(d32), more_squares = squares;
     for (std::size_t index = 0; index < count; index += hn::Lanes(d)) {
+        fetch_ahead(bytes + index);
         const auto lane = hn::Xor(hn::LoadU(d, bytes + index), flips);
         sums = hn::Add(sums, hn::SumsOf8(lane));
         const auto pairs = hn::BitCast(d16, lane);
@@ -69,6 +70,7 @@ void add_exact_moments(const std::uint32_t *lanes, std::size_t count, std::uint3
     const auto low_half = hn::Set(d, 0xFFFFFFFF);
     auto sums = hn::Zero(d), squares_low = sums, squares_high = sums;
     for (std::size_t index = 0; index < whole; index += length) {
+        fetch_ahead(lanes + index);
         const auto pairs = hn::BitCast(d, hn::Xor(hn::LoadU(d32, lanes + index), flips));
         const auto even = hn::And(pairs, low_half), odd = hn::ShiftRight<32>(pairs);
         sums = hn::Add(sums, hn::Add(even, odd));

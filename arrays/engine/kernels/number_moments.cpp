@@ -39,6 +39,7 @@ void add_moments(const Lane *lanes, std::size_t count, double pivot, Number_Mome
     std::size_t numbers = 0;
     std::size_t index = 0;
     for (; index + group_length<Lane> <= count; index += group_length<Lane>) {
+        fetch_ahead(lanes + index);
         for (std::size_t part = 0; part < Group<D, Lane>::parts; ++part) {
             const auto lane = load_doubles(d, lanes + index + part * hn::MaxLanes(d));
             const auto is_number = hn::Eq(lane, lane);

@@ -35,6 +35,7 @@ void add_wide_moments(const std::int64_t *lanes, std::size_t count, std::int64_t
     auto highs = hn::Zero(d64), lows = highs;
     std::size_t index = 0;
     for (; index + group_length<std::int64_t> <= count; index += group_length<std::int64_t>) {
+        fetch_ahead(lanes + index);
         for (std::size_t part = 0; part < Sums::parts; ++part) {
             const auto lane = hn::LoadU(signed_64, lanes + index + part * hn::MaxLanes(d));
             const auto unsigned_lane = hn::Xor(hn::BitCast(d64, lane), top_bit);

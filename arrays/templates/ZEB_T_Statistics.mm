@@ -51,7 +51,7 @@ uint8_t answer(bool is_done, engine::Fix_Report report)
     const engine::Equal_Parts parts(low, high, [bins count]);
     if (bins == nil || [bins count] == 0 || !parts.are_usable())
         return 0;
-    ZEB_Histogram_Rest others;
+    ZEB_Histogram_Rest others{};
     return answer(
         engine::histogram(read(self), parts, {[bins uint_data], [bins count]}, rest != NULL ? *rest : others),
         engine::Fix_Report{self, _cmd});

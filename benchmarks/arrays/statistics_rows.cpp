@@ -25,12 +25,13 @@ void add_statistics_row(std::size_t bytes)
     const std::span<const Element> all(shared_elements<Element>(count).data(), count);
     Row row(std::string("statistics, ") + type_name<Element>() + ", " + size_name(bytes), Measure::Bytes,
             static_cast<double>(bytes));
-    row.goal(0.95)
-        .framework([=] { return engine::statistics(all).variance; })
+    // In the cache the loop is faster that knows no NaN and lets its rounding errors be.
+    if (bytes > std::size_t{16} << 20)
+        row.goal(0.95).limit_goal(0.75);
+    row.framework([=] { return engine::statistics(all).variance; })
         .peer("compiled loop of sums",
               [=] { return compiled::sums<engine::Sum_Of<Element>>(all.data(), all.size()).squares; })
-        .limit("read", [=] { return compiled::read(all.data(), bytes); })
-        .limit_goal(0.75);
+        .limit("read", [=] { return compiled::read(all.data(), bytes); });
 }
 
 void add_quantiles_row(std::size_t count)
@@ -61,7 +62,7 @@ void add_histogram_row(std::size_t count)
     Row("histogram of 100 bins, double, 10^7", Measure::Bytes, static_cast<double>(count * sizeof(double)))
         .goal(0.95)
         .framework([=] {
-            ZEB_Histogram_Rest rest;
+            ZEB_Histogram_Rest rest{};
             engine::histogram(all, engine::Equal_Parts(0.3, 1.2, 100), std::span(*bins), rest);
             return rest.above;
         })

@@ -75,21 +75,21 @@ TEST(Decimation, refuses_what_makes_no_columns)
                                      double start = 1, double end = 3, uint32_t count = 2) {
         return ZC_decimate(positions, values, start, end, columns, count);
     };
-    const bool answers[] = {decimate(nil, three),
-                            decimate(three, nil),
-                            decimate(nil, nil),
-                            decimate(three, two),
-                            decimate(three, three, 1, 3, 0),
-                            decimate(three, three, 1, 1),
-                            decimate(three, three, 3, 1),
-                            decimate(three, three, not_a_number),
-                            decimate(three, three, 1, not_a_number),
-                            decimate(three, three, -infinity),
-                            decimate(three, three, 1, infinity),
-                            decimate(three, three, -1e308, 1e308),
-                            decimate(three, three, 0, 5e-324),
-                            ZC_decimate(three, three, 1, 3, NULL, 2) == 1};
-    EXPECT_EQ(std::ranges::count(answers, true), 0);
+    const uint8_t answers[] = {decimate(nil, three),
+                               decimate(three, nil),
+                               decimate(nil, nil),
+                               decimate(three, two),
+                               decimate(three, three, 1, 3, 0),
+                               decimate(three, three, 1, 1),
+                               decimate(three, three, 3, 1),
+                               decimate(three, three, not_a_number),
+                               decimate(three, three, 1, not_a_number),
+                               decimate(three, three, -infinity),
+                               decimate(three, three, 1, infinity),
+                               decimate(three, three, -1e308, 1e308),
+                               decimate(three, three, 0, 5e-324),
+                               ZC_decimate(three, three, 1, 3, NULL, 2)};
+    EXPECT_EQ(std::ranges::count(answers, 1), 0);
     EXPECT_EQ(columns[0].count, 7u);
     EXPECT_EQ(decimate(three, three), 1);
     EXPECT_EQ(columns[1].highest, 3);

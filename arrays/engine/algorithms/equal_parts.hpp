@@ -22,6 +22,7 @@ public:
         return first < last && std::isfinite(last - first) && std::isfinite(parts_per_unit);
     }
 
+    bool hold(double number) const noexcept { return number >= first && number <= last; }
     bool begin_after(double number) const noexcept { return number < first; }
     bool end_before(double number) const noexcept { return number > last; }
 

@@ -23,14 +23,11 @@ inline constexpr std::size_t rest_count = 3;
 inline constexpr std::size_t few_bins = 4096;
 inline constexpr std::size_t table_count = 4;
 
-template <class Element>
-std::size_t counter_of(Element element, const Equal_Parts &parts, std::size_t bins) noexcept
+inline std::size_t counter_of(double number, const Equal_Parts &parts, std::size_t bins) noexcept
 {
-    const double number = static_cast<double>(element);
-    std::size_t counter = parts.part_of(number);
-    counter = parts.begin_after(number) ? bins : counter;
-    counter = parts.end_before(number) ? bins + 1 : counter;
-    return number != number ? bins + 2 : counter;
+    if (parts.hold(number)) [[likely]]
+        return parts.part_of(number);
+    return parts.begin_after(number) ? bins : parts.end_before(number) ? bins + 1 : bins + 2;
 }
 
 template <class Element>
@@ -41,9 +38,9 @@ void count_into(std::span<const Element> elements, const Equal_Parts &parts, std
     std::size_t index = 0;
     for (; index + table_count <= elements.size(); index += table_count)
         for (std::size_t table = 0; table < table_count; ++table)
-            ++counters[table * step + counter_of(elements[index + table], parts, bins)];
+            ++counters[table * step + counter_of(static_cast<double>(elements[index + table]), parts, bins)];
     for (; index < elements.size(); ++index)
-        ++counters[counter_of(elements[index], parts, bins)];
+        ++counters[counter_of(static_cast<double>(elements[index]), parts, bins)];
     for (std::size_t table = 1; table < tables; ++table)
         std::transform(counters, counters + size, counters + table * size, counters, std::plus<>());
 }

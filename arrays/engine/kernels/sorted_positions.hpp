@@ -90,7 +90,7 @@ template <class Lane>
 void order_run(const Lane *lanes, std::uint64_t *positions, std::size_t length) noexcept
 {
     const auto before = [lanes](std::uint64_t left, std::uint64_t right) {
-        return lanes[left] < lanes[right] || (lanes[left] == lanes[right] && left < right);
+        return lanes[left] < lanes[right];
     };
     // Such a run is mostly one number repeated.
     if (!std::is_sorted(positions, positions + length, before))
@@ -99,20 +99,20 @@ void order_run(const Lane *lanes, std::uint64_t *positions, std::size_t length) 
 
 /// Packs the upper bits of each number's key, less the lowest key, above its position. Returns the mask of
 /// the positions.
-template <class Lane>
-std::uint64_t pack_upper_bits(const Lane *lanes, std::uint64_t *packed, std::size_t count) noexcept
+template <class Lane, class Key_Of>
+std::uint64_t pack_upper_bits(const Lane *lanes, std::uint64_t *packed, std::size_t count,
+                              Key_Of key_of) noexcept
 {
-    using Ordered = Ordered_Key<Lane>;
     std::uint64_t lowest = UINT64_MAX, highest = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        const std::uint64_t key = Ordered::key_of(lanes[i]);
+        const std::uint64_t key = key_of(lanes[i]);
         lowest = std::min(lowest, key);
         highest = std::max(highest, key);
     }
     const std::uint64_t positions = (std::uint64_t{1} << std::bit_width(count - 1)) - 1;
     const int shift = std::countl_zero((highest - lowest) | 1);
     for (std::size_t i = 0; i < count; ++i)
-        packed[i] = ((Ordered::key_of(lanes[i]) - lowest) << shift & ~positions) | i;
+        packed[i] = ((key_of(lanes[i]) - lowest) << shift & ~positions) | i;
     return positions;
 }
 
@@ -121,7 +121,7 @@ std::uint64_t pack_upper_bits(const Lane *lanes, std::uint64_t *packed, std::siz
 template <class Lane>
 void order_positions(const Lane *lanes, std::uint64_t *positions, std::size_t count) noexcept
 {
-    const std::uint64_t mask = pack_upper_bits(lanes, positions, count);
+    const std::uint64_t mask = pack_upper_bits(lanes, positions, count, Ordered_Key<Lane>::key_of);
     sort_keys(positions, count);
     for (std::size_t start = 0, end; start < count; start = end) {
         const std::uint64_t key = positions[start] & ~mask;

@@ -57,46 +57,82 @@ public:
             std::copy_n(all, count, lanes.get());
     }
     bool is_known() const noexcept { return lanes.get() != nullptr && indexes.known(); }
-    void put(std::uint64_t position, Lane &lane, std::uint32_t &index) const noexcept
-    {
-        lane = lanes.get()[position];
-        index = indexes.at(position);
-    }
+    Lane lane_at(std::uint64_t position) const noexcept { return lanes.get()[position]; }
+    std::uint32_t index_at(std::uint64_t position) const noexcept { return indexes.at(position); }
 
 private:
     Scratch<Lane> lanes;
     Indexes_Before indexes;
 };
 
-/// Sorts the positions of 32-bit lanes beneath their keys.
+/// Lanes and indexes while they are sorted, by positions packed beneath keys.
 template <class Lane>
-bool order_totally(const Lane *lanes, std::uint64_t *positions, std::size_t count) noexcept
+struct Sorting {
+    Lane *lanes;
+    std::uint32_t *indexes;
+    std::uint64_t *packed;
+    std::uint64_t mask; ///< of the positions
+    const Before<Lane> &before;
+
+    void put(std::size_t from, std::size_t to) const noexcept
+    {
+        for (std::size_t i = from; i < to; ++i) {
+            lanes[i] = before.lane_at(packed[i] & mask);
+            indexes[i] = before.index_at(packed[i] & mask);
+        }
+    }
+
+    /// Puts in order what the upper bits of the keys leave in disorder: mostly nothing.
+    void settle(std::size_t count) const noexcept
+    {
+        const auto is_of_run = [this](std::size_t i, std::size_t run) {
+            return ((packed[i] ^ packed[run]) & ~mask) == 0;
+        };
+        for (std::size_t i = 1; i < count; ++i) {
+            if (total_key(lanes[i - 1]) <= total_key(lanes[i])) [[likely]]
+                continue;
+            std::size_t first = i - 1, last = i + 1;
+            while (first > 0 && is_of_run(first - 1, i))
+                --first;
+            while (last < count && is_of_run(last, i))
+                ++last;
+            std::sort(packed + first, packed + last, [this](std::uint64_t left, std::uint64_t right) {
+                const auto left_key = total_key(before.lane_at(left & mask)),
+                           right_key = total_key(before.lane_at(right & mask));
+                return left_key < right_key || (left_key == right_key && left < right);
+            });
+            put(first, last);
+            i = last - 1;
+        }
+    }
+};
+
+/// Sorts the positions of 32-bit lanes beneath their keys. Each of these answers the mask of the positions.
+template <class Lane>
+std::uint64_t sort_packed(const Lane *lanes, std::uint64_t *packed, std::size_t count) noexcept
 {
     for (std::size_t i = 0; i < count; ++i)
-        positions[i] = std::uint64_t{total_key(lanes[i])} << 32 | i;
-    sort_keys(positions, count);
-    for (std::size_t i = 0; i < count; ++i)
-        positions[i] &= 0xFFFFFFFF;
-    return true;
+        packed[i] = std::uint64_t{total_key(lanes[i])} << 32 | i;
+    sort_keys(packed, count);
+    return 0xFFFFFFFF;
 }
 
-/// Sorts the positions of 64-bit lanes by their keys, which need room of their own.
+/// Sorts those of 64-bit lanes beneath the upper bits of their keys.
 template <class Lane>
-requires(sizeof(Lane) == 8) bool order_totally(const Lane *lanes, std::uint64_t *positions,
-                                               std::size_t count) noexcept
+requires(sizeof(Lane) == 8) std::uint64_t
+    sort_packed(const Lane *lanes, std::uint64_t *packed, std::size_t count)
+noexcept
 {
-    const Scratch<std::uint64_t> keys(count);
-    if (keys.get() == nullptr)
-        return false;
-    std::transform(lanes, lanes + count, keys.get(), [](Lane lane) { return total_key(lane); });
-    order_positions(keys.get(), positions, count);
-    return true;
+    const std::uint64_t mask = pack_upper_bits(lanes, packed, count, total_key<Lane>);
+    sort_keys(packed, count);
+    return mask;
 }
 
-/// Sorts the positions of bytes by counting.
+/// Sorts those of bytes by counting.
 template <class Lane>
-requires(sizeof(Lane) == 1) bool order_totally(const Lane *lanes, std::uint64_t *positions,
-                                               std::size_t count) noexcept
+requires(sizeof(Lane) == 1) std::uint64_t
+    sort_packed(const Lane *lanes, std::uint64_t *packed, std::size_t count)
+noexcept
 {
     const auto key_of = [](Lane lane) {
         return static_cast<std::uint8_t>(lane ^ std::numeric_limits<Lane>::min());
@@ -107,8 +143,8 @@ requires(sizeof(Lane) == 1) bool order_totally(const Lane *lanes, std::uint64_t 
     for (std::size_t key = 1; key < 256; ++key)
         starts[key] += starts[key - 1];
     for (std::size_t i = 0; i < count; ++i)
-        positions[starts[key_of(lanes[i])]++] = i;
-    return true;
+        packed[starts[key_of(lanes[i])]++] = i;
+    return UINT64_MAX;
 }
 
 } // namespace
@@ -133,12 +169,15 @@ bool sort_totally(Lane *lanes, std::uint32_t *indexes, std::size_t count) noexce
 {
     if (count < 2)
         return true;
-    const Scratch<std::uint64_t> positions(count);
+    const Scratch<std::uint64_t> packed(count);
     const Before<Lane> before(lanes, indexes, count);
-    if (positions.get() == nullptr || !before.is_known() || !order_totally(lanes, positions.get(), count))
+    if (packed.get() == nullptr || !before.is_known())
         return false;
-    for (std::size_t i = 0; i < count; ++i)
-        before.put(positions.get()[i], lanes[i], indexes[i]);
+    const std::uint64_t mask = sort_packed(lanes, packed.get(), count);
+    const Sorting<Lane> sorting{lanes, indexes, packed.get(), mask, before};
+    sorting.put(0, count);
+    if constexpr (sizeof(Lane) == 8)
+        sorting.settle(count);
     return true;
 }
 

@@ -144,9 +144,12 @@ TYPED_TEST(Statistics, count_what_is_in_each_bin)
         }
         ZEB_Histogram_Rest rest;
         const engine::Equal_Parts parts(low, high, static_cast<uint32_t>(bins));
-        ASSERT_TRUE(engine::histogram<TypeParam>(all, parts, counts, rest));
-        counts.insert(counts.end(), {rest.below, rest.above, rest.nan_count});
-        EXPECT_EQ(counts, expected);
+        on_each_target([&] {
+            counts.resize(bins);
+            ASSERT_TRUE(engine::histogram<TypeParam>(all, parts, counts, rest));
+            counts.insert(counts.end(), {rest.below, rest.above, rest.nan_count});
+            EXPECT_EQ(counts, expected);
+        });
     }
 }
 

@@ -1,6 +1,8 @@
 /// A range of numbers in parts of equal width side by side.
 #pragma once
 
+#include "arrays/engine/kernels/bins.hpp"
+
 #include <cmath>
 #include <cstdint>
 
@@ -22,7 +24,8 @@ public:
         return first < last && std::isfinite(last - first) && std::isfinite(parts_per_unit);
     }
 
-    bool hold(double number) const noexcept { return number >= first && number <= last; }
+    kernels::Bins bins() const noexcept { return {first, last, parts_per_unit, last_part}; }
+
     bool begin_after(double number) const noexcept { return number < first; }
     bool end_before(double number) const noexcept { return number > last; }
 

@@ -10,6 +10,7 @@
 #   TT_DATA               how the header declares the block of elements
 #   TT_STORING            what storing an element means, for the header
 #   TT_WRITE_ELEMENT      how one `element` goes onto a `stream`
+#   TT_SUM                the C type of a sum of elements, of families of numbers
 #   TT_FORWARD_CLASSES    classes that the headers name
 #   TT_COLLECTION_FIELDS, TT_VECTOR_FIELDS  fields of its own; ZEB_Family_Settings_Private.h sets them
 #
@@ -20,21 +21,22 @@ set(zeb_storing_of_held "Storing an element copies its contents into an object t
  * overwritten by what is stored there next, also after its removal; copy it to keep it.")
 
 zeb_family(ZEB_T_ ZEB_Byte_ TT_word byte TT_PHRASE "unsigned bytes" ZEB_T_Element "uint8_t"
-           TT_WRITE_ELEMENT "[stream write_unsigned:element]")
+           TT_SUM "uint64_t" TT_WRITE_ELEMENT "[stream write_unsigned:element]")
 
 zeb_family(ZEB_T_ ZEB_Double_ TT_word double TT_PHRASE "double-precision numbers" ZEB_T_Element "double"
-           TT_WRITE_ELEMENT "[stream write_double:element]")
+           TT_SUM "double" TT_WRITE_ELEMENT "[stream write_double:element]")
 
 zeb_family(ZEB_T_ ZEB_Float_ TT_word float TT_PHRASE "single-precision numbers" ZEB_T_Element "float"
-           TT_WRITE_ELEMENT "[stream write_float:element]")
+           TT_SUM "double" TT_WRITE_ELEMENT "[stream write_float:element]")
 
 zeb_family(ZEB_T_ ZEB_Int_ TT_word int TT_PHRASE "signed 32-bit integers" ZEB_T_Element "int32_t"
-           TT_WRITE_ELEMENT "[stream write_int:element]")
+           TT_SUM "int64_t" TT_WRITE_ELEMENT "[stream write_int:element]")
 
 zeb_family(ZEB_T_ ZEB_UInt_ TT_word uint TT_PHRASE "unsigned 32-bit integers" ZEB_T_Element "uint32_t"
-           TT_WRITE_ELEMENT "[stream write_unsigned:element]")
+           TT_SUM "uint64_t" TT_WRITE_ELEMENT "[stream write_unsigned:element]")
 
-zeb_family(ZEB_T_ ZEB_Int64_ TT_word int64 TT_PHRASE "signed 64-bit integers" ZEB_T_Element "int64_t")
+zeb_family(ZEB_T_ ZEB_Int64_ TT_word int64 TT_PHRASE "signed 64-bit integers" ZEB_T_Element "int64_t"
+           TT_SUM "int64_t")
 
 zeb_family(ZEB_T_ ZEB_Pointer_ TT_word pointer TT_PHRASE "untyped pointers" ZEB_T_Element "void *"
            TT_WRITE_ELEMENT "[stream write_unsigned_long:reinterpret_cast<uint64_t>(element)]")

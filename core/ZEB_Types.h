@@ -59,6 +59,13 @@ typedef struct ZEB_Chart_Column {
     uint32_t count; /* of points */
 } ZEB_Chart_Column;
 
+/* The elements that a histogram has no bin for: `count_in_bins:from:to:rest:` of numeric vectors. */
+typedef struct ZEB_Histogram_Rest {
+    uint32_t below;
+    uint32_t above;
+    uint32_t nan_count;
+} ZEB_Histogram_Rest;
+
 /* The result of every search that finds nothing. */
 #define ZEB_NOT_FOUND UINT32_MAX
 

@@ -20,6 +20,8 @@ const char *type_name()
         return "float";
     else if constexpr (std::is_same_v<Element, std::uint32_t>)
         return "unsigned";
+    else if constexpr (std::is_same_v<Element, std::int64_t>)
+        return "int64";
     else
         return sizeof(Element) == 1 ? "byte" : "int";
 }

@@ -8,6 +8,7 @@ int main(int argc, char **argv)
     zeb_bench::add_decimation_rows();
     zeb_bench::add_change_rows();
     zeb_bench::add_sort_rows();
+    zeb_bench::add_statistics_rows();
     zeb_bench::add_ordered_find_rows();
     zeb_bench::add_subsequence_rows();
     return zeb_bench::run_rows(argc, argv);

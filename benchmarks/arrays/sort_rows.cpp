@@ -4,6 +4,7 @@
 #include "benchmarks/common/rows.hpp"
 
 #include "arrays/engine/algorithms/sort.hpp"
+#include "arrays/engine/algorithms/total_order.hpp"
 #include "arrays/engine/kernels/shell_sort.hpp"
 #include "core/engine/namespace.hpp"
 
@@ -110,6 +111,50 @@ void add_permutation_row(std::size_t count, const std::string &shape, double goa
         row.peer("plain Shell sort", [job] { plain_shell_sort(job->elements, job->indexes); });
 }
 
+/// Behind the plain sort it may be a little, and far before the platform's stable sort. With NaN the latter
+/// needs an order of its own.
+template <class Element>
+void add_total_order_row(std::size_t count, const std::string &shape, const char *peer, double goal)
+{
+    const auto job = std::make_shared<Job<Element>>();
+    const auto precedes = [](Element left, Element right) {
+        return left < right || (right != right && left == left);
+    };
+    Row(row_name<Element>("sort by total order", shape, count), Measure::Items, static_cast<double>(count),
+        [=] { job->prepare(count, shape); })
+        .goal_over(peer, goal)
+        .framework([job] { engine::sort_by_total_order(std::span(job->elements)); })
+        .peer("plain sort", [job] { engine::sort(std::span(job->elements)); })
+        .peer("std::stable_sort",
+              [=] { std::stable_sort(job->elements.begin(), job->elements.end(), precedes); });
+}
+
+template <class Element>
+void add_total_order_permutation_row(std::size_t count, const std::string &shape, const char *peer,
+                                     double goal)
+{
+    const auto job = std::make_shared<Job<Element>>();
+    Row(row_name<Element>("sort by total order with permutation", shape, count), Measure::Items,
+        static_cast<double>(count), [=] { job->prepare_with_indexes(count, shape); })
+        .goal_over(peer, goal)
+        .framework([job] { engine::sort_by_total_order(std::span(job->elements), std::span(job->indexes)); })
+        .peer("plain sort",
+              [job] { engine::sort_with_permutation(std::span(job->elements), std::span(job->indexes)); })
+        .peer("std::stable_sort of pairs", [job] {
+            std::stable_sort(job->pairs.begin(), job->pairs.end(),
+                             [](const auto &left, const auto &right) { return left.first < right.first; });
+        });
+}
+
+template <class Element>
+void add_total_order_rows(std::size_t count)
+{
+    add_total_order_row<Element>(count, "random", "plain sort", 0.6);
+    add_total_order_row<Element>(count, "random with a NaN", "std::stable_sort", 3);
+    add_total_order_permutation_row<Element>(count, "distinct", "plain sort", 0.6);
+    add_total_order_permutation_row<Element>(count, "duplicates", "std::stable_sort of pairs", 3);
+}
+
 } // namespace
 
 void add_sort_rows()
@@ -136,6 +181,8 @@ void add_sort_rows()
         add_permutation_row<double>(count, "distinct", 2.5);
         add_permutation_row<std::int32_t>(count, "duplicates", 2);
         add_permutation_row<double>(count, "duplicates", 2);
+        add_total_order_rows<float>(count);
+        add_total_order_rows<double>(count);
     }
 }
 

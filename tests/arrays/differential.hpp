@@ -273,6 +273,21 @@ struct Plain {
             all[i] = key();
     }
 
+    uint32_t from_end(uint32_t index) const { return index < count ? count - 1 - index : UINT32_MAX; }
+
+    uint32_t checked(uint32_t index)
+    {
+        const bool is_none = index >= count;
+        reports_if(is_none, "Index is not below the count, no element returned.");
+        return is_none ? samples.nothing : all[index];
+    }
+
+    void set_checked(uint32_t index)
+    {
+        if (!reports_if(index >= count, "Index is not below the count, no element set."))
+            all[index] = key();
+    }
+
     uint32_t replace_every()
     {
         const uint32_t replaced = reference::replace_equal(all, in.key, in.other, samples.equal);

@@ -66,43 +66,31 @@ TEST(Capacity, reaches_to_the_last_of_32_bits)
 
 TEST(Decimation, refuses_what_makes_no_columns)
 {
-    const double numbers[] = {1, 2, 3};
-    double *const raw = const_cast<double *>(numbers);
-    ZEB_Double_Vector *const three = [ZEB_Double_Vector link_to_doubles:raw count:3];
-    ZEB_Double_Vector *const two = [ZEB_Double_Vector link_to_doubles:raw count:2];
-    const double infinity = std::numeric_limits<double>::infinity(), nan = std::nan("");
-    const struct {
-        ZEB_Double_Vector *positions, *values;
-        double start, end;
-        uint32_t columns;
-        bool is_null;
-        uint8_t answer;
-    } rows[] = {
-        {three, three, 1, 3, 2, false, 1},
-        {three, three, 1, 3, 0, false, 0},
-        {nil, three, 1, 3, 2, false, 0},
-        {three, nil, 1, 3, 2, false, 0},
-        {nil, nil, 1, 3, 2, false, 0},
-        {three, two, 1, 3, 2, false, 0},
-        {three, three, 1, 3, 2, true, 0},
-        {three, three, 1, 1, 2, false, 0},
-        {three, three, 3, 1, 2, false, 0},
-        {three, three, nan, 3, 2, false, 0},
-        {three, three, 1, nan, 2, false, 0},
-        {three, three, -infinity, 3, 2, false, 0},
-        {three, three, 1, infinity, 2, false, 0},
-        {three, three, -1e308, 1e308, 2, false, 0},
-        {three, three, 0, 5e-324, 2, false, 0},
+    double numbers[] = {1, 2, 3};
+    ZEB_Double_Vector *const three = [ZEB_Double_Vector link_to_doubles:numbers count:3];
+    ZEB_Double_Vector *const two = [ZEB_Double_Vector link_to_doubles:numbers count:2];
+    const double infinity = HUGE_VAL, not_a_number = std::nan("");
+    ZEB_Chart_Column columns[2] = {{7, 7, 7, 7, 7}, {7, 7, 7, 7, 7}};
+    const auto decimate = [&columns](ZEB_Double_Vector *positions, ZEB_Double_Vector *values,
+                                     double start = 1, double end = 3, uint32_t count = 2) {
+        return ZC_decimate(positions, values, start, end, columns, count);
     };
-    for (const auto &row : rows) {
-        ZEB_Chart_Column columns[2] = {{7, 7, 7, 7, 7}, {7, 7, 7, 7, 7}};
-        const std::string told = support::standard_error_of([&] {
-            EXPECT_EQ(ZC_decimate(row.positions, row.values, row.start, row.end,
-                                  row.is_null ? nullptr : columns, row.columns),
-                      row.answer);
-        });
-        EXPECT_EQ(told, "");
-        EXPECT_EQ(columns[0].count, row.answer != 0 ? 1u : 7u) << &row - rows;
-        EXPECT_EQ(columns[1].highest, row.answer != 0 ? 3 : 7) << &row - rows;
-    }
+    const uint8_t answers[] = {decimate(nil, three),
+                               decimate(three, nil),
+                               decimate(nil, nil),
+                               decimate(three, two),
+                               decimate(three, three, 1, 3, 0),
+                               decimate(three, three, 1, 1),
+                               decimate(three, three, 3, 1),
+                               decimate(three, three, not_a_number),
+                               decimate(three, three, 1, not_a_number),
+                               decimate(three, three, -infinity),
+                               decimate(three, three, 1, infinity),
+                               decimate(three, three, -1e308, 1e308),
+                               decimate(three, three, 0, 5e-324),
+                               ZC_decimate(three, three, 1, 3, NULL, 2)};
+    EXPECT_EQ(std::ranges::count(answers, 1), 0);
+    EXPECT_EQ(columns[0].count, 7u);
+    EXPECT_EQ(decimate(three, three), 1);
+    EXPECT_EQ(columns[1].highest, 3);
 }

@@ -4,50 +4,16 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
+#include "arrays/engine/algorithms/equal_parts.hpp"
 #include "arrays/engine/kernels/decimation.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <span>
 
 namespace zeb::engine
 {
-
-/// Columns of equal width side by side.
-class Column_Scale
-{
-public:
-    /// There is at least one column.
-    Column_Scale(double start, double end, std::uint32_t columns) noexcept
-        : first(start), last(end), count(columns), columns_per_unit(columns / (end - start))
-    {
-    }
-
-    /// False for bounds in the wrong order or not finite, and where their distance or its inverse is not.
-    bool is_usable() const noexcept
-    {
-        return first < last && std::isfinite(last - first) && std::isfinite(columns_per_unit);
-    }
-
-    bool begins_after(double position) const noexcept { return position < first; }
-    bool reaches(double position) const noexcept { return position <= last; }
-
-    /// The column of a position; of one that is outside, or NaN, any.
-    std::uint32_t column_of(double position) const noexcept
-    {
-        const double column = (position - first) * columns_per_unit; // positive, so the conversion is a floor
-        if (!(column > 0))
-            return 0;
-        return column < count ? static_cast<std::uint32_t>(column) : count - 1;
-    }
-
-private:
-    double first, last;
-    std::uint32_t count;
-    double columns_per_unit;
-};
 
 namespace decimation_detail
 {
@@ -96,27 +62,27 @@ struct Shown {
     std::size_t start, end;
 };
 
-inline Shown shown_points(std::span<const double> positions, const Column_Scale &scale) noexcept
+inline Shown shown_points(std::span<const double> positions, const Equal_Parts &scale) noexcept
 {
     const auto first = std::partition_point(positions.begin(), positions.end(),
-                                            [&](double position) { return scale.begins_after(position); });
+                                            [&](double position) { return scale.begin_after(position); });
     const auto last = std::partition_point(first, positions.end(),
-                                           [&](double position) { return scale.reaches(position); });
+                                           [&](double position) { return !scale.end_before(position); });
     return {static_cast<std::size_t>(first - positions.begin()),
             static_cast<std::size_t>(last - positions.begin())};
 }
 
 /// Sets the columns that have points.
 inline void set_columns(std::span<const double> positions, std::span<const double> values,
-                        const Column_Scale &scale, std::span<ZEB_Chart_Column> columns) noexcept
+                        const Equal_Parts &scale, std::span<ZEB_Chart_Column> columns) noexcept
 {
     const auto [start, end] = shown_points(positions, scale);
     const std::span<const double> shown = positions.first(end);
     std::size_t length = (end - start) / columns.size(); // of the column before, which the next resembles
     for (std::size_t at = start; at < end; at += length) {
-        const std::uint32_t column = scale.column_of(shown[at]);
+        const std::uint32_t column = scale.part_of(shown[at]);
         length =
-            run_end(shown, at, length, [&](double position) { return scale.column_of(position) <= column; }) -
+            run_end(shown, at, length, [&](double position) { return scale.part_of(position) <= column; }) -
             at;
         // By the time that these values are read, so is the place where the next column may end.
         __builtin_prefetch(shown.data() + std::min(at + 2 * length, end - 1));
@@ -133,8 +99,8 @@ inline bool decimate(std::span<const double> positions, std::span<const double> 
 {
     if (columns.empty())
         return false;
-    const Column_Scale scale(start, end, static_cast<std::uint32_t>(columns.size()));
-    if (!scale.is_usable())
+    const Equal_Parts scale(start, end, static_cast<std::uint32_t>(columns.size()));
+    if (!scale.are_usable())
         return false;
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     std::fill(columns.begin(), columns.end(), ZEB_Chart_Column{nan, nan, nan, nan, 0});

@@ -40,6 +40,10 @@ inline constexpr Char_Span insert_on_unknown_comparison =
 inline constexpr Char_Span permutation_out_of_range =
     span_of("Permutation names an element outside the array, no change made.");
 
+inline constexpr Char_Span index_of_no_element =
+    span_of("Index is not below the count, no element returned.");
+inline constexpr Char_Span index_of_no_slot = span_of("Index is not below the count, no element set.");
+
 inline constexpr Char_Span not_implemented = span_of("Not implemented");
 inline constexpr Char_Span need_to_implement = span_of("Need to implement");
 

@@ -323,6 +323,13 @@ TEST(ZEB_T_Differential, what_needs_no_memory)
          reference::first_index_of_subsequence(p.all, p.in.run, p.samples.equal));
     HOLD(vectors, an_element, number_of([o.vector TT_word_at_index_from_end:o.in.from]),
          p.all[p.count - 1 - p.in.from]);
+    HOLD(vectors, anything, number_of([o.vector checked_TT_word_at_index:o.in.to]), p.checked(p.in.to));
+    HOLD(vectors, anything, number_of([o.vector checked_TT_word_at_index_from_end:o.in.to]),
+         p.checked(p.from_end(p.in.to)));
+    HOLD(vectors, anything, [o.vector checked_pointer_to_TT_word_at_index:o.in.to] != nullptr,
+         (p.checked(p.in.to), p.in.to < p.count));
+    HOLD(vectors, anything, [o.vector checked_pointer_to_TT_word_at_index_from_end:o.in.to] != nullptr,
+         (p.checked(p.from_end(p.in.to)), p.in.to < p.count));
     HOLD(vectors, an_element, number_of([o.vector first_TT_word]), p.all[0]);
     HOLD(vectors, an_element, number_of([o.vector last_TT_word]), p.all.back());
     HOLD(vectors, anything, [o.vector is_not_empty], p.count != 0);
@@ -390,6 +397,10 @@ TEST(ZEB_T_Differential, what_takes_new_contents)
          p.all[p.in.from] = p.key());
     HOLD(vectors, an_element, [o.vector set_TT_word:o.give(o.key) at_index_from_end:o.in.from],
          p.all[p.count - 1 - p.in.from] = p.key());
+    HOLD(vectors, anything, [o.vector set_checked_TT_word:o.give(o.key) at_index:o.in.to],
+         p.set_checked(p.in.to));
+    HOLD(vectors, anything, [o.vector set_checked_TT_word:o.give(o.key) at_index_from_end:o.in.to],
+         p.set_checked(p.from_end(p.in.to)));
     HOLD(vectors, anything, [o.vector fill_with_TT_word:o.give(o.key)], p.fill(0, UINT32_MAX));
     HOLD(vectors, anything, [o.vector fill_range:o.range with_TT_word:o.give(o.key)],
          p.fill(p.in.from, p.in.to));

@@ -40,12 +40,12 @@ typedef struct ZEB_T_Statistics {
 - (uint8_t)get_quantiles:(ZEB_Double_Vector *)quantiles at_fractions:(ZEB_Double_Vector *)fractions;
 
 /** Sets each element of `bins`, which divide the numbers from `low` to `high` among them, to how many
-   elements are in that bin, and `rest`, unless it is null, to how many are in none. The bin of a number x,
-   taken as a double, is floor((x - low) * (bins / (high - low))), each operation in double; where that is the
-   number of bins, as for `high`, the last one. Returns 1; or 0, with nothing changed, for nil, without bins,
-   for bounds that are not finite, not in order, or so far apart or close together that their distance or the
-   number of bins divided by it is not finite, and if allocation fails: that reports "Runtime error in
-   allocate macro". */
+    elements are in that bin, and `rest`, unless it is null, to how many are in none. The bin of a number x,
+    taken as a double, is floor((x - low) * (bins / (high - low))), each operation in double; where that is the
+    number of bins, as for `high`, the last one. Returns 1; or 0, with nothing changed, for nil, without bins,
+    for bounds that are not finite, not in order, or so far apart or close together that their distance or the
+    number of bins divided by it is not finite, and if allocation fails: that reports "Runtime error in
+    allocate macro". */
 - (uint8_t)count_in_bins:(ZEB_UInt_Vector *)bins
                     from:(double)low
                       to:(double)high

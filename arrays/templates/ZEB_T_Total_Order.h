@@ -16,9 +16,9 @@
 
 /** Sorts and moves `indexes` alike: if these were 0, 1, 2, ..., element i was element `indexes[i]` before, as
     `apply_permutation:` expects, and the indexes of equal elements ascend. With fewer indexes than elements,
-   and for nil, nothing changes and nothing is reported. Indexes that share memory with the elements are
-   sorted as elements and not moved separately. If an allocation fails, "Runtime error in allocate macro" is
-   reported and nothing changes. */
+    and for nil, nothing changes and nothing is reported. Indexes that share memory with the elements are
+    sorted as elements and not moved separately. If an allocation fails, "Runtime error in allocate macro" is
+    reported and nothing changes. */
 - (void)sort_by_total_order_with_permutation:(ZEB_UInt_Array *)indexes;
 
 @end

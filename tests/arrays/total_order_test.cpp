@@ -56,7 +56,7 @@ std::vector<E> elements(std::mt19937_64 &random, size_t count)
 template <class E>
 bool are_same(const std::vector<E> &left, const std::vector<E> &right)
 {
-    return std::memcmp(left.data(), right.data(), left.size() * sizeof(E)) == 0;
+    return left.empty() || std::memcmp(left.data(), right.data(), left.size() * sizeof(E)) == 0;
 }
 
 } // namespace

@@ -12,10 +12,8 @@ int main()
     ZEB_Double_Array *link = [ZEB_Double_Array link_to_doubles:[doubles double_data] count:3];
     uint8_t raw[] = {7, 200};
     ZEB_Byte_Vector *bytes = [[[ZEB_Byte_Vector alloc] init_as_link_to_bytes:raw count:2] autorelease];
-    ZEB_String *string = [ZEB_String array_with_capacity:0];
-    [string append_c_string:"hello" length:5];
-    ZEB_Wide_String *wide = [ZEB_Wide_String array_with_capacity:0];
-    [wide append_c_string:"wide" length:4];
+    ZEB_String *string = [ZEB_String string_with_c_string:"hello"];
+    ZEB_Wide_String *wide = [ZEB_Wide_String string_with_c_string:"wide"];
     ZEB_String_Array *strings = [ZEB_String_Array array_with_capacity:0];
     [strings append_string:string];
     ZEB_Object_Array *objects = [ZEB_Object_Array array_with_capacity:0];

@@ -6,6 +6,8 @@
 
 #include "tests/support/memory.hpp"
 
+#import <objc/runtime.h>
+
 namespace both
 {
 

@@ -3,8 +3,6 @@
 
 #include "tests/support/comma_locale.hpp"
 
-#import <objc/runtime.h>
-
 #include <new>
 
 using namespace both;

@@ -6,8 +6,6 @@
 #include "tests/support/sanitizer.hpp"
 #include "tests/support/vector_targets.hpp"
 
-#import <objc/runtime.h>
-
 using namespace both;
 
 namespace

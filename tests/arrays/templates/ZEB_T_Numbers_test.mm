@@ -1,6 +1,4 @@
 /// Statistics and the total order of TT_PHRASE, as the class offers them.
-#import <Korvane_ZEB/Korvane_ZEB.h>
-
 #include "tests/support/class_test.hpp"
 #include "tests/support/memory.hpp"
 #include "tests/support/samples.hpp"

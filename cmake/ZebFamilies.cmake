@@ -11,11 +11,11 @@ set(zeb_family_columns
 set(zeb_columns_that_may_be_empty TT_COLLECTION_FIELDS TT_VECTOR_FIELDS TT_KIND_STATE TT_SUM)
 
 set(zeb_template_lists HEADERS PRIVATE_HEADERS SOURCES OBJECT_HEADERS OBJECT_SOURCES STRING_HEADERS STRING_SOURCES
-    NUMBER_HEADERS NUMBER_SOURCES NUMBER_TESTS TESTS)
+    TEXT_SOURCES NUMBER_HEADERS NUMBER_SOURCES NUMBER_TESTS TESTS)
 
 # Adds the templates of a room, by paths from its folder. The families are made from all of them; those of
 # TESTS go to the property ZEB_FAMILY_TESTS; those of OBJECT_... are for families of objects alone, of
-# STRING_... for families of strings, of NUMBER_... for families of numbers.
+# STRING_... for families of strings, of TEXT_... for families of characters, of NUMBER_... for families of numbers.
 function(zeb_class_templates)
   cmake_parse_arguments(arg "" "" "${zeb_template_lists}" ${ARGN})
   foreach(list ${zeb_template_lists})
@@ -96,6 +96,9 @@ function(zeb_family)
   if(row_TT_KIND MATCHES "String_Policy")
     list(APPEND HEADERS ${STRING_HEADERS})
     list(APPEND SOURCES ${STRING_SOURCES})
+  endif()
+  if(row_TT_PHRASE MATCHES "characters")
+    list(APPEND SOURCES ${TEXT_SOURCES})
   endif()
   if(NOT "${row_TT_SUM}" STREQUAL "")
     list(APPEND HEADERS ${NUMBER_HEADERS})

@@ -30,7 +30,6 @@
 
 /** Initialise an owner in the same way. The capacity is the one that appending to an empty string chooses. */
 - (id)init_with_c_string:(const char *)text;
-- (id)init_with_NSString:(NSString *)text;
 - (id)init_with_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
 
 /** Appends a C string without its null. A link reports "Cannot append c string through link, no append
@@ -49,6 +48,14 @@
 
 @end
 
+@interface ZEB_String (Platform_Making)
+
+/** Initialises an owner with the UTF-8 of an NSString. That of 32-bit strings is in
+    ZEB_NSString_Conversion.h. */
+- (id)init_with_NSString:(NSString *)text;
+
+@end
+
 /**
  * 32-bit strings of UTF-16 units, as ZEB_Wide_String_Converter makes them; `join_surrogate_pairs` makes code
  * points of those. C strings and formatted texts are decoded as UTF-8; of text that is not UTF-8 each byte
@@ -61,7 +68,7 @@
 + (ZEB_Wide_String *)string_with_NSString:(NSString *)text;
 + (ZEB_Wide_String *)string_with_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
 
-/** Initialise an owner in the same way. `init_with_NSString:` is in ZEB_NSString_Conversion.h. */
+/** Initialise an owner in the same way. */
 - (id)init_with_c_string:(const char *)text;
 - (id)init_with_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
 

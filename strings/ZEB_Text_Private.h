@@ -3,6 +3,7 @@
  */
 #import "arrays/ZEB_Char_Storage_Private.h"
 #import "arrays/ZEB_Wide_Char_Storage_Private.h"
+#import "core/ZEB_Report_Private.h"
 
 #include <span>
 
@@ -28,6 +29,10 @@ inline NSComparisonResult platform_order(ZEB_Comparison order)
         return NSOrderedSame;
     return order == ZEB_COMPARED_LESS ? NSOrderedAscending : NSOrderedDescending;
 }
+
+/// Append a platform string, as UTF-8 or in UTF-16 units; what is no NSString counts as empty.
+void append_platform_string(ZEB_String *string, NSString *text, Fix_Report report);
+void append_platform_string(ZEB_Wide_String *string, NSString *text, Fix_Report report);
 
 /// Returns the object as one of the class wanted; nil if it is of another.
 template <class Wanted>

@@ -56,6 +56,15 @@ private:
     std::span<const std::uint32_t> members;
 };
 
+inline Is_One_Of_Chars is_one_of(std::span<const char> characters) noexcept
+{
+    return Is_One_Of_Chars(characters);
+}
+inline Is_One_Of_Units is_one_of(std::span<const std::uint32_t> units) noexcept
+{
+    return Is_One_Of_Units(units);
+}
+
 /// Removes the characters at the ends that `is_dropped` names. A link refuses.
 template <class Character, class Is_Dropped, class Report>
 void trim_text(Text_Storage<Character> string, Trimmed_Ends ends, const Is_Dropped &is_dropped,

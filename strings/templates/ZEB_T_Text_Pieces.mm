@@ -1,7 +1,6 @@
 #import <Korvane_ZEB/ZEB_Text_Pieces.h>
 
-#import "arrays/ZEB_String_Storage_Private.h"
-#import "arrays/ZEB_Wide_String_Storage_Private.h"
+#import "arrays/ZEB_T_Array_Storage_Private.h"
 #import "strings/ZEB_Text_Private.h"
 
 #include "core/engine/namespace.hpp"
@@ -37,46 +36,23 @@ void join(String *target, Strings *strings, std::span<const Character> separator
 
 } // namespace
 
-@implementation ZEB_Char_Vector (Splitting)
+@implementation ZEB_T_Vector (Splitting)
 
-- (uint32_t)split_by_char:(char)separator into:(ZEB_String_Array *)pieces
+- (uint32_t)split_by_TT_word:(ZEB_T_Element)separator into:(ZEB_T_Array_Array *)pieces
 {
-    return split(text_of(self), std::span<const char>(&separator, 1), pieces, _cmd);
+    return split(text_of(self), std::span<const ZEB_T_Element>(&separator, 1), pieces, _cmd);
 }
 
-- (uint32_t)split_by_text:(ZEB_Char_Vector *)separator into:(ZEB_String_Array *)pieces
-{
-    return split(text_of(self), text_of(separator), pieces, _cmd);
-}
-
-@end
-
-@implementation ZEB_Wide_Char_Vector (Splitting)
-
-- (uint32_t)split_by_wide_char:(uint32_t)separator into:(ZEB_Wide_String_Array *)pieces
-{
-    return split(text_of(self), std::span<const uint32_t>(&separator, 1), pieces, _cmd);
-}
-
-- (uint32_t)split_by_text:(ZEB_Wide_Char_Vector *)separator into:(ZEB_Wide_String_Array *)pieces
+- (uint32_t)split_by_text:(ZEB_T_Vector *)separator into:(ZEB_T_Array_Array *)pieces
 {
     return split(text_of(self), text_of(separator), pieces, _cmd);
 }
 
 @end
 
-@implementation ZEB_String (Joining)
+@implementation ZEB_T_Array (Joining)
 
-- (void)join_strings:(ZEB_String_Vector *)strings separator:(ZEB_Char_Vector *)separator
-{
-    join(self, strings, text_of(separator), _cmd);
-}
-
-@end
-
-@implementation ZEB_Wide_String (Joining)
-
-- (void)join_strings:(ZEB_Wide_String_Vector *)strings separator:(ZEB_Wide_Char_Vector *)separator
+- (void)join_strings:(ZEB_T_Array_Vector *)strings separator:(ZEB_T_Vector *)separator
 {
     join(self, strings, text_of(separator), _cmd);
 }

@@ -21,7 +21,7 @@ constexpr double top = 56, bottom = 384, right = 908;
 constexpr double title_size = 18, label_size = 12, caption_size = 11;
 constexpr double greatest_left = 300;
 constexpr uint32_t greatest_tick_count = 8;
-constexpr const char *label_attributes = "font-size=\"12\" fill=\"#333\"";
+constexpr const char *title_color = "#111", *label_color = "#333", *caption_color = "#666";
 constexpr const char *grid_attributes = "stroke=\"#ddd\"";
 constexpr const char *frame_attributes = "fill=\"none\" stroke=\"#888\"";
 constexpr const char *curve_attributes = "fill=\"#1f5fa8\" stroke=\"#1f5fa8\" stroke-linejoin=\"round\"";
@@ -32,7 +32,7 @@ void draw_date_ticks(Picture *picture, Axis *dates)
     for (uint32_t i = 0; i < [dates tick_count]; ++i)
         [picture add_line_from:[dates tick_pixel_at_index:i] y:top to:[dates tick_pixel_at_index:i] y:bottom];
     [picture end_group];
-    [picture begin_group:"dates" attributes:label_attributes];
+    [picture begin_texts:"dates" color:label_color font_size:label_size];
     for (uint32_t i = 0; i < [dates tick_count]; ++i) {
         const double x = [dates tick_pixel_at_index:i];
         [picture add_text:[dates label_at_index:i] x:x y:bottom + 21 anchor:TEXT_IS_CENTERED];
@@ -51,7 +51,7 @@ void draw_value_ticks(Picture *picture, Axis *numbers, double left)
                             to:right
                              y:[numbers tick_pixel_at_index:i]];
     [picture end_group];
-    [picture begin_group:"values" attributes:label_attributes];
+    [picture begin_texts:"values" color:label_color font_size:label_size];
     for (uint32_t i = 0; i < [numbers tick_count]; ++i)
         [picture add_text:[numbers label_at_index:i]
               raised_from:[numbers raised_from_at_index:i]
@@ -65,9 +65,10 @@ void draw_value_ticks(Picture *picture, Axis *numbers, double left)
 void print_instant(char *buffer, double instant)
 {
     const char midnight[] = "T00:00:00";
-    char *const end = ZC_format_iso8601_from_seconds(buffer, instant), *const time = end - strlen(midnight);
-    if (time > buffer && strcmp(time, midnight) == 0)
-        *time = '\0';
+    const auto length = ZC_format_iso8601_from_seconds(buffer, instant) - buffer;
+    const auto date_length = length - static_cast<ptrdiff_t>(strlen(midnight));
+    if (date_length > 0 && strcmp(buffer + date_length, midnight) == 0)
+        buffer[date_length] = '\0';
 }
 
 /// Writes the dates and the values between which the series lies.
@@ -108,14 +109,14 @@ void draw_titles(Picture *picture, ZEB_Wide_String *title, ZEB_Wide_String *valu
 {
     const double middle = (left + right) / 2;
     const bool has_contexts = [dates tick_count] != 0 && [[dates context_at_index:0] is_not_empty];
-    [picture begin_group:"titles" attributes:"fill=\"#111\" font-size=\"18\""];
+    [picture begin_texts:"titles" color:title_color font_size:title_size];
     [picture add_text:title x:middle y:32 anchor:TEXT_IS_CENTERED];
     [picture end_group];
-    [picture begin_group:"axis-titles" attributes:label_attributes];
+    [picture begin_texts:"axis-titles" color:label_color font_size:label_size];
     [picture add_text:[dates unit_name] x:middle y:bottom + (has_contexts ? 58 : 44)anchor:TEXT_IS_CENTERED];
     [picture add_upright_text:values_title x:20 y:(top + bottom) / 2];
     [picture end_group];
-    [picture begin_group:"caption" attributes:"fill=\"#666\" font-size=\"11\""];
+    [picture begin_texts:"caption" color:caption_color font_size:caption_size];
     [picture add_text:caption x:right y:bottom + 82 anchor:TEXT_ENDS];
     [picture end_group];
 }

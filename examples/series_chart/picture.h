@@ -18,8 +18,10 @@ typedef enum { TEXT_STARTS, TEXT_IS_CENTERED, TEXT_ENDS } Text_Anchor;
 /** Initialises a white picture. The title is what programs show that do not show the picture. */
 - (id)init_with_title:(ZEB_Wide_Char_Vector *)title width:(double)width height:(double)height;
 
-/** Begins a group with a name and further attributes of SVG, and ends it. */
+/** Begin a group with a name and further attributes of SVG, or one of texts in a color and a font size.
+    Every group has to be ended. */
 - (void)begin_group:(const char *)name attributes:(const char *)attributes;
+- (void)begin_texts:(const char *)name color:(const char *)color font_size:(double)size;
 - (void)end_group;
 
 /** Adds a straight line. */

@@ -97,6 +97,15 @@ void put_text(ZEB_Stream *stream, ZEB_Wide_Char_Vector *units, uint32_t start, u
     put(stream, ">\n");
 }
 
+- (void)begin_texts:(const char *)name color:(const char *)color font_size:(double)size
+{
+    put(stream, "<g id=\"");
+    put(stream, name);
+    put(stream, "\" fill=\"");
+    put(stream, color);
+    put(stream, "\" font-size=\"", size, "\">\n");
+}
+
 - (void)end_group
 {
     put(stream, "</g>\n");

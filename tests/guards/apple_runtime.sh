@@ -10,4 +10,4 @@ stamp=$build/apple_runtime.passed
     xargs -P "$(nproc)" -n 1 clang++ -fsyntax-only -std=c++20 -Wall -fobjc-runtime=macosx-10.11 -DGNUSTEP \
         -DGNUSTEP_BASE_LIBRARY=1 -DZEB_BUILDING_FRAMEWORK -fexceptions -fobjc-exceptions \
         -isystem /usr/include/GNUstep -idirafter "$(g++ -print-file-name=include)" \
-        "-I$source" "-I$build/generated" "-I$build/include" && touch "$stamp"
+        "-I$source" "-I$source/examples/series" "-I$build/generated" "-I$build/include" && touch "$stamp"

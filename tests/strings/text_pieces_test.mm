@@ -211,6 +211,7 @@ TYPED_TEST(Text_Pieces, are_refused_by_a_link_and_without_memory)
     EXPECT_EQ(standard_error_of([&] { EXPECT_EQ([text split_by_text:slash into:link], 0u); }),
               fix_line("split_by_text:into:", named, "Cannot split text into link, no change made."));
     EXPECT_EQ(pieces_of(link), before);
+    int refusals = 0;
     for (int call = 0, has_failed = 1; has_failed; ++call) {
         array = array_of<TypeParam>(before);
         [array trim_allocation];
@@ -218,9 +219,11 @@ TYPED_TEST(Text_Pieces, are_refused_by_a_link_and_without_memory)
         const std::string error = standard_error_of(split);
         has_failed = memory.calls_until_failure < 0;
         memory.calls_until_failure = -1;
-        EXPECT_EQ(pieces_of(array), has_failed ? before : after) << call;
-        EXPECT_EQ(error.empty(), !has_failed);
+        // What a search alone wants memory for it can do without.
+        EXPECT_EQ(pieces_of(array), error.empty() ? after : before) << call;
+        refusals += !error.empty();
     }
+    EXPECT_GT(refusals, 2);
 }
 
 TYPED_TEST(Text_Pieces, are_joined_also_with_the_receiver_among_them)

@@ -14,8 +14,7 @@ using namespace zeb_test;
 namespace
 {
 
-constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double not_a_number = NAN, infinity = INFINITY;
 
 struct Chart {
     std::vector<double> positions, values;

@@ -6,7 +6,6 @@
 #include "core/engine/namespace.hpp"
 #include "tests/support/vector_targets.hpp"
 
-#include <bit>
 #include <random>
 #include <vector>
 
@@ -92,11 +91,8 @@ TYPED_TEST(Statistics, are_those_of_the_definition)
                 ASSERT_EQ(found.sum_is_cut, expected.sum_is_cut);
                 ASSERT_TRUE(found.sum == expected.sum || (std::is_floating_point_v<TypeParam> &&
                                                           are_close(found.sum, expected.sum, 1e-14)));
-                ASSERT_TRUE(are_close(found.mean, expected.mean, 1e-14))
-                    << found.mean << " " << expected.mean;
-                ASSERT_TRUE(are_close(found.variance, expected.variance, 1e-11))
-                    << count << " numbers " << found.variance << " " << expected.variance << " mean "
-                    << found.mean;
+                ASSERT_TRUE(are_close(found.mean, expected.mean, 1e-14)) << count;
+                ASSERT_TRUE(are_close(found.variance, expected.variance, 1e-11)) << count;
                 ASSERT_TRUE(are_close(found.sample_variance, expected.sample_variance, 1e-11));
                 first = first == 0 ? found.variance : first;
                 ASSERT_TRUE(found.variance == first || found.variance != found.variance);
@@ -113,9 +109,7 @@ TYPED_TEST(Statistics, part_the_numbers)
         std::vector<TypeParam> sorted;
         std::ranges::copy_if(all, std::back_inserter(sorted), [](TypeParam each) { return each == each; });
         std::ranges::sort(sorted);
-        double parts[11];
-        for (int i = 0; i <= 10; ++i)
-            parts[i] = i / 10.0;
+        double parts[] = {0, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9, 1};
         ASSERT_TRUE(engine::quantiles<TypeParam>(all, parts, parts));
         for (size_t i = 0; i <= 10 && !sorted.empty(); ++i) {
             const size_t tenths = (sorted.size() - 1) * i;

@@ -34,14 +34,8 @@ template <class E>
 std::vector<E> elements(std::mt19937_64 &random, size_t count)
 {
     using Limits = std::numeric_limits<E>;
-    const E odd[] = {E(0),
-                     E(-E(0)),
-                     Limits::quiet_NaN(),
-                     static_cast<E>(-Limits::quiet_NaN()),
-                     E(1),
-                     Limits::infinity(),
-                     static_cast<E>(-Limits::infinity()),
-                     Limits::lowest()};
+    constexpr E nan = Limits::quiet_NaN(), infinity = Limits::infinity();
+    const E odd[] = {0, E(-E(0)), nan, E(-nan), 1, infinity, E(-infinity), Limits::lowest()};
     const size_t kinds = 1 + random() % 12;
     std::vector<E> all(count);
     for (E &each : all) {

@@ -229,10 +229,9 @@ TEST(Time_Stamp, platform_sorts_order_stamps_as_dates)
     const auto stamp = [](uint64_t second, uint64_t nanosecond) {
         return [[[ZEB_Time_Stamp alloc] init_with_time:second nanosecond:nanosecond] autorelease];
     };
-    NSArray *const in_order =
-        [NSArray arrayWithObjects:stamp(0, 0), stamp(7, 0), stamp(7, 1), stamp(8, 0), nil];
-    NSArray *const shuffled = [[in_order reverseObjectEnumerator] allObjects];
-    EXPECT_TRUE([[shuffled sortedArrayUsingSelector:@selector(platform_compare:)] isEqual:in_order]);
+    NSArray *const all = [NSArray arrayWithObjects:stamp(0, 0), stamp(7, 0), stamp(7, 1), stamp(8, 0), nil];
+    NSArray *const shuffled = [[all reverseObjectEnumerator] allObjects];
+    EXPECT_TRUE([[shuffled sortedArrayUsingSelector:@selector(platform_compare:)] isEqual:all]);
     EXPECT_EQ([stamp(0, 0) platform_compare:nil], NSOrderedSame);
     EXPECT_EQ([stamp(0, 1) platform_compare:(id) @"7"], NSOrderedDescending);
     EXPECT_EQ([never_set() platform_compare:(id) @"7"], NSOrderedSame);

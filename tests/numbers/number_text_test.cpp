@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
 
 using zeb_test::guarded_text;
 
@@ -60,33 +59,22 @@ TEST(Number_Text, known_texts_at_the_edges_of_the_ranges)
 
 TEST(Number_Text, shortest_texts_at_the_edges_of_the_notations)
 {
-    const std::pair<double, const char *> rows[] = {
-        {0.0, "0"},
-        {-0.0, "-0"},
-        {infinity, "Inf"},
-        {-infinity, "-Inf"},
-        {not_a_number, "NaN"},
-        {0.1, "0.1"},
-        {1e-4, "0.0001"},
-        {-1.25e-4, "-0.000125"},
-        {1e-7, "1e-07"},
-        {1.5e-5, "1.5e-05"},
-        {100, "100"},
-        {1e15, "1000000000000000"},
-        {0x1p53, "9007199254740992"},
-        {1e16, "1e+16"},
-        {1e22, "1e+22"},
-        {123456.75, "123456.75"},
-        {0x1p-1074, "5e-324"},
-        {-0x1.fffffffffffffp1023, "-1.7976931348623157e+308"},
-        {0x1p-44, "5.684341886080802e-14"}, // rounded to 16 digits it is another number
-    };
-    for (const auto &[value, expected] : rows) {
+    const std::vector<double> values = {
+        0.0,    -0.0, infinity, -infinity, not_a_number, 0.1,  1e-4,      -1.25e-4,  1e-7,
+        1.5e-5, 100,  1e15,     0x1p53,    1e16,         1e22, 123456.75, 0x1p-1074, -0x1.fffffffffffffp1023,
+        0x1p-44};
+    // The last one, rounded to 16 digits, is another number.
+    const auto texts =
+        zeb_test::words_of("0 -0 Inf -Inf NaN 0.1 0.0001 -0.000125 1e-07 1.5e-05 100 1000000000000000 "
+                           "9007199254740992 1e+16 1e+22 123456.75 5e-324 "
+                           "-1.7976931348623157e+308 5.684341886080802e-14");
+    ASSERT_EQ(texts.size(), values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
         double read = 0;
-        EXPECT_EQ(shortest(value), expected);
-        ZC_assign_double_from_char_c_array(expected, static_cast<std::uint32_t>(std::strlen(expected)),
+        EXPECT_EQ(shortest(values[i]), texts[i]);
+        ZC_assign_double_from_char_c_array(texts[i].data(), static_cast<std::uint32_t>(texts[i].size()),
                                            &read);
-        EXPECT_TRUE(read == value || std::isnan(value)) << expected;
+        EXPECT_TRUE(read == values[i] || std::isnan(values[i])) << texts[i];
     }
     EXPECT_EQ(shortest(0.1F) + ' ' + shortest(16777216.0F) + ' ' + shortest(0x1p-149F), "0.1 16777216 1e-45");
 }

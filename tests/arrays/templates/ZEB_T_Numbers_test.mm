@@ -3,21 +3,17 @@
 #include "tests/support/memory.hpp"
 #include "tests/support/samples.hpp"
 
-#include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace
 {
-
-using Element = ZEB_T_Element;
 
 /// 100 to 0.
 ZEB_T_Array *countdown()
 {
     ZEB_T_Array *const made = [ZEB_T_Array array_with_capacity:0];
     for (int number = 100; number >= 0; --number)
-        [made append_TT_word:static_cast<Element>(number)];
+        [made append_TT_word:static_cast<ZEB_T_Element>(number)];
     return made;
 }
 
@@ -61,7 +57,7 @@ TEST(ZEB_T_Numbers, are_sorted_with_their_indexes)
     [numbers sort_by_total_order_with_permutation:indexes];
     [others sort_by_total_order];
     EXPECT_TRUE([numbers isEqual:others]);
-    EXPECT_EQ([numbers first_TT_word], Element(0));
+    EXPECT_EQ([numbers first_TT_word], ZEB_T_Element(0));
     EXPECT_EQ([indexes first_uint], 3u);
 }
 
@@ -72,15 +68,13 @@ TEST(ZEB_T_Numbers, stay_where_something_is_missing)
     ZEB_UInt_Array *const bins = support::indexes_of({7}), *const marks = support::indexes_of(
                                                                std::vector<uint32_t>(101));
     ZEB_Histogram_Rest rest{7, 7, 7};
-    const bool refused[] = {[numbers get_quantiles:nil at_fractions:parts] == 0,
-                            [numbers get_quantiles:parts at_fractions:nil] == 0,
-                            [numbers get_quantiles:parts at_fractions:empty] == 0,
-                            [numbers count_in_bins:nil from:0 to:1 rest:&rest] == 0,
-                            [numbers count_in_bins:support::indexes_of({}) from:0 to:1 rest:&rest] == 0,
-                            [numbers count_in_bins:bins from:1 to:1 rest:&rest] == 0,
-                            [numbers count_in_bins:bins from:0 to:HUGE_VAL rest:&rest] == 0};
-    EXPECT_EQ(std::ranges::count(refused, true), 7);
-    const auto line_of = [](const char *selector, std::function<void()> work) {
+    for (const auto &[quantiles, fractions] : {std::pair(parts, empty), {parts, nil}, {nil, parts}})
+        EXPECT_EQ([numbers get_quantiles:quantiles at_fractions:fractions], 0);
+    for (ZEB_UInt_Array *unfit : {support::indexes_of({}), static_cast<ZEB_UInt_Array *>(nil)})
+        EXPECT_EQ([numbers count_in_bins:unfit from:0 to:1 rest:&rest], 0);
+    for (const double high : {1.0, HUGE_VAL})
+        EXPECT_EQ([numbers count_in_bins:bins from:1 to:high rest:&rest], 0);
+    const auto line_of = [](const char *selector, auto work) {
         support::memory.is_out = true;
         const std::string line = support::standard_error_of(work);
         support::memory.is_out = false;

@@ -17,11 +17,6 @@ bool is_character(uint32_t code)
            (code >= 0x10000 && code < 0x110000);
 }
 
-ZEB_String *text_of(const char *chars)
-{
-    return [ZEB_String link_to_chars:const_cast<char *>(chars) count:static_cast<uint32_t>(strlen(chars))];
-}
-
 /// Returns the UTF-8 of units from `start` to before `end`, as a document holds it; nil if allocation fails.
 ZEB_String *document_text(ZEB_Wide_Char_Vector *units, uint32_t start, uint32_t end)
 {
@@ -34,7 +29,8 @@ ZEB_String *document_text(ZEB_Wide_Char_Vector *units, uint32_t start, uint32_t 
         return nil;
     constexpr const char *replacements[][2] = {{"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}};
     for (const auto &[from, to] : replacements)
-        [text replace_occurrences:text_of(from) replacement:text_of(to)];
+        [text replace_occurrences:[ZEB_String string_with_c_string:from]
+                      replacement:[ZEB_String string_with_c_string:to]];
     return text;
 }
 

@@ -1,19 +1,33 @@
-# The one list of public headers, and the staged tree in which all code finds them as <Korvane_ZEB/...>.
+# The one list of public headers, and the staged tree in which all code finds them as <Korvane_ZEB/...>; those of
+# the engine, for C++, as <Korvane_ZEB_engine/...>.
 
 set(ZEB_STAGED_INCLUDE ${PROJECT_BINARY_DIR}/include)
-file(MAKE_DIRECTORY ${ZEB_STAGED_INCLUDE}/Korvane_ZEB)
+file(MAKE_DIRECTORY ${ZEB_STAGED_INCLUDE}/Korvane_ZEB ${ZEB_STAGED_INCLUDE}/Korvane_ZEB_engine)
 define_property(GLOBAL PROPERTY ZEB_PUBLIC_HEADERS BRIEF_DOCS "Public headers" FULL_DOCS "Their paths.")
+define_property(GLOBAL PROPERTY ZEB_ENGINE_HEADERS BRIEF_DOCS "Public headers of the engine" FULL_DOCS "Their paths.")
 
-# Adds public headers, by paths from the current folder. A link, not a copy: both spellings of a header
-# are then one file to the compiler.
-function(zeb_stage_headers)
+# Links headers, by paths from the current folder, into a folder of the staged tree, and adds them to a list.
+# A link, not a copy: both spellings of a header are then one file to the compiler.
+function(zeb_link_headers folder list)
   foreach(header ${ARGN})
     get_filename_component(path ${header} ABSOLUTE)
     get_filename_component(name ${header} NAME)
-    file(CREATE_LINK ${path} ${ZEB_STAGED_INCLUDE}/Korvane_ZEB/${name} SYMBOLIC)
-    set_property(GLOBAL APPEND PROPERTY ZEB_PUBLIC_HEADERS ${path})
-    target_sources(Korvane_ZEB PRIVATE ${path})
+    file(CREATE_LINK ${path} ${ZEB_STAGED_INCLUDE}/${folder}/${name} SYMBOLIC)
+    set_property(GLOBAL APPEND PROPERTY ${list} ${path})
+    if(TARGET ${folder})
+      target_sources(${folder} PRIVATE ${path})
+    endif()
   endforeach()
+endfunction()
+
+# Adds public headers of the framework.
+function(zeb_stage_headers)
+  zeb_link_headers(Korvane_ZEB ZEB_PUBLIC_HEADERS ${ARGN})
+endfunction()
+
+# Adds public headers of the engine.
+function(zeb_stage_engine_headers)
+  zeb_link_headers(Korvane_ZEB_engine ZEB_ENGINE_HEADERS ${ARGN})
 endfunction()
 
 # Stages the header that `template` becomes with lines that include the public headers whose names match.

@@ -8,7 +8,7 @@ namespace zeb::engine
 {
 
 /// The size in bytes of the chunks in which output is appended.
-inline constexpr std::size_t zlib_chunk_size = 16384;
+inline constexpr std::uint32_t zlib_chunk_size = 16384;
 
 /// zlib's statuses for a destination that cannot grow, and for output beyond a bound.
 inline constexpr std::int32_t zlib_out_of_memory = -4;

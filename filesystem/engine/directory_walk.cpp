@@ -27,8 +27,8 @@ struct Level {
 class Walk
 {
 public:
-    Walk(const char *place, Char_Span path, Links links, Walk_Visitor &visitor)
-        : place(place), path(path.char_c_array, path.length), links(links), visitor(visitor)
+    Walk(const char *top, Char_Span top_path, Links link_handling, Walk_Visitor &caller)
+        : place(top), path(top_path.char_c_array, top_path.length), links(link_handling), visitor(caller)
     {
     }
 

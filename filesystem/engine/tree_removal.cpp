@@ -17,7 +17,7 @@ int removal_error(const Walk_Entry &entry, int flags) noexcept
 class Removal final : public Walk_Visitor
 {
 public:
-    Removal(Links links, Removal_Report &report) : links(links), report(report) {}
+    Removal(Links link_handling, Removal_Report &receiver) : links(link_handling), report(receiver) {}
 
     Walk_Step at_entry(const Walk_Entry &entry) override
     {

@@ -15,7 +15,8 @@ struct Wide_Unsigned {
 constexpr Wide_Unsigned wide_product(std::uint64_t a, std::uint64_t b) noexcept
 {
 #if defined(__SIZEOF_INT128__)
-    const unsigned __int128 product = static_cast<unsigned __int128>(a) * b;
+    __extension__ using Product = unsigned __int128;
+    const Product product = Product{a} * b;
     return {static_cast<std::uint64_t>(product >> 64), static_cast<std::uint64_t>(product)};
 #else
     const std::uint64_t a_low = a & 0xFFFFFFFF, a_high = a >> 32;

@@ -30,10 +30,10 @@ function(zeb_stage_engine_headers)
   zeb_link_headers(Korvane_ZEB_engine ZEB_ENGINE_HEADERS ${ARGN})
 endfunction()
 
-# Stages the header that `template` becomes with lines that include the public headers whose names match.
-# `directive` is #include or #import, `variable` what the template calls the lines.
-function(zeb_write_header template directive variable pattern)
-  get_property(headers GLOBAL PROPERTY ZEB_PUBLIC_HEADERS)
+# Writes the header that `template` becomes with lines that include the headers of a list whose names match, and
+# sets `out` to its path. `directive` is #include or #import, `variable` what the template calls the lines.
+function(zeb_write_header out template list folder directive variable pattern)
+  get_property(headers GLOBAL PROPERTY ${list})
   set(names)
   foreach(header ${headers})
     get_filename_component(name ${header} NAME)
@@ -41,16 +41,26 @@ function(zeb_write_header template directive variable pattern)
   endforeach()
   list(FILTER names INCLUDE REGEX "${pattern}")
   list(SORT names)
-  list(TRANSFORM names REPLACE "(.+)" "${directive} <Korvane_ZEB/\\1>")
+  list(TRANSFORM names REPLACE "(.+)" "${directive} <${folder}/\\1>")
   list(JOIN names "\n" ${variable})
   get_filename_component(name ${template} NAME_WLE)
   configure_file(${PROJECT_SOURCE_DIR}/${template} ${PROJECT_BINARY_DIR}/generated/${name} @ONLY)
-  zeb_stage_headers(${PROJECT_BINARY_DIR}/generated/${name})
+  set(${out} ${PROJECT_BINARY_DIR}/generated/${name} PARENT_SCOPE)
 endfunction()
 
 # Writes the headers that name all others, once every room and family has added its own. What needs C++ is
 # left out of the umbrella, for those who want it.
 function(zeb_write_collective_headers)
-  zeb_write_header(umbrella/Korvane_ZEB.h.in "#import" umbrella_imports "\\.h$")
-  zeb_write_header(arrays/ZEB_Array_Spans.hpp.in "#include" span_includes "_Span\\.hpp$")
+  zeb_write_header(umbrella umbrella/Korvane_ZEB.h.in ZEB_PUBLIC_HEADERS Korvane_ZEB "#import" umbrella_imports
+                   "\\.h$")
+  zeb_write_header(spans arrays/ZEB_Array_Spans.hpp.in ZEB_PUBLIC_HEADERS Korvane_ZEB "#include" span_includes
+                   "_Span\\.hpp$")
+  zeb_stage_headers(${umbrella} ${spans})
+endfunction()
+
+# The same for the engine.
+function(zeb_write_collective_engine_header)
+  zeb_write_header(all umbrella/Korvane_ZEB_engine.hpp.in ZEB_ENGINE_HEADERS Korvane_ZEB_engine "#include"
+                   engine_includes "\\.hpp$")
+  zeb_stage_engine_headers(${all})
 endfunction()

@@ -28,6 +28,13 @@ void write_binary_header(char *buffer) noexcept
     std::memcpy(buffer + header_text_size + sizeof header_words, plain_header_tail, header_tail_size);
 }
 
+bool is_binary_header(const char *buffer, std::uint32_t length) noexcept
+{
+    return length >= binary_header_size && std::memcmp(buffer, header_text, header_text_size) == 0 &&
+           (binary_header_needs_swap(buffer, length) ||
+            read_count(buffer + header_text_size, false) == byte_order_marker);
+}
+
 bool binary_header_needs_swap(const char *buffer, std::uint32_t length) noexcept
 {
     if (length < binary_header_size || std::memcmp(buffer, header_text, header_text_size) != 0)

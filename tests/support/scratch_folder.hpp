@@ -32,8 +32,8 @@ public:
 /// Where flushing takes no time, if the system has such a file system.
 inline std::filesystem::path place_in_memory()
 {
-    const std::filesystem::path memory = "/dev/shm";
-    return is_directory(memory) ? memory : std::filesystem::temp_directory_path();
+    const std::filesystem::path in_memory = "/dev/shm";
+    return is_directory(in_memory) ? in_memory : std::filesystem::temp_directory_path();
 }
 
 inline void put_file(const std::string &path, const std::string &contents)

@@ -60,9 +60,9 @@ public:
     using Element = typename Kind::Element;
 
     /// The operation changes the `size` bytes at `block`.
-    Unaliased_Source(Kind kind, std::span<Element const> run, const void *block, std::size_t size) noexcept
-        : overlapping(overlaps(run, block, size)), copy(kind, overlapping ? run : std::span<Element const>()),
-          run(run)
+    Unaliased_Source(Kind kind, std::span<Element const> source, const void *block, std::size_t size) noexcept
+        : overlapping(overlaps(source, block, size)),
+          copy(kind, overlapping ? source : std::span<Element const>()), run(source)
     {
     }
 

@@ -10,7 +10,7 @@ stamp=$include/../engine_is_plain.passed
 headers=$(find . -path ./build -prune -o -path '*/engine/*.hpp' -print)
 sources=$(find . -path ./build -prune -o -path '*/engine/*.cpp' -print)
 grep -nE '^#import|Foundation/|objc/' $headers $sources && exit 1
-grep -nE '<Korvane_ZEB/' $headers $sources | grep -vE 'ZEB_(Types|Version)\.h' && exit 1
+grep -nE '<Korvane_ZEB/' $headers $sources | grep -vE 'ZEB_(Types|Version|Arrow_Structs)\.h' && exit 1
 headers=$(grep -v -- '-inl\.hpp$' <<<"$headers") # those are made to be included under a vector target
 plain="-x c++ -std=c++20 -fsyntax-only -Wall -Wextra -Werror -I. -I$include -"
 sed 's|^\./\(.*\)|#include "\1"|' <<<"$headers" | clang++ $plain || exit 1

@@ -1,0 +1,50 @@
+/*
+ * Arrays and tables that came from another library through the Arrow C data interface.
+ */
+#import <Korvane_ZEB/ZEB_Arrow_Structs.h>
+#import <Korvane_ZEB/ZEB_Object.h>
+
+/**
+ * Owns an array, or shows a column of a table that it keeps alive. What it received is released when the object
+ * and all columns taken from it are deallocated; so is what `link_to_doubles` and its like show.
+ *
+ * Different objects may be used on different threads, where the other library allows that.
+ */
+ZEB_EXPORT
+@interface ZEB_Arrow_Array : ZEB_Object {
+    ZEB_PROTECTED
+    struct ArrowArray array;
+    struct ArrowSchema schema;
+    ZEB_Arrow_Array *table;
+    uint64_t start;
+    uint64_t count;
+}
+
+/** Initialises with an array and its schema, and takes both over: they are left as released, with a null
+    `release`. Returns nil, with both structs as they are, for null, for structs that were released, and where
+    their counts make no sense. */
+- (id)init_with_arrow_array:(struct ArrowArray *)array schema:(struct ArrowSchema *)schema;
+
+/** The same, autoreleased. */
++ (id)arrow_array_with:(struct ArrowArray *)array schema:(struct ArrowSchema *)schema;
+
+/** Returns the number of elements, or of a table's rows. */
+- (uint64_t)count;
+
+/** Returns how many elements are null, that is, have no value. */
+- (uint64_t)null_count;
+
+/** Returns the text of the elements' type, as the interface has it, and the name; "" if there is none. Both
+    live as long as the receiver. */
+- (const char *)format;
+- (const char *)name;
+
+/** Returns the number of a table's columns; 0 for an array of elements. */
+- (uint32_t)column_count;
+
+/** Returns a column of a table, autoreleased, which keeps the table; nil for an index that is not below
+    their number, where the table has rows that are null, and for a column that has fewer elements than the
+    table rows. */
+- (ZEB_Arrow_Array *)column_at_index:(uint32_t)index;
+
+@end

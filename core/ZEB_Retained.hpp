@@ -1,7 +1,7 @@
 /// `zeb::retained<Class>`: a reference that keeps an object of the framework or the platform alive, for C++
 /// members, containers and locals. With and without automatic reference counting.
 ///
-///     zeb::retained<ZEB_Double_Array> values = zeb::adopt([[ZEB_Double_Array alloc] init]);
+///     auto values = zeb::retained<ZEB_Double_Array>::adopt([[ZEB_Double_Array alloc] init]);
 ///     [values.get() append_double:2.5];
 ///
 /// As a field of an Objective-C class it needs a compiler that calls C++ constructors there: g++ does so with
@@ -75,12 +75,5 @@ private:
 };
 
 #undef ZEB_RETAINED_COUNTS_BY_ITSELF
-
-/// Takes over a reference that the caller has.
-template <class Class>
-retained<Class> adopt(Class *owned) noexcept
-{
-    return retained<Class>::adopt(owned);
-}
 
 } // namespace zeb

@@ -1,5 +1,5 @@
 // Summarises dated values in C++ alone, and keeps them in a compressed file: cpp_program CSV FILE
-// Lines of the CSV that are not "month/day/year,value" are passed over.
+// The lines of the CSV are "month/day/year,value"; the first may be a heading.
 #include <Korvane_ZEB_engine/Korvane_ZEB_engine.hpp>
 
 #include <cstdio>
@@ -19,20 +19,22 @@ bool fail(const char *what, const char *path, const char *why)
     return false;
 }
 
-/// False if there is no memory; a line without a date and a value adds nothing.
-bool add_line(std::string_view line, Series &series)
+enum class Outcome { added, not_a_row, no_memory };
+
+Outcome add_row(std::string_view line, Series &series)
 {
     const auto comma = zeb::find(line, ",");
     if (!comma)
-        return true;
+        return Outcome::not_a_row;
     const std::string_view date = zeb::trim(line.substr(0, *comma)),
                            number = zeb::trim(line.substr(*comma + 1));
     zeb::Date_And_Time instant;
     double value = 0;
     if (date.empty() || zeb::scan_slash_text(date, instant) != date.size() || number.empty() ||
         zeb::scan_number(number, value) != number.size())
-        return true;
-    return series.days.append(zeb::julian_day(instant.date)) && series.values.append(value);
+        return Outcome::not_a_row;
+    const bool is_kept = series.days.append(zeb::julian_day(instant.date)) && series.values.append(value);
+    return is_kept ? Outcome::added : Outcome::no_memory;
 }
 
 bool read_csv(const char *path, Series &series)
@@ -41,9 +43,15 @@ bool read_csv(const char *path, Series &series)
     if (const int error = zeb::read_file(path, contents); error != 0)
         return fail("cannot read", path, std::strerror(error));
     const std::string_view text(reinterpret_cast<const char *>(contents.data()), contents.size());
-    for (const std::string_view line : zeb::Pieces(text, "\n"))
-        if (!add_line(line, series))
+    bool is_heading = true;
+    for (const std::string_view line : zeb::Pieces(text, "\n")) {
+        const Outcome outcome = zeb::trim(line).empty() ? Outcome::added : add_row(line, series);
+        if (outcome == Outcome::no_memory)
             return fail("cannot read", path, "no memory");
+        if (outcome == Outcome::not_a_row && !is_heading)
+            return fail("cannot read", path, "a line is no date and value");
+        is_heading = false;
+    }
     return !series.values.empty() || fail("cannot use", path, "no dated values");
 }
 

@@ -55,7 +55,7 @@ engine::Links links_of(ZEB_Directory *directory)
 class Removal_Messages final : public engine::Removal_Report
 {
 public:
-    explicit Removal_Messages(ZEB_File *file) : file(file) {}
+    explicit Removal_Messages(ZEB_File *entry) : file(entry) {}
 
     void tell(ZEB_Char_Span path, bool is_directory, int error) override
     {
@@ -77,7 +77,7 @@ private:
 class Access_Test final : public engine::Walk_Visitor
 {
 public:
-    Access_Test(ZEB_Directory *top, engine::Access_Rights wanted) : directory(top), wanted(wanted) {}
+    Access_Test(ZEB_Directory *top, engine::Access_Rights rights) : directory(top), wanted(rights) {}
 
     engine::Walk_Step at_entry(const engine::Walk_Entry &entry) override
     {

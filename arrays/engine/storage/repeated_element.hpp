@@ -13,8 +13,8 @@ template <class Kind>
 class Repeated_Element
 {
 public:
-    Repeated_Element(Vector_Storage<Kind> vector, typename Kind::Element element) noexcept
-        : vector(vector), element(element)
+    Repeated_Element(Vector_Storage<Kind> target, typename Kind::Element stored) noexcept
+        : vector(target), element(stored)
     {
     }
 

@@ -5,8 +5,8 @@
 #import <Korvane_ZEB/ZEB_Object.h>
 
 /**
- * Owns an array, or shows a column of a table that it keeps alive. What it received is released when the object
- * and all columns taken from it are deallocated; so is what `link_to_doubles` and its like show.
+ * Owns an array, or shows a column of a table that it keeps alive. What it received is released when the
+ * object and all columns taken from it are deallocated; so is what `link_to_doubles` and its like show.
  *
  * Different objects may be used on different threads, where the other library allows that.
  */

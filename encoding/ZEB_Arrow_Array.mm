@@ -6,7 +6,8 @@
 
 - (id)init_with_arrow_array:(struct ArrowArray *)given_array schema:(struct ArrowSchema *)given_schema
 {
-    if (given_array == nullptr || given_schema == nullptr || !engine::is_usable(*given_array, *given_schema)) {
+    if (given_array == nullptr || given_schema == nullptr ||
+        !engine::is_usable(*given_array, *given_schema)) {
         [self release];
         return nil;
     }

@@ -1,7 +1,7 @@
 /*
- * The two structs of the Arrow C data interface, in plain C: how arrays go from one library to another within a
- * process, without a copy and without a common library. Their layout is fixed by that interface, and so is the
- * macro around them, by which headers of several libraries agree that one of them defines the structs.
+ * The two structs of the Arrow C data interface, in plain C: how arrays go from one library to another within
+ * a process, without a copy and without a common library. Their layout is fixed by that interface, and so is
+ * the macro around them, by which headers of several libraries agree that one of them defines the structs.
  *
  * Whoever has a struct whose `release` is not null owns what it names, and calls that in the end, once.
  */
@@ -23,7 +23,7 @@ extern "C" {
 
 /* The type and name of an array, or of a table's columns. */
 struct ArrowSchema {
-    const char *format; /* "C" for bytes, "i" and "I" for 32-bit integers, "l" for 64-bit ones, "f", "g", ... */
+    const char *format; /* "C" of bytes, "i" and "I" of 32-bit, "l" of 64-bit integers, "f", "g", ... */
     const char *name;
     const char *metadata;
     int64_t flags;

@@ -8,14 +8,15 @@
 ZEB_EXTERN_C_BEGIN
 
 /**
- * Sets both structs to a table of columns, which are vectors, arrays or links of numbers: of bytes, of 32- and
- * 64-bit integers, of floats or doubles, all of one count; each with the name at the same index, in UTF-8. A
- * vector may be in the table more than once. Nothing but the names is copied: the table's `release`, or that of
- * the column which was moved out of it, drops a reference to the column, and until then what
+ * Sets both structs to a table of columns, which are vectors, arrays or links of numbers: of bytes, of 32-
+ * and 64-bit integers, of floats or doubles, all of one count; each with the name at the same index, in
+ * UTF-8. A vector may be in the table more than once. Nothing but the names is copied: the table's `release`,
+ * or that of the column which was moved out of it, drops a reference to the column, and until then what
  * `export_to_arrow_array:schema:` says holds.
  *
- * Returns 1; or 0, with nothing set, for null and nil, without columns, for a number of names that is another,
- * for columns of different counts or of another kind, for a name with a null inside, and if allocation fails.
+ * Returns 1; or 0, with nothing set, for null and nil, without columns, for a number of names that is
+ * another, for columns of different counts or of another kind, for a name with a null inside, and if
+ * allocation fails.
  */
 ZEB_EXPORT uint8_t ZC_export_arrow_table(ZEB_Object_Vector *columns, ZEB_String_Vector *names,
                                          struct ArrowArray *array, struct ArrowSchema *schema);

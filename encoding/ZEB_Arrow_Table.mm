@@ -33,7 +33,8 @@ bool get_table(ZEB_Object_Vector *columns, ZEB_String_Vector *names, engine::Arr
 {
     for (uint32_t i = 0; i < [columns count]; ++i)
         if (!get_column([columns object_data][i], table_columns[i]) ||
-            !get_name([names string_data][i], table_names[i]) || table_columns[i].count != table_columns[0].count)
+            !get_name([names string_data][i], table_names[i]) ||
+            table_columns[i].count != table_columns[0].count)
             return false;
     return true;
 }

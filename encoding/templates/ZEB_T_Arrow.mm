@@ -37,7 +37,8 @@
     const ZEB_T_Element *const first = engine::first_element<ZEB_T_Element>(slice);
     if (!engine::is_aligned(first, sizeof *first))
         return nil;
-    return [ZEB_T_Array link_to_TT_words:const_cast<ZEB_T_Element *>(first) count:static_cast<uint32_t>(count)];
+    return [ZEB_T_Array link_to_TT_words:const_cast<ZEB_T_Element *>(first)
+                                   count:static_cast<uint32_t>(count)];
 }
 
 - (uint8_t)get_TT_words:(ZEB_T_Array *)target

@@ -180,10 +180,10 @@ ZEB_EXPORT
 @interface ZEB_Date (Coding) <NSCoding>
 
 /** Writes nanosecond, second (both truncated to 32 bits), day, month and year. */
-- (void)encode:(NSCoder *)coder;
+- (void)encode:(NSCoder *ZEB_NULLABLE)coder;
 
 /** Reads what `encode:` wrote; a missing key leaves its field unchanged. Then the date is normalised. */
-- (void)decode:(NSCoder *)coder;
+- (void)decode:(NSCoder *ZEB_NULLABLE)coder;
 
 @end
 

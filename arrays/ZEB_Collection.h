@@ -5,6 +5,8 @@
 
 @class ZEB_Stream;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * The base class of the typed arrays and strings. A collection either owns its storage or is a link: a view
  * of storage that belongs to another object or to the caller, who must keep it alive.
@@ -29,26 +31,26 @@ ZEB_EXPORT
 
 /** Copies the settings that both collections have: the link marker and, between object collections, the
     ownership mode. Nil and objects that are not collections change nothing. */
-- (void)copy_settings_from:(ZEB_Collection *)other;
+- (void)copy_settings_from:(ZEB_Collection *ZEB_NULLABLE)other;
 
 /** Returns the number of elements. Abstract: reports that it needs overloading, and returns 0. */
 - (uint32_t)count;
 
 /** Writes the element at a zero-based index with the stream's writer for its type. Abstract: reports that it
     needs overloading, and writes nothing. */
-- (void)send_element_to_stream:(uint32_t)index stream:(ZEB_Stream *)stream;
+- (void)send_element_to_stream:(uint32_t)index stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 /** Write the collection as a delimited list. */
-- (void)send_to_stream:(ZEB_Stream *)stream;
-- (void)send_text_to_stream:(ZEB_Stream *)stream;
-- (void)send_contents_to_stream:(ZEB_Stream *)stream;
+- (void)send_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_text_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_contents_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 /** Write the elements with nothing between or around them. */
-- (void)send_list_to_stream:(ZEB_Stream *)stream;
-- (void)send_elements_to_stream:(ZEB_Stream *)stream;
+- (void)send_list_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_elements_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 /** Prints the elements between braces, numbers in decimal. Abstract: reports that it needs overloading. */
-- (void)print_on_stream:(ZEB_Stream *)stream;
+- (void)print_on_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 /** Prints "List contents:" and a line break, the list, and a line break to the shared error stream. */
 - (void)print;
@@ -58,3 +60,5 @@ ZEB_EXPORT
 - (NSString *)description;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Double_Vector.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 ZEB_EXTERN_C_BEGIN
 
 /**
@@ -26,7 +28,10 @@ ZEB_EXTERN_C_BEGIN
  * Positions in another order, or NaN, make no more of the columns than undefined. The columns may not lie in
  * the arrays. The time is that of reading the values once; nothing is allocated.
  */
-ZEB_EXPORT uint8_t ZC_decimate(ZEB_Double_Vector *positions, ZEB_Double_Vector *values, double start,
-                               double end, ZEB_Chart_Column *columns, uint32_t column_count);
+ZEB_EXPORT uint8_t ZC_decimate(ZEB_Double_Vector *ZEB_NULLABLE positions,
+                               ZEB_Double_Vector *ZEB_NULLABLE values, double start, double end,
+                               ZEB_Chart_Column *ZEB_NULLABLE columns, uint32_t column_count);
 
 ZEB_EXTERN_C_END
+
+ZEB_ASSUME_NONNULL_END

@@ -3,7 +3,17 @@
  */
 #import <Korvane_ZEB/ZEB_Object_Collection.h>
 
-/** The ownership modes of object collections. */
+/**
+ * The ownership modes of object collections.
+ *
+ * Under automatic reference counting mode 2 is the one to use: the compiler keeps its own count. An array in
+ * mode 1 is handed a reference that the compiler no longer counts:
+ *
+ *     [objects append_object:(__bridge id)(__bridge_retained void *)object];
+ *
+ * In mode 0 the objects must be kept elsewhere: a local variable alone may give its object up after its last
+ * use.
+ */
 enum {
     ZEB_OWNERSHIP_BORROWS = 0, /* neither retains nor releases */
     ZEB_OWNERSHIP_ADOPTS = 1,  /* takes over the caller's reference, releases what it removes or replaces */

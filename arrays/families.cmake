@@ -7,7 +7,8 @@
 #   ZEB_T_Array           the class name of the array
 #   TT_KIND               the engine's kind of element
 #   TT_KIND_STATE         what the kind reads from a vector
-#   TT_DATA               how the header declares the block of elements
+#   TT_VALUE              the C type in headers, which say that pointers may be null
+#   TT_SLOT               the same of an element in a block, which nobody retains for the array
 #   TT_STORING            what storing an element means, for the header
 #   TT_WRITE_ELEMENT      how one `element` goes onto a `stream`
 #   TT_SUM                the C type of a sum of elements, of families of numbers

@@ -8,6 +8,8 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 ZEB_EXTERN_C_BEGIN
 
 /** Size of a buffer for every text of the date writers. */
@@ -35,11 +37,13 @@ ZEB_EXPORT char *ZC_pretty_format_gregorian_date_from_seconds(char *buffer, doub
     white space allowed around every number; 0 if there is no date. No field is checked for its range. At most
     1023 characters are read after leading white space. The seconds are read as the C library reads a double
     in its "C" locale. */
-ZEB_EXPORT uint32_t ZC_skip_valid_gregorian_date_char_c_array(const char *chars, uint32_t length);
+ZEB_EXPORT uint32_t ZC_skip_valid_gregorian_date_char_c_array(const char *ZEB_NULLABLE chars,
+                                                              uint32_t length);
 
 /** Reads the same text, stores its instant and returns the number of characters read; 0, with nothing stored,
     if there is no date. */
-ZEB_EXPORT uint32_t ZC_assign_seconds_from_gregorian_date_char_c_array(const char *chars, uint32_t length,
+ZEB_EXPORT uint32_t ZC_assign_seconds_from_gregorian_date_char_c_array(const char *ZEB_NULLABLE chars,
+                                                                       uint32_t length,
                                                                        double *seconds_since_1970);
 
 /* The civil calendar and ISO 8601: correct for every 32-bit year, with 64-bit day numbers, unlike the
@@ -78,14 +82,16 @@ ZEB_EXPORT char *ZC_format_iso8601_from_seconds(char *buffer, double seconds_sin
     of the seconds follows '.' or ','; nine of its decimals count. A year has four digits, or a sign and four
     to ten. A zone ("Z", "+01:00") is not read. Returns the number of characters read; 0, with nothing stored,
     if there is no valid date. time_of_day may be null. */
-ZEB_EXPORT uint32_t ZC_assign_date_from_iso8601_char_c_array(const char *chars, uint32_t length,
+ZEB_EXPORT uint32_t ZC_assign_date_from_iso8601_char_c_array(const char *ZEB_NULLABLE chars, uint32_t length,
                                                              ZEB_Gregorian_Date *date,
-                                                             ZEB_Time_Value *time_of_day);
+                                                             ZEB_Time_Value *ZEB_NULLABLE time_of_day);
 
 /** The same, stored as seconds since 1970-01-01 00:00. */
-ZEB_EXPORT uint32_t ZC_assign_seconds_from_iso8601_char_c_array(const char *chars, uint32_t length,
-                                                                double *seconds_since_1970);
+ZEB_EXPORT uint32_t ZC_assign_seconds_from_iso8601_char_c_array(const char *ZEB_NULLABLE chars,
+                                                                uint32_t length, double *seconds_since_1970);
 
 ZEB_EXTERN_C_END
+
+ZEB_ASSUME_NONNULL_END
 
 #endif

@@ -6,6 +6,8 @@
 @class ZEB_Stream;
 @class ZEB_String;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * A date in two forms, year, month and day as well as the Julian day number, and the time since midnight of
  * that day. No time zone is applied, except when the local clock is read.
@@ -29,21 +31,21 @@ ZEB_EXPORT
 
 /** Initialises a date that was never set: year -4713, month 1, day 1, Julian day 0, midnight. The proleptic
     date of that day is a different one. */
-- (id)init;
+- (instancetype)init;
 
 /** Initialises a date with `set_date_and_time:second:nanosecond:`. */
-- (id)init_with_date_and_time:(ZEB_Gregorian_Date)gregorian
-                       second:(uint64_t)second
-                   nanosecond:(uint64_t)nanosecond;
+- (instancetype)init_with_date_and_time:(ZEB_Gregorian_Date)gregorian
+                                 second:(uint64_t)second
+                             nanosecond:(uint64_t)nanosecond;
 
 /** Initialises a date with the date and time of another, and the day number computed from them. */
-- (id)init_with_date:(ZEB_Date *)other;
+- (instancetype)init_with_date:(ZEB_Date *ZEB_NULLABLE)other;
 
 /** Initialises a date with `set_to_current_time`. */
-- (id)init_with_current_time;
+- (instancetype)init_with_current_time;
 
 /** Returns a copy of all fields, unchanged. */
-- (id)copyWithZone:(NSZone *)zone;
+- (id)copyWithZone:(NSZone *ZEB_NULLABLE)zone;
 
 /** The fields. Years are astronomical: year 0 exists. The second counts from midnight. */
 - (int32_t)year;
@@ -57,7 +59,7 @@ ZEB_EXPORT
 - (void)set_to_current_time;
 
 /** Copies all fields of another date, even if its two forms disagree. */
-- (void)assign_date:(ZEB_Date *)other;
+- (void)assign_date:(ZEB_Date *ZEB_NULLABLE)other;
 
 /** Sets the fields and computes the day number. The date is not normalised: a day outside its month stays. */
 - (void)set_date_and_time:(ZEB_Gregorian_Date)gregorian
@@ -85,14 +87,14 @@ ZEB_EXPORT
 @interface ZEB_Date (Arithmetic)
 
 /** Returns the days from the other date to this one, wrapped around in 32 bits. */
-- (int32_t)days_since:(ZEB_Date *)other;
+- (int32_t)days_since:(ZEB_Date *ZEB_NULLABLE)other;
 
 /** Returns 1 if day number, second and nanosecond are equal, else 0; year, month and day are not compared. */
-- (uint8_t)is_equal_to_date:(ZEB_Date *)other;
+- (uint8_t)is_equal_to_date:(ZEB_Date *ZEB_NULLABLE)other;
 
 /** Returns 1 if this date is not later than the other, by day number, then second, then nanosecond, else
     0. */
-- (uint8_t)is_at_or_before_date:(ZEB_Date *)other;
+- (uint8_t)is_at_or_before_date:(ZEB_Date *ZEB_NULLABLE)other;
 
 /** Returns 1 if daylight saving time is in force by the rules of the United States, else 0: until 2006 from
     the first Sunday of April to the last of October, from 2007 on from the second Sunday of March, always
@@ -131,22 +133,22 @@ ZEB_EXPORT
 /** Appends the platform's strftime text of the date in the current locale, up to 2047 characters; a longer
     text is not appended. The fields are the date's own, normalised and not moved by a time zone; zone letters
     describe the local zone at that time. A null format is "%m/%d/%Y %H:%M:%S". */
-- (void)append_strftime_text:(ZEB_String *)string format:(const char *)format;
+- (void)append_strftime_text:(ZEB_String *ZEB_NULLABLE)string format:(const char *ZEB_NULLABLE)format;
 
 /** The same with the string's own characters as the format; they stay, and the text follows them. */
-- (void)append_strftime_text:(ZEB_String *)string;
+- (void)append_strftime_text:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Sets the string to month/day/year, followed by hours:minutes:seconds if the second is not 0, and by the
     fraction if the nanosecond is not 0: "3/4/2021 10:20:30.5", or "3/4/2021 0.5" right after midnight. */
-- (void)write_text:(ZEB_String *)string;
+- (void)write_text:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Appends the same text. */
-- (void)append_text:(ZEB_String *)string;
+- (void)append_text:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Reads "month / day / year hours : minutes : seconds . nanoseconds" from a string; the last is a count of
     nanoseconds (".5" is five). The field at which reading stops, and all after it, are 0; then the date is
     normalised. */
-- (void)assign_from_text:(ZEB_String *)string;
+- (void)assign_from_text:(ZEB_String *ZEB_NULLABLE)string;
 
 /* ISO 8601 supports every 32-bit year: its texts use year, month and day in the civil calendar and ignore the
    day number. Before 1 March -4800 and after the end of 1465072 the civil day number differs from that of
@@ -155,20 +157,20 @@ ZEB_EXPORT
 /** Appends the date by ISO 8601, such as "2021-03-04T10:20:30.5", in every locale, with up to nine decimals.
     Years outside 0 to 9999 have a sign and at least six digits. A day outside its month, and a time past the
     end of the day, count on; nothing is appended if the year then does not fit in 32 bits. */
-- (void)append_iso8601_text:(ZEB_String *)string;
+- (void)append_iso8601_text:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Appends "2021-03-04" from year, month and day, unchecked. */
-- (void)append_iso8601_date_text:(ZEB_String *)string;
+- (void)append_iso8601_date_text:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Reads an ISO 8601 date, and a valid time after 'T', 't' or a space, from the start of a string; a zone
     ("Z", "+01:00") is not read. Returns the number of characters read; 0, with nothing changed, if there is
     no valid date. The day number becomes that of the civil calendar. */
-- (uint32_t)assign_from_iso8601_text:(ZEB_String *)string;
+- (uint32_t)assign_from_iso8601_text:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Writes the strftime text by the stream's date format; nothing if that is empty or too long. */
-- (void)send_to_stream:(ZEB_Stream *)stream;
-- (void)send_text_to_stream:(ZEB_Stream *)stream;
-- (void)send_contents_to_stream:(ZEB_Stream *)stream;
+- (void)send_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_text_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_contents_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 @end
 
@@ -178,9 +180,11 @@ ZEB_EXPORT
 @interface ZEB_Date (Coding) <NSCoding>
 
 /** Writes nanosecond, second (both truncated to 32 bits), day, month and year. */
-- (void)encode:(NSCoder *)coder;
+- (void)encode:(NSCoder *ZEB_NULLABLE)coder;
 
 /** Reads what `encode:` wrote; a missing key leaves its field unchanged. Then the date is normalised. */
-- (void)decode:(NSCoder *)coder;
+- (void)decode:(NSCoder *ZEB_NULLABLE)coder;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

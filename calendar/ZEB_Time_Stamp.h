@@ -5,6 +5,8 @@
 
 @class ZEB_Stream;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * The seconds and nanoseconds since 1970-01-01 00:00 UTC.
  *
@@ -20,17 +22,17 @@ ZEB_EXPORT
 + (const char *)get_KVX_proprietary_software_notice;
 
 /** Initialises a stamp of the current instant. */
-- (id)init;
+- (instancetype)init;
 
 /** Initialises a stamp of a given instant; nothing is checked. */
-- (id)init_with_time:(uint64_t)second nanosecond:(uint64_t)nanosecond;
+- (instancetype)init_with_time:(uint64_t)second nanosecond:(uint64_t)nanosecond;
 
 /** Returns a stamp of the same instant. */
-- (id)copyWithZone:(NSZone *)zone;
+- (id)copyWithZone:(NSZone *ZEB_NULLABLE)zone;
 
 /** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. */
 - (void)encodeWithCoder:(NSCoder *)coder;
-- (id)initWithCoder:(NSCoder *)coder;
+- (instancetype)initWithCoder:(NSCoder *)coder;
 
 /** Sets the stamp to the current instant, to the microsecond. */
 - (void)update_to_current_time;
@@ -43,11 +45,13 @@ ZEB_EXPORT
 - (double)seconds_since_1970;
 
 /** Returns 1 if seconds and nanoseconds are equal, else 0; 0 for nil. */
-- (uint8_t)is_equal_to:(ZEB_Time_Stamp *)other;
+- (uint8_t)is_equal_to:(ZEB_Time_Stamp *ZEB_NULLABLE)other;
 
 /** Writes the seconds, a point and the nanoseconds with nine digits, in one call. */
-- (void)send_to_stream:(ZEB_Stream *)stream;
-- (void)send_text_to_stream:(ZEB_Stream *)stream;
-- (void)send_contents_to_stream:(ZEB_Stream *)stream;
+- (void)send_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_text_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_contents_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -7,7 +7,7 @@
 # Longer names before those that they begin with: replacement is by plain text.
 set(zeb_family_columns
     ZEB_T_Element ZEB_T_Array ZEB_T_ TT_word TT_PHRASE TT_STORING TT_FORWARD_CLASSES TT_COLLECTION_FIELDS
-    TT_VECTOR_FIELDS TT_KIND_STATE TT_KIND TT_DATA TT_SUM TT_WRITE_ELEMENT)
+    TT_VECTOR_FIELDS TT_KIND_STATE TT_KIND TT_VALUE TT_SLOT TT_SUM TT_WRITE_ELEMENT)
 set(zeb_columns_that_may_be_empty TT_COLLECTION_FIELDS TT_VECTOR_FIELDS TT_KIND_STATE TT_SUM)
 
 set(zeb_template_lists HEADERS PRIVATE_HEADERS SOURCES OBJECT_HEADERS OBJECT_SOURCES STRING_HEADERS STRING_SOURCES
@@ -75,10 +75,17 @@ function(zeb_family)
   zeb_default(TT_STORING "Elements are values, copied as they are.")
   zeb_default(TT_FORWARD_CLASSES "@class ZEB_Stream;")
   zeb_default(TT_WRITE_ELEMENT "engine::print_element(stream, element)")
+  set(value "${row_ZEB_T_Element}")
+  if(value MATCHES "[*]$")
+    string(APPEND value ZEB_NULLABLE)
+  elseif(value STREQUAL id)
+    string(APPEND value " ZEB_NULLABLE")
+  endif()
+  zeb_default(TT_VALUE "${value}")
   if(row_TT_KIND MATCHES "^Plain_Elements")
-    zeb_default(TT_DATA "*data")
+    zeb_default(TT_SLOT "${value}")
   else()
-    zeb_default(TT_DATA "ZEB_UNRETAINED *data")
+    zeb_default(TT_SLOT "${value} ZEB_UNRETAINED")
   endif()
   foreach(column ${zeb_family_columns})
     if("${row_${column}}" STREQUAL "" AND NOT column IN_LIST zeb_columns_that_may_be_empty)

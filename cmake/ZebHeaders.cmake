@@ -48,6 +48,32 @@ function(zeb_write_header out template list folder directive variable pattern)
   set(${out} ${PROJECT_BINARY_DIR}/generated/${name} PARENT_SCOPE)
 endfunction()
 
+# Writes and stages the module map: a header without #import is plain C. On macOS the bundle gets its own, and
+# the headers.
+function(zeb_write_module_map)
+  get_property(headers GLOBAL PROPERTY ZEB_PUBLIC_HEADERS)
+  foreach(header ${headers})
+    get_filename_component(name ${header} NAME)
+    file(STRINGS ${header} imports REGEX "^#import" LIMIT_COUNT 1)
+    if(name MATCHES "hpp$")
+      string(APPEND cxx_headers "        exclude header \"${name}\"\n")
+    elseif(NOT imports)
+      string(APPEND plain_headers "        header \"${name}\"\n")
+    endif()
+  endforeach()
+  set(module_kind module)
+  configure_file(umbrella/module.modulemap.in ${PROJECT_BINARY_DIR}/generated/module.modulemap @ONLY)
+  zeb_stage_headers(${PROJECT_BINARY_DIR}/generated/module.modulemap)
+  set(module_kind "framework module")
+  set(bundle_map ${PROJECT_BINARY_DIR}/generated/bundle/module.modulemap)
+  configure_file(umbrella/module.modulemap.in ${bundle_map} @ONLY)
+  if(APPLE)
+    target_sources(Korvane_ZEB PRIVATE ${bundle_map})
+    set_source_files_properties(${bundle_map} PROPERTIES MACOSX_PACKAGE_LOCATION Modules)
+    set_target_properties(Korvane_ZEB PROPERTIES PUBLIC_HEADER "${headers}")
+  endif()
+endfunction()
+
 # Writes the headers that name all others, once every room and family has added its own. What needs C++ is
 # left out of the umbrella, for those who want it.
 function(zeb_write_collective_headers)
@@ -56,6 +82,7 @@ function(zeb_write_collective_headers)
   zeb_write_header(spans arrays/ZEB_Array_Spans.hpp.in ZEB_PUBLIC_HEADERS Korvane_ZEB "#include" span_includes
                    "_Span\\.hpp$")
   zeb_stage_headers(${umbrella} ${spans})
+  zeb_write_module_map()
 endfunction()
 
 # The same for the engine.

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Stream.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Writes to standard error and prints the framework's diagnostics, one line each. A diagnostic never fails
  * and never stops its caller.
@@ -23,7 +25,7 @@ ZEB_EXPORT
 + (ZEB_Error_Stream *)shared_error_stream;
 
 /** Returns the shared stream if its `verbose` is not 0, else nil. */
-+ (ZEB_Error_Stream *)shared_error_stream_if_verbose;
++ (ZEB_Error_Stream *ZEB_NULLABLE)shared_error_stream_if_verbose;
 
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
@@ -45,14 +47,18 @@ ZEB_EXPORT
  * and the note. A null selector or a nil object leaves out its name. Neither the object nor the note is
  * retained.
  */
-- (void)need_to_overload:(SEL)selector object:(id)object note:(ZEB_Char_Span)note;
-- (void)need_to_implement:(SEL)selector object:(id)object note:(ZEB_Char_Span)note;
-- (void)need_to_fix_algorithm:(SEL)selector object:(id)object note:(ZEB_Char_Span)note;
+- (void)need_to_overload:(SEL ZEB_NULLABLE)selector object:(id ZEB_NULLABLE)object note:(ZEB_Char_Span)note;
+- (void)need_to_implement:(SEL ZEB_NULLABLE)selector object:(id ZEB_NULLABLE)object note:(ZEB_Char_Span)note;
+- (void)need_to_fix_algorithm:(SEL ZEB_NULLABLE)selector
+                       object:(id ZEB_NULLABLE)object
+                         note:(ZEB_Char_Span)note;
 
 /** Write the name of a selector or class, as it is or through a printf format with one `%s`. */
-- (void)write_selector:(SEL)selector;
-- (void)write_selector_with_format:(SEL)selector format:(const char *)format;
-- (void)write_class:(Class)named;
-- (void)write_class_with_format:(Class)named format:(const char *)format;
+- (void)write_selector:(SEL ZEB_NULLABLE)selector;
+- (void)write_selector_with_format:(SEL ZEB_NULLABLE)selector format:(const char *ZEB_NULLABLE)format;
+- (void)write_class:(Class ZEB_NULLABLE)named;
+- (void)write_class_with_format:(Class ZEB_NULLABLE)named format:(const char *ZEB_NULLABLE)format;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

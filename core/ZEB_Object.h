@@ -3,22 +3,14 @@
  */
 #import <Korvane_ZEB/ZEB_Root_Operations.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /* Instance variables are protected for users and public inside the framework, whose plain functions pass them
    to the engine. */
 #if defined(ZEB_BUILDING_FRAMEWORK)
 #define ZEB_PROTECTED @public
 #else
 #define ZEB_PROTECTED @protected
-#endif
-
-/* Under automatic reference counting a field of the framework's is not the compiler's to retain. */
-#if defined(__OBJC__) && defined(__has_feature)
-#if __has_feature(objc_arc)
-#define ZEB_UNRETAINED __unsafe_unretained
-#endif
-#endif
-#if !defined(ZEB_UNRETAINED)
-#define ZEB_UNRETAINED
 #endif
 
 /**
@@ -36,31 +28,33 @@ ZEB_EXPORT
 
 /** Returns a new, uninitialised instance, owned by the caller. Calls NSObject's `alloc` even if a subclass
     overrides it. */
-+ (id)ZEB_alloc NS_RETURNS_RETAINED;
++ (instancetype)ZEB_alloc NS_RETURNS_RETAINED;
 
 /** Returns the proprietary notice: one constant text, the same for every class of the framework. */
 + (const char *)get_KVX_proprietary_software_notice;
 
 /** Calls NSObject's `init` and returns the receiver. The class's own `init` does not run, so an instance of a
     class with fields of its own (a stream, an array) is not ready for use: send `init` instead. */
-- (id)ZEB_init;
+- (instancetype)ZEB_init;
 
 /** Returns 1 if the receiver's class is `other` or descends from it, else 0. */
-- (uint8_t)ZEB_is_kind_of_class:(Class)other;
+- (uint8_t)ZEB_is_kind_of_class:(Class ZEB_NULLABLE)other;
 
 /** Returns 1 if the receiver responds to the selector, else 0. */
-- (uint8_t)ZEB_responds_to_selector:(SEL)selector;
+- (uint8_t)ZEB_responds_to_selector:(SEL ZEB_NULLABLE)selector;
 
 /** Sends the selector to the receiver and returns its result; nil for a null selector. */
-- (id)ZEB_perform_selector:(SEL)selector;
+- (id ZEB_NULLABLE)ZEB_perform_selector:(SEL ZEB_NULLABLE)selector;
 
 /** Sends the selector with one argument and returns its result; nil for a null selector. */
-- (id)ZEB_perform_selector_with_object:(SEL)selector object:(id)object;
+- (id ZEB_NULLABLE)ZEB_perform_selector_with_object:(SEL ZEB_NULLABLE)selector object:(id ZEB_NULLABLE)object;
 
 /** Adds a reference and returns the receiver. */
-- (id)ZEB_retain;
+- (instancetype)ZEB_retain;
 
 /** Drops a reference; the last one deallocates the receiver. */
 - (void)ZEB_release;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

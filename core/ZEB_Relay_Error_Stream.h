@@ -6,6 +6,8 @@
 @class ZEB_Message_Text, ZEB_Wide_String;
 @class ZEB_Relay_Error_Stream;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** What a listener implements. */
 @protocol ZEB_Message_Listener
 
@@ -28,9 +30,9 @@
 ZEB_EXPORT
 @interface ZEB_Relay_Error_Stream : ZEB_Error_Stream {
     ZEB_PROTECTED
-    ZEB_UNRETAINED id<ZEB_Message_Listener> listener;
-    ZEB_UNRETAINED ZEB_Message_Text *captured_text;
-    ZEB_UNRETAINED ZEB_Wide_String *wide_text;
+    ZEB_UNRETAINED id<ZEB_Message_Listener> ZEB_NULLABLE listener;
+    ZEB_UNRETAINED ZEB_Message_Text *ZEB_NULLABLE captured_text;
+    ZEB_UNRETAINED ZEB_Wide_String *ZEB_NULLABLE wide_text;
     uint8_t echoes;               /* 1 at first */
     uint8_t captures_diagnostics; /* 0 at first */
     uint8_t is_relaying;
@@ -40,16 +42,16 @@ ZEB_EXPORT
 + (const char *)get_KVX_proprietary_software_notice;
 
 /** Initialises a stream without a listener. */
-- (id)init;
+- (instancetype)init;
 
 /** The object that is told of each captured text; not retained, nil at first. Without one nothing is
     captured. */
-- (id<ZEB_Message_Listener>)listener;
-- (void)set_listener:(id<ZEB_Message_Listener>)object;
+- (id<ZEB_Message_Listener> ZEB_NULLABLE)listener;
+- (void)set_listener:(id<ZEB_Message_Listener> ZEB_NULLABLE)object;
 
 /** The holder of the last captured text; the stream retains it. */
-- (ZEB_Message_Text *)captured_text;
-- (void)set_captured_text:(ZEB_Message_Text *)holder;
+- (ZEB_Message_Text *ZEB_NULLABLE)captured_text;
+- (void)set_captured_text:(ZEB_Message_Text *ZEB_NULLABLE)holder;
 
 /** Whether texts are also written to standard error: 1 for yes. Diagnostics are written there whatever this
     says. */
@@ -62,3 +64,5 @@ ZEB_EXPORT
 - (void)set_captures_diagnostics:(uint8_t)value;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -6,8 +6,12 @@
 #ifndef ZEB_TYPES_H
 #define ZEB_TYPES_H
 
+#include <Korvane_ZEB/ZEB_Annotations.h>
+
 #include <stddef.h>
 #include <stdint.h>
+
+ZEB_ASSUME_NONNULL_BEGIN
 
 #ifdef __cplusplus
 #define ZEB_EXTERN_C_BEGIN extern "C" {
@@ -27,7 +31,7 @@
 
 /* A counted run of 8-bit characters, not owned; no terminating null is needed. */
 typedef struct ZEB_Char_Span {
-    const char *char_c_array;
+    const char *ZEB_NULLABLE char_c_array; /* may be null where the length is 0 */
     uint32_t length;
 } ZEB_Char_Span;
 
@@ -135,7 +139,10 @@ typedef uint64_t ZEB_Unit_Identity;
 
 static inline ZEB_Unit_Identity ZEB_unit_identity(ZEB_Dimension dimension, uint32_t unit)
 {
-    return (ZEB_Unit_Identity)unit << 32 | dimension;
+    const ZEB_Unit_Identity wide_unit = unit;
+    return wide_unit << 32 | dimension;
 }
+
+ZEB_ASSUME_NONNULL_END
 
 #endif

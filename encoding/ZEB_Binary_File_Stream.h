@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_File_Stream.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Writes each value's bytes as they are in memory: 8 for a double and an unsigned long, 4 for an int, an
  * unsigned, a float, a character code and a hexadecimal number, 1 for a char. Strings are written as they
@@ -27,3 +29,5 @@ ZEB_EXPORT
 - (void)set_needs_swap:(uint8_t)value;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -4,6 +4,8 @@
 #import <Korvane_ZEB/ZEB_Byte_Array.h>
 #import <Korvane_ZEB/ZEB_String.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 ZEB_EXTERN_C_BEGIN
 
 /**
@@ -20,29 +22,38 @@ ZEB_EXTERN_C_BEGIN
  * stream does, it is passed to zlib again, up to 65,536 passes, 256 MiB of repeated input, or 64 MiB of
  * output beyond that of the first pass; then the result is -3.
  */
-ZEB_EXPORT int32_t ZC_compress_string_to_string(ZEB_String *source, ZEB_String *destination);
-ZEB_EXPORT int32_t ZC_compress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte_Array *destination);
-ZEB_EXPORT int32_t ZC_compress_string_to_bytes(ZEB_String *source, ZEB_Byte_Array *destination);
-ZEB_EXPORT int32_t ZC_decompress_string_to_string(ZEB_String *source, ZEB_String *destination,
-                                                  uint32_t offset);
-ZEB_EXPORT int32_t ZC_decompress_bytes_to_bytes(ZEB_Byte_Array *source, ZEB_Byte_Array *destination);
-ZEB_EXPORT int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *source, ZEB_String *destination,
-                                                 uint32_t offset);
+ZEB_EXPORT int32_t ZC_compress_string_to_string(ZEB_String *ZEB_NULLABLE source,
+                                                ZEB_String *ZEB_NULLABLE destination);
+ZEB_EXPORT int32_t ZC_compress_bytes_to_bytes(ZEB_Byte_Array *ZEB_NULLABLE source,
+                                              ZEB_Byte_Array *ZEB_NULLABLE destination);
+ZEB_EXPORT int32_t ZC_compress_string_to_bytes(ZEB_String *ZEB_NULLABLE source,
+                                               ZEB_Byte_Array *ZEB_NULLABLE destination);
+ZEB_EXPORT int32_t ZC_decompress_string_to_string(ZEB_String *ZEB_NULLABLE source,
+                                                  ZEB_String *ZEB_NULLABLE destination, uint32_t offset);
+ZEB_EXPORT int32_t ZC_decompress_bytes_to_bytes(ZEB_Byte_Array *ZEB_NULLABLE source,
+                                                ZEB_Byte_Array *ZEB_NULLABLE destination);
+ZEB_EXPORT int32_t ZC_decompress_bytes_to_string(ZEB_Byte_Array *ZEB_NULLABLE source,
+                                                 ZEB_String *ZEB_NULLABLE destination, uint32_t offset);
 
 /**
  * The same for foreign data: each appends at most `most` bytes. A stream that holds more, of whatever size,
  * ends with -5 (Z_BUF_ERROR) when they are appended; the destination has grown by its rule for that many, and
  * not beyond.
  */
-ZEB_EXPORT int32_t ZC_decompress_string_to_string_within(ZEB_String *source, ZEB_String *destination,
+ZEB_EXPORT int32_t ZC_decompress_string_to_string_within(ZEB_String *ZEB_NULLABLE source,
+                                                         ZEB_String *ZEB_NULLABLE destination,
                                                          uint32_t offset, uint32_t most);
-ZEB_EXPORT int32_t ZC_decompress_bytes_to_bytes_within(ZEB_Byte_Array *source, ZEB_Byte_Array *destination,
+ZEB_EXPORT int32_t ZC_decompress_bytes_to_bytes_within(ZEB_Byte_Array *ZEB_NULLABLE source,
+                                                       ZEB_Byte_Array *ZEB_NULLABLE destination,
                                                        uint32_t offset, uint32_t most);
-ZEB_EXPORT int32_t ZC_decompress_bytes_to_string_within(ZEB_Byte_Array *source, ZEB_String *destination,
-                                                        uint32_t offset, uint32_t most);
+ZEB_EXPORT int32_t ZC_decompress_bytes_to_string_within(ZEB_Byte_Array *ZEB_NULLABLE source,
+                                                        ZEB_String *ZEB_NULLABLE destination, uint32_t offset,
+                                                        uint32_t most);
 
 /** Writes "zlib error: " to standard error, followed by a line for a status from -6 to -1; -5 and any other
     status add nothing, not even a line break. */
 ZEB_EXPORT void print_zlib_error(int32_t status);
 
 ZEB_EXTERN_C_END
+
+ZEB_ASSUME_NONNULL_END

@@ -7,6 +7,8 @@
 
 @class ZEB_String;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /*
  * Each operation appends "{", the elements as lower-case digits without leading zeros and with ", " between
  * them, and "}"; "{}" for an empty vector. The buffer grows as for 6 characters a byte, 10 a 32-bit
@@ -17,20 +19,22 @@
 @interface ZEB_Byte_Vector (Hex_Contents)
 
 /** Appends the bytes: 0, 10 and 255 are "{0, a, ff}". */
-- (void)ZEB_append_hex_contents:(ZEB_String *)buffer;
+- (void)ZEB_append_hex_contents:(ZEB_String *ZEB_NULLABLE)buffer;
 
 @end
 
 @interface ZEB_Wide_Char_Vector (Hex_Contents)
 
 /** Appends the characters' codes. */
-- (void)ZEB_append_hex_contents:(ZEB_String *)buffer;
+- (void)ZEB_append_hex_contents:(ZEB_String *ZEB_NULLABLE)buffer;
 
 @end
 
 @interface ZEB_Pointer_Vector (Hex_Contents)
 
 /** Appends the addresses. */
-- (void)ZEB_append_hex_contents:(ZEB_String *)buffer;
+- (void)ZEB_append_hex_contents:(ZEB_String *ZEB_NULLABLE)buffer;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -6,6 +6,8 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 ZEB_EXTERN_C_BEGIN
 
 /** Writes eight upper-case digits and a terminating null. */
@@ -21,5 +23,7 @@ ZEB_EXPORT char *ZEB_hex_digits32(char *text, uint32_t value);
 ZEB_EXPORT char *ZEB_hex_digits64(char *text, uint64_t value);
 
 ZEB_EXTERN_C_END
+
+ZEB_ASSUME_NONNULL_END
 
 #endif

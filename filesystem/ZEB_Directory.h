@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_File.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * A file entry whose removal and access test go through the whole tree below its path. The names in a
  * directory are read before the first of them is used, and directories are opened relative to the one that
@@ -16,9 +18,9 @@ ZEB_EXPORT
     ZEB_PROTECTED
     uint8_t recursive;
     uint8_t links_are_entries;
-    ZEB_UNRETAINED ZEB_File *child;
-    ZEB_UNRETAINED ZEB_Directory *sub_directory;
-    ZEB_UNRETAINED ZEB_Directory *parent_directory;
+    ZEB_UNRETAINED ZEB_File *ZEB_NULLABLE child;
+    ZEB_UNRETAINED ZEB_Directory *ZEB_NULLABLE sub_directory;
+    ZEB_UNRETAINED ZEB_Directory *ZEB_NULLABLE parent_directory;
 }
 
 /** Returns the proprietary notice. */
@@ -26,10 +28,10 @@ ZEB_EXPORT
 
 /** Initialises a directory like a file entry, but executable by its owner, and with `recursive` and
     `links_are_entries` set. */
-- (id)init;
+- (instancetype)init;
 
 /** Initialises a directory below `parent`, which is not retained. */
-- (id)init_with_parent_directory:(ZEB_Directory *)parent;
+- (instancetype)init_with_parent_directory:(ZEB_Directory *ZEB_NULLABLE)parent;
 
 /** Whether the access test goes into the directories below; if not, they count as accessible. */
 - (uint8_t)recursive;
@@ -44,10 +46,10 @@ ZEB_EXPORT
 - (ZEB_File *)child;
 
 /** The directory below that the last access test went into; nil if it never did. Owned by this one. */
-- (ZEB_Directory *)sub_directory;
+- (ZEB_Directory *ZEB_NULLABLE)sub_directory;
 
 /** The directory above, for a sub-directory. */
-- (ZEB_Directory *)parent_directory;
+- (ZEB_Directory *ZEB_NULLABLE)parent_directory;
 
 /** Whether this process has every requested right to the directory, by its snapshot, and, by their status
     now, to the entries in it: the rights to write and read to all, that to execute to directories. Ends at
@@ -83,3 +85,5 @@ ZEB_EXPORT
 + (ZEB_String *)documents_directory_path;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

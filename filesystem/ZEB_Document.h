@@ -5,6 +5,8 @@
 
 @class ZEB_Wide_String_Array;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 ZEB_EXTERN_C_BEGIN
 
 /**
@@ -13,7 +15,7 @@ ZEB_EXTERN_C_BEGIN
  * is no memory for the document, and for a nil file. A nil table counts as empty. `write_contents:length:`
  * says what a failure leaves of the file's former contents.
  */
-ZEB_EXPORT uint32_t ZC_save_document(ZEB_Wide_String_Array *table, ZEB_File *file);
+ZEB_EXPORT uint32_t ZC_save_document(ZEB_Wide_String_Array *ZEB_NULLABLE table, ZEB_File *ZEB_NULLABLE file);
 
 /**
  * Refreshes the entry's status and replaces a table's contents with those of the document in its file, of
@@ -24,15 +26,19 @@ ZEB_EXPORT uint32_t ZC_save_document(ZEB_Wide_String_Array *table, ZEB_File *fil
  * `ZEB_decode_binary_contents:`. A file above the entry's `greatest_contents_size` is refused: set that
  * before you load foreign files.
  */
-ZEB_EXPORT uint32_t ZC_load_document(ZEB_Wide_String_Array *table, ZEB_File *file);
+ZEB_EXPORT uint32_t ZC_load_document(ZEB_Wide_String_Array *ZEB_NULLABLE table, ZEB_File *ZEB_NULLABLE file);
 
 /** Saves a document in the same way, with the CRC-32 of all its bytes after the record, and "CRC1" in place
     of the last four characters of the header. */
-ZEB_EXPORT uint32_t ZC_save_checked_document(ZEB_Wide_String_Array *table, ZEB_File *file);
+ZEB_EXPORT uint32_t ZC_save_checked_document(ZEB_Wide_String_Array *ZEB_NULLABLE table,
+                                             ZEB_File *ZEB_NULLABLE file);
 
 /** Loads a document in the same way if its check sum agrees or it is a plain one; if not, reports "Error,
     check sum differs in document: " and the path, and returns 0. A change of any byte, and any cut, is found.
  */
-ZEB_EXPORT uint32_t ZC_load_checked_document(ZEB_Wide_String_Array *table, ZEB_File *file);
+ZEB_EXPORT uint32_t ZC_load_checked_document(ZEB_Wide_String_Array *ZEB_NULLABLE table,
+                                             ZEB_File *ZEB_NULLABLE file);
 
 ZEB_EXTERN_C_END
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_File_Interceptor.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * A path, and a snapshot of the status of the entry at that path.
  *
@@ -13,13 +15,13 @@
  * set, failures on the shared error stream. A report is one line of fixed text and the path; it does not
  * depend on `verbose` and is not counted. In all cases `last_error` stores the cause. Nothing throws.
  *
- * Different entries may be used on different threads while they report nothing (ZEB_Object.h): the streams are
- * shared. There is no locking, also not of files.
+ * Different entries may be used on different threads while they report nothing (ZEB_Object.h): the streams
+ * are shared. There is no locking, also not of files.
  */
 ZEB_EXPORT
 @interface ZEB_File : ZEB_Object <NSCopying> {
     ZEB_PROTECTED
-    ZEB_UNRETAINED ZEB_String *path;
+    ZEB_UNRETAINED ZEB_String *ZEB_NULLABLE path;
     uint8_t exists;
     ZEB_File_Kind kind;
     uint8_t owner_read;
@@ -47,7 +49,7 @@ ZEB_EXPORT
     uint8_t contents_compressed;
     uint8_t log_actions;
     uint8_t report_errors;
-    ZEB_UNRETAINED id<ZEB_File_Interceptor> interceptor;
+    ZEB_UNRETAINED id<ZEB_File_Interceptor> ZEB_NULLABLE interceptor;
     int32_t last_error;
     uint32_t greatest_contents_size;
 }
@@ -57,17 +59,17 @@ ZEB_EXPORT
 
 /** Initialises an entry without a path, owned by this process's user and group, readable and writable by its
     owner, with `contents_compressed` and `log_actions` off and all other settings on. */
-- (id)init;
+- (instancetype)init;
 
 /** Returns a copy of the path, the snapshot, the settings, the interceptor and the last error. */
-- (id)copyWithZone:(NSZone *)zone;
+- (id)copyWithZone:(NSZone *ZEB_NULLABLE)zone;
 
 /** Returns the path, which the entry owns. */
 - (ZEB_String *)path;
 
 /** Replaces the path and appends a null that is not counted. The snapshot does not change. If allocation
     fails the path becomes empty, which every operation refuses, and `last_error` is ENOMEM. */
-- (void)set_path:(ZEB_String *)string;
+- (void)set_path:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Reads the status of the entry at the path, following symbolic links, into the snapshot. If nothing exists
     there, `exists` and `size` become 0 and the rest does not change. The same happens if the status cannot be
@@ -189,7 +191,9 @@ ZEB_EXPORT
 - (void)set_report_errors:(uint8_t)value;
 
 /** The object that decides on each action; not retained, nil at first. */
-- (id<ZEB_File_Interceptor>)interceptor;
-- (void)set_interceptor:(id<ZEB_File_Interceptor>)object;
+- (id<ZEB_File_Interceptor> ZEB_NULLABLE)interceptor;
+- (void)set_interceptor:(id<ZEB_File_Interceptor> ZEB_NULLABLE)object;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_File.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Each operation first asks the interceptor. Sizes are those of the snapshot: refresh the status before
  * reading. After an operation `last_error` shows whether it fully succeeded, even if its result does not.
@@ -16,10 +18,10 @@
     "Error reading contents of file: ", or "Error: Decompress failed while reading contents of file: ". A file
     shorter than the snapshot's size is reported as a warning; the missing bytes are read as zero, and
     `last_error` is ENODATA. */
-- (void)read_contents:(ZEB_Byte_Array *)destination;
+- (void)read_contents:(ZEB_Byte_Array *ZEB_NULLABLE)destination;
 
 /** The same operation under another name. */
-- (void)load_contents:(ZEB_Byte_Array *)destination;
+- (void)load_contents:(ZEB_Byte_Array *ZEB_NULLABLE)destination;
 
 /** Replaces the contents of the file with `length` bytes, compressed if `contents_compressed` is set. The
     file is opened or created, then the bytes are compressed, and only then is the file emptied and written. A
@@ -30,7 +32,7 @@
     In two cases bytes are lost although the result is 1; `last_error` is then not 0. The platform wrote fewer
     bytes without an error, which is reported as a warning; or compression failed while `report_errors` was
     not set, and the bytes compressed so far were written. */
-- (uint32_t)write_contents:(const void *)bytes length:(uint32_t)length;
+- (uint32_t)write_contents:(const void *ZEB_NULLABLE)bytes length:(uint32_t)length;
 
 /** Replaces the file by a new one with these contents, compressed if `contents_compressed` is set. The bytes
     are written beside the file, under a name that begins with ".zeb-", flushed to the storage device, and
@@ -49,6 +51,8 @@
     written cannot be opened. After a failure the old file is unchanged and the new one removed; only a
     process that is killed leaves it there. Null bytes with a length are refused with EFAULT, here and in
     `write_contents`, before the file is touched. */
-- (uint32_t)replace_contents:(const void *)bytes length:(uint32_t)length;
+- (uint32_t)replace_contents:(const void *ZEB_NULLABLE)bytes length:(uint32_t)length;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_File.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 @interface ZEB_File (Copying)
 
 /** Copies as many bytes as the snapshot has size to another path, as they are stored, and replaces the
@@ -17,6 +19,8 @@
     file: " (the destination is then empty), or "Error copying contents to file: " (also if closing fails; the
     destination is then incomplete). A source that is shorter than the size, or bytes that the platform did
     not write without an error, are reported as warnings; the result is 1 and `last_error` ENODATA or EIO. */
-- (uint32_t)copy_to:(ZEB_String *)destination;
+- (uint32_t)copy_to:(ZEB_String *ZEB_NULLABLE)destination;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_File.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Results: 0 for a failure, 1 if it was done, and for the creating operations 2 if something exists at the
  * path already, of whatever kind; then nothing changes. Relative paths are not created. Created entries
@@ -32,10 +34,13 @@
     `link_path` ("Cannot create a symbolic link entry over the regular file: ", on the standard-output stream
     if `log_actions` is set), or if the link there cannot be removed ("Error removing symbolic link entry: ").
     Successes are "Removed symbolic link entry: " and "Made symbolic link: ", with both paths. */
-- (uint32_t)make_symbolic_link:(ZEB_String *)link_path target_path:(ZEB_String *)target_path;
+- (uint32_t)make_symbolic_link:(ZEB_String *ZEB_NULLABLE)link_path
+                   target_path:(ZEB_String *ZEB_NULLABLE)target_path;
 
 /** Removes the file, the link or the empty directory at the path. Reports "Removed file: " or "Error removing
     file: ". */
 - (uint32_t)remove;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -5,6 +5,8 @@
 
 @class ZEB_Byte_Array, ZEB_File, ZEB_String;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** The actions on which an interceptor decides. */
 typedef uint32_t ZEB_File_Action;
 enum {
@@ -45,10 +47,14 @@ enum {
 - (uint32_t)intercept_create_directory:(ZEB_File *)file;
 - (uint32_t)intercept_create_parent_directories:(ZEB_File *)file;
 - (uint32_t)intercept_remove:(ZEB_File *)file;
-- (uint32_t)intercept_read_contents:(ZEB_File *)file destination:(ZEB_Byte_Array *)destination;
-- (uint32_t)intercept_write_contents:(ZEB_File *)file bytes:(const void *)bytes length:(uint32_t)length;
-- (uint32_t)intercept_copy_to:(ZEB_File *)file destination:(ZEB_String *)destination;
-- (uint32_t)intercept_move_to:(ZEB_File *)file destination:(ZEB_String *)destination;
+- (uint32_t)intercept_read_contents:(ZEB_File *)file destination:(ZEB_Byte_Array *ZEB_NULLABLE)destination;
+- (uint32_t)intercept_write_contents:(ZEB_File *)file
+                               bytes:(const void *ZEB_NULLABLE)bytes
+                              length:(uint32_t)length;
+- (uint32_t)intercept_copy_to:(ZEB_File *)file destination:(ZEB_String *ZEB_NULLABLE)destination;
+- (uint32_t)intercept_move_to:(ZEB_File *)file destination:(ZEB_String *ZEB_NULLABLE)destination;
 - (uint32_t)intercept_backstore:(ZEB_File *)file;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -6,6 +6,8 @@
 @class ZEB_Stream;
 @class ZEB_Wide_String;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Appends the texts of numbers to a wide string, and records the notation of the last one and where its
  * exponent stands. The decimal point is '.' in every locale.
@@ -21,17 +23,17 @@ ZEB_EXPORT
     uint32_t result_kind;
     uint32_t error_code;
     ZEB_Index_Range range;
-    ZEB_UNRETAINED ZEB_Wide_String *text;
+    ZEB_UNRETAINED ZEB_Wide_String *ZEB_NULLABLE text;
 }
 
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
 /** Initialises a format with precision 6, exponent base 10, zero reference 1 and an empty text. */
-- (id)init;
+- (instancetype)init;
 
 /** Returns a copy with the same settings and results, and a text of its own with the same characters. */
-- (id)copyWithZone:(NSZone *)zone;
+- (id)copyWithZone:(NSZone *ZEB_NULLABLE)zone;
 
 /** Appends a number: "0" for a magnitude of at most 1e-12 times `zero_reference`; fixed notation from 0.0001
     to below 1000000, with at most 12 decimals below 1 and 10 above; else mantissa and power of
@@ -72,11 +74,13 @@ ZEB_EXPORT
 /** The string to which texts are appended. Setting retains the new string and releases the old one; nil sets
     a new, empty string. */
 - (ZEB_Wide_String *)text;
-- (void)set_text:(ZEB_Wide_String *)string;
+- (void)set_text:(ZEB_Wide_String *ZEB_NULLABLE)string;
 
 /** Writes the text as UTF-8; nothing if a character is not a code point. */
-- (void)send_to_stream:(ZEB_Stream *)stream;
-- (void)send_text_to_stream:(ZEB_Stream *)stream;
-- (void)send_contents_to_stream:(ZEB_Stream *)stream;
+- (void)send_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_text_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
+- (void)send_contents_to_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -16,6 +16,8 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 ZEB_EXTERN_C_BEGIN
 
 /** Size of a buffer for every text of the pretty, fixed and fraction writers. */
@@ -55,37 +57,46 @@ ZEB_EXPORT char *ZC_format_fixed_float(char *buffer, uint32_t decimals, float va
     and last character and `result_kind` 3; either may be null. "Inf", "NaN" and "Err" (a base that is 0 or
     not finite, no finite logarithm, power or mantissa, or a part longer than 31 characters) set both to 0.
     The buffer needs ZEB_SCIENTIFIC_TEXT_SIZE bytes. */
-ZEB_EXPORT char *ZC_format_scientific_double(char *buffer, uint32_t precision, uint32_t *result_kind,
-                                             ZEB_Index_Range *range, double value, double base,
+ZEB_EXPORT char *ZC_format_scientific_double(char *buffer, uint32_t precision,
+                                             uint32_t *ZEB_NULLABLE result_kind,
+                                             ZEB_Index_Range *ZEB_NULLABLE range, double value, double base,
                                              double zero_reference);
 
 /** Scan a real number: decimal or hexadecimal digits with a fraction and an exponent, "inf", "infinity" or
     "nan" in any case, with an optional sign. A number too large becomes infinite. */
-ZEB_EXPORT uint32_t ZC_assign_double_from_char_c_array(const char *chars, uint32_t length, double *result);
-ZEB_EXPORT uint32_t ZC_assign_float_from_char_c_array(const char *chars, uint32_t length, float *result);
+ZEB_EXPORT uint32_t ZC_assign_double_from_char_c_array(const char *ZEB_NULLABLE chars, uint32_t length,
+                                                       double *result);
+ZEB_EXPORT uint32_t ZC_assign_float_from_char_c_array(const char *ZEB_NULLABLE chars, uint32_t length,
+                                                      float *result);
 
 /** Scan a decimal integer. A number beyond 64 bits becomes the nearest that fits; its lower 32 bits are
     stored. */
-ZEB_EXPORT uint32_t ZC_assign_int_from_char_c_array(const char *chars, uint32_t length, int32_t *result);
-ZEB_EXPORT uint32_t ZC_assign_unsigned_from_char_c_array(const char *chars, uint32_t length,
+ZEB_EXPORT uint32_t ZC_assign_int_from_char_c_array(const char *ZEB_NULLABLE chars, uint32_t length,
+                                                    int32_t *result);
+ZEB_EXPORT uint32_t ZC_assign_unsigned_from_char_c_array(const char *ZEB_NULLABLE chars, uint32_t length,
                                                          uint32_t *result);
 
 /** Scan an integer in a base of 2 to 36, or, for base 0, the base of its prefix ("0x", "0"); any other base
     reads nothing. A number beyond 64 bits becomes the nearest that fits; a 32-bit scanner stores its lower 32
     bits. */
-ZEB_EXPORT uint32_t ZC_assign_int_with_base_from_char_c_array(const char *chars, uint32_t length,
+ZEB_EXPORT uint32_t ZC_assign_int_with_base_from_char_c_array(const char *ZEB_NULLABLE chars, uint32_t length,
                                                               int32_t base, int32_t *result);
-ZEB_EXPORT uint32_t ZC_assign_unsigned_with_base_from_char_c_array(const char *chars, uint32_t length,
-                                                                   int32_t base, uint32_t *result);
-ZEB_EXPORT uint32_t ZC_assign_int64_with_base_from_char_c_array(const char *chars, uint32_t length,
-                                                                int32_t base, int64_t *result);
-ZEB_EXPORT uint32_t ZC_assign_unsigned64_with_base_from_char_c_array(const char *chars, uint32_t length,
-                                                                     int32_t base, uint64_t *result);
+ZEB_EXPORT uint32_t ZC_assign_unsigned_with_base_from_char_c_array(const char *ZEB_NULLABLE chars,
+                                                                   uint32_t length, int32_t base,
+                                                                   uint32_t *result);
+ZEB_EXPORT uint32_t ZC_assign_int64_with_base_from_char_c_array(const char *ZEB_NULLABLE chars,
+                                                                uint32_t length, int32_t base,
+                                                                int64_t *result);
+ZEB_EXPORT uint32_t ZC_assign_unsigned64_with_base_from_char_c_array(const char *ZEB_NULLABLE chars,
+                                                                     uint32_t length, int32_t base,
+                                                                     uint64_t *result);
 
 /** Returns the number of characters before the first "inf", "infinity" or "nan", in any case, that is
     followed by white space or the end of the array; the length if there is none. */
-ZEB_EXPORT uint32_t ZC_find_special_value_in_char_c_array(const char *chars, uint32_t length);
+ZEB_EXPORT uint32_t ZC_find_special_value_in_char_c_array(const char *ZEB_NULLABLE chars, uint32_t length);
 
 ZEB_EXTERN_C_END
+
+ZEB_ASSUME_NONNULL_END
 
 #endif

@@ -3,12 +3,14 @@
  */
 #import <Korvane_ZEB/ZEB_Default_Values.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** Passes every operation on to the defaults that it holds; without any it answers 0 or nil, and changes
  * nothing. */
 ZEB_EXPORT
 @interface ZEB_Defaults : ZEB_Object <ZEB_Default_Values> {
     ZEB_PROTECTED
-    ZEB_UNRETAINED NSUserDefaults *defaults;
+    ZEB_UNRETAINED NSUserDefaults *ZEB_NULLABLE defaults;
 }
 
 /** Returns the proprietary notice. */
@@ -20,12 +22,14 @@ ZEB_EXPORT
 + (ZEB_Defaults *)shared_standard;
 
 /** Initialises an object over defaults that it retains; `init` over none. */
-- (id)init_with_defaults:(NSUserDefaults *)held;
+- (instancetype)init_with_defaults:(NSUserDefaults *ZEB_NULLABLE)held;
 
 /** The defaults that it holds. */
-- (NSUserDefaults *)platform_defaults;
+- (NSUserDefaults *ZEB_NULLABLE)platform_defaults;
 
 /** Saves what was set, and reads what other processes have saved. Returns NO if that fails. */
 - (BOOL)synchronize;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

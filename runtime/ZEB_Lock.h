@@ -5,6 +5,8 @@
 
 @class NSLock;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * A lock that one thread holds at a time. The framework itself takes none.
  *
@@ -14,14 +16,14 @@
 ZEB_EXPORT
 @interface ZEB_Lock : ZEB_Object {
     ZEB_PROTECTED
-    ZEB_UNRETAINED NSLock *platform_lock;
+    ZEB_UNRETAINED NSLock *ZEB_NULLABLE platform_lock;
 }
 
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
 /** Initialises a lock that no thread holds. */
-- (id)init;
+- (instancetype)init;
 
 /** Waits until no other thread holds the lock, and takes it. */
 - (void)lock;
@@ -34,3 +36,5 @@ ZEB_EXPORT
 - (void)unlock;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Default_Values.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** The application's own defaults, with the operations of ZEB_Default_Values. */
 ZEB_EXPORT
 @interface ZEB_Standard_Defaults : NSUserDefaults
@@ -15,3 +17,5 @@ ZEB_EXPORT
 + (NSUserDefaults *)shared;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Default_Values.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Defaults that all applications of the framework share: the domain "Korvane" of the user. Its operations are
  * those of ZEB_Default_Values and the platform's.
@@ -24,12 +26,14 @@ ZEB_EXPORT
 
 /** Store a property list in the suite, or remove a key from it. Unusable keys and values are refused as in
     ZEB_Default_Values. */
-- (void)setObject:(id)object forKey:(NSString *)key;
-- (void)removeObjectForKey:(NSString *)key;
+- (void)setObject:(id ZEB_NULLABLE)object forKey:(NSString *ZEB_NULLABLE)key;
+- (void)removeObjectForKey:(NSString *ZEB_NULLABLE)key;
 
 /** Store the text of a value; of an integer its low 32 bits. */
-- (void)setBool:(BOOL)value forKey:(NSString *)key;
-- (void)setFloat:(float)value forKey:(NSString *)key;
-- (void)setInteger:(NSInteger)value forKey:(NSString *)key;
+- (void)setBool:(BOOL)value forKey:(NSString *ZEB_NULLABLE)key;
+- (void)setFloat:(float)value forKey:(NSString *ZEB_NULLABLE)key;
+- (void)setInteger:(NSInteger)value forKey:(NSString *ZEB_NULLABLE)key;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

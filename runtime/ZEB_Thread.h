@@ -5,6 +5,8 @@
 
 @class NSThread;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** What ZEB_Thread and NSThread offer as class operations; every thread may use them at any time. */
 @protocol ZEB_Thread_Operations
 
@@ -16,7 +18,7 @@
     platform has one in a new thread. What it throws ends the process. Reports "Cannot start thread, no
     selector performed." for a null selector, a target that does not implement it (nil too), and where the
     platform has no thread left. */
-+ (void)detach:(SEL)selector target:(id)target object:(id)object;
++ (void)detach:(SEL ZEB_NULLABLE)selector target:(id ZEB_NULLABLE)target object:(id ZEB_NULLABLE)object;
 
 /** Returns 1 if a thread was ever started beside the first one, else 0. */
 + (uint8_t)is_multi_threaded;
@@ -29,7 +31,7 @@
     a double. Returns at once if that is past or NaN, and for nil and objects that do not answer it. A
     ZEB_Date answers by its own fields, without a time zone: one that was set from the local clock is off by
     the zone's offset. To wait for a while, use `sleep_for:nanosecond:`. */
-+ (void)sleep_until:(id)time;
++ (void)sleep_until:(id ZEB_NULLABLE)time;
 
 /** Ends the thread that calls. */
 + (void)exit_thread;
@@ -40,7 +42,7 @@
 ZEB_EXPORT
 @interface ZEB_Thread : ZEB_Object <ZEB_Thread_Operations> {
     ZEB_PROTECTED
-    ZEB_UNRETAINED NSThread *platform_thread; /* for subclasses: nil at first, not retained */
+    ZEB_UNRETAINED NSThread *ZEB_NULLABLE platform_thread; /* for subclasses: nil at first, not retained */
 }
 
 /** Returns the proprietary notice. */
@@ -50,3 +52,5 @@ ZEB_EXPORT
 
 @interface NSThread (ZEB_Thread) <ZEB_Thread_Operations>
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_Char_Vector.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Searches, number scanners and comparisons, which do not change the string. Indexes are zero-based;
  * 4294967295 means not found. Comparisons return 1 if both are equal, 2 if the receiver orders first, 3 if it
@@ -16,7 +18,7 @@
 /** Returns the index at which a run of bytes first occurs. An occurrence that ends with the last character is
     not found, so a text is never found in itself; neither is an empty run. `find_text:` (ZEB_Text_Search.h)
     finds the former. */
-- (uint32_t)index_of_substring:(const char *)bytes length:(uint32_t)length;
+- (uint32_t)index_of_substring:(const char *ZEB_NULLABLE)bytes length:(uint32_t)length;
 
 /** Returns the index at which a number can begin: after leading white space, at "inf", "infinity" or "nan" in
     any case, else at the first digit, sign, full stop, or letter of E, F, G, e, f, g. */
@@ -33,27 +35,29 @@
 - (uint32_t)index_of_last_non_number;
 
 /** Returns 1 if both hold the same bytes, else 0. */
-- (uint8_t)is_equal:(ZEB_Char_Vector *)other;
+- (uint8_t)is_equal:(ZEB_Char_Vector *ZEB_NULLABLE)other;
 
 /** Returns 1 if both hold the same bytes except for case, else 0. */
-- (uint8_t)is_equal_ignoring_case:(ZEB_Char_Vector *)other;
+- (uint8_t)is_equal_ignoring_case:(ZEB_Char_Vector *ZEB_NULLABLE)other;
 
 /** Returns 1 if the receiver orders first, with bytes compared as unsigned numbers, else 0. */
-- (uint8_t)is_less:(ZEB_Char_Vector *)other;
+- (uint8_t)is_less:(ZEB_Char_Vector *ZEB_NULLABLE)other;
 
 /** Compares bytes as unsigned numbers. Foundation's sort methods expect -1, 0 and 1 from this selector: give
     them `platform_compare:`. */
-- (ZEB_Comparison)compare:(ZEB_Char_Vector *)other;
+- (ZEB_Comparison)compare:(ZEB_Char_Vector *ZEB_NULLABLE)other;
 
 /** The same order as an NSComparisonResult, for sort descriptors and `sortedArrayUsingSelector:`. An object
     of another class compares as an empty text. */
-- (NSComparisonResult)platform_compare:(ZEB_Char_Vector *)other;
+- (NSComparisonResult)platform_compare:(ZEB_Char_Vector *ZEB_NULLABLE)other;
 
 /** Compares without regard to case, with bytes as signed numbers: those from 0x80 on order before all
     others. */
-- (ZEB_Comparison)compare_ignoring_case:(ZEB_Char_Vector *)other;
+- (ZEB_Comparison)compare_ignoring_case:(ZEB_Char_Vector *ZEB_NULLABLE)other;
 
 /** Returns 1 if the text is well-formed UTF-8, else 0. */
 - (uint8_t)is_valid_utf8;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -9,19 +9,21 @@
 
 #import <Foundation/Foundation.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** From 8-bit text. The bytes are copied. */
 @interface ZEB_Char_Vector (NSString_Conversion)
 
 /** Returns the text decoded as ASCII. */
-- (NSString *)NSString_value;
+- (NSString *ZEB_NULLABLE)NSString_value;
 
 /** Return the text decoded as UTF-8, for general use and for paths. */
-- (NSString *)NSString_utf8_value;
-- (NSString *)NSString_path_value;
+- (NSString *ZEB_NULLABLE)NSString_utf8_value;
+- (NSString *ZEB_NULLABLE)NSString_path_value;
 
 /** Return the text decoded by an encoding type. */
-- (NSString *)NSString_value_with_encoding_type:(ZEB_Encoding_Type)type;
-- (NSMutableString *)NSMutableString_value_with_encoding_type:(ZEB_Encoding_Type)type;
+- (NSString *ZEB_NULLABLE)NSString_value_with_encoding_type:(ZEB_Encoding_Type)type;
+- (NSMutableString *ZEB_NULLABLE)NSMutableString_value_with_encoding_type:(ZEB_Encoding_Type)type;
 
 @end
 
@@ -29,15 +31,16 @@
 @interface ZEB_String (NSString_Conversion)
 
 /** Returns an autoreleased string with the encoded bytes of an NSString; empty if there are none. */
-+ (ZEB_String *)string_with_NSString:(NSString *)text type:(ZEB_Encoding_Type)type;
++ (ZEB_INSTANCE_OF(ZEB_String *))string_with_NSString:(NSString *ZEB_NULLABLE)text
+                                                 type:(ZEB_Encoding_Type)type;
 
 /** Initialises a string with the encoded bytes of an NSString and a capacity of their number. Without bytes
     it is empty and has no block. */
-- (id)init_with_NSString:(NSString *)text type:(ZEB_Encoding_Type)type;
+- (instancetype)init_with_NSString:(NSString *ZEB_NULLABLE)text type:(ZEB_Encoding_Type)type;
 
 /** Replaces the contents with the encoded bytes of an NSString, as `set_chars:count:` does; a link becomes an
     owner. Without bytes the count becomes 0, also that of a link. */
-- (void)set_from_NSString:(NSString *)text type:(ZEB_Encoding_Type)type;
+- (void)set_from_NSString:(NSString *ZEB_NULLABLE)text type:(ZEB_Encoding_Type)type;
 
 @end
 
@@ -45,8 +48,8 @@
 @interface ZEB_Wide_Char_Vector (NSString_Conversion)
 
 /** Return the text decoded as UTF-16; nil if allocation fails. */
-- (NSString *)NSString_value;
-- (NSMutableString *)NSMutableString_value;
+- (NSString *ZEB_NULLABLE)NSString_value;
+- (NSMutableString *ZEB_NULLABLE)NSMutableString_value;
 
 @end
 
@@ -55,10 +58,12 @@
 
 /** Initialises a string with the units of an NSString and the capacity that `set_length:` chooses; an empty
     one for nil. */
-- (id)init_with_NSString:(NSString *)text;
+- (instancetype)init_with_NSString:(NSString *ZEB_NULLABLE)text;
 
 /** Replaces the contents with the units of an NSString, as `set_length:` does; with none for nil. A link
     reports "Cannot update length through link, no adjustment made." */
-- (void)set_from_NSString:(NSString *)text;
+- (void)set_from_NSString:(NSString *ZEB_NULLABLE)text;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -104,7 +104,7 @@ void set_units(ZEB_Wide_String *string, NSString *given, engine::Fix_Report repo
 
 @implementation ZEB_String (NSString_Conversion)
 
-+ (ZEB_String *)string_with_NSString:(NSString *)text type:(ZEB_Encoding_Type)type
++ (ZEB_INSTANCE_OF(ZEB_String *))string_with_NSString:(NSString *)text type:(ZEB_Encoding_Type)type
 {
     return [[[self alloc] init_with_NSString:text type:type] autorelease];
 }

@@ -7,6 +7,8 @@
 @class ZEB_String;
 @class ZEB_Wide_Char_Vector;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Sets the contents of one target string. The target is not retained: the caller keeps it alive. Without a
  * target nothing happens.
@@ -20,25 +22,28 @@
 ZEB_EXPORT
 @interface ZEB_String_Converter : ZEB_Object {
     ZEB_PROTECTED
-    ZEB_UNRETAINED ZEB_String *target;
+    ZEB_UNRETAINED ZEB_String *ZEB_NULLABLE target;
 }
 
 /** Returns the proprietary notice. */
 + (const char *)get_KVX_proprietary_software_notice;
 
 /** The target string: nil at first, neither retained nor released. */
-- (ZEB_String *)target;
-- (void)set_target:(ZEB_String *)string;
+- (ZEB_String *ZEB_NULLABLE)target;
+- (void)set_target:(ZEB_String *ZEB_NULLABLE)string;
 
 /** Set the target to the UTF-8 of a text, under two names. */
-- (void)set_from_wide_string:(ZEB_Wide_Char_Vector *)wide;
-- (void)copy_wide_string:(ZEB_Wide_Char_Vector *)wide;
+- (void)set_from_wide_string:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)wide;
+- (void)copy_wide_string:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)wide;
 
 /** Sets the target to the text in the encoding of a type. */
-- (void)set_from_wide_string_with_encoding_type:(ZEB_Wide_Char_Vector *)wide type:(ZEB_Encoding_Type)type;
+- (void)set_from_wide_string_with_encoding_type:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)wide
+                                           type:(ZEB_Encoding_Type)type;
 
 /** Call the target's operation of the same name. */
-- (void)copy_c_string:(const char *)bytes length:(uint32_t)length;
-- (void)set_contents_of_array:(ZEB_Char_Vector *)other;
+- (void)copy_c_string:(const char *ZEB_NULLABLE)bytes length:(uint32_t)length;
+- (void)set_contents_of_array:(ZEB_Char_Vector *ZEB_NULLABLE)other;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -19,31 +19,34 @@
 
 #include <stdarg.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** 8-bit strings. Text is not decoded: bytes are copied as they are. */
 @interface ZEB_String (Making)
 
 /** Return an autoreleased string with the bytes of a C string, the UTF-8 of an NSString, or a formatted
     text. */
-+ (ZEB_String *)string_with_c_string:(const char *)text;
-+ (ZEB_String *)string_with_NSString:(NSString *)text;
-+ (ZEB_String *)string_with_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
++ (ZEB_INSTANCE_OF(ZEB_String *))string_with_c_string:(const char *ZEB_NULLABLE)text;
++ (ZEB_INSTANCE_OF(ZEB_String *))string_with_NSString:(NSString *ZEB_NULLABLE)text;
++ (ZEB_INSTANCE_OF(ZEB_String *))string_with_format:(const char *ZEB_NULLABLE)format,
+                                                    ... __attribute__((format(printf, 1, 2)));
 
 /** Initialise an owner in the same way. The capacity is the one that appending to an empty string chooses. */
-- (id)init_with_c_string:(const char *)text;
-- (id)init_with_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
+- (instancetype)init_with_c_string:(const char *ZEB_NULLABLE)text;
+- (instancetype)init_with_format:(const char *ZEB_NULLABLE)format, ... __attribute__((format(printf, 1, 2)));
 
 /** Appends a C string without its null. A link reports "Cannot append c string through link, no append
     made." */
-- (void)append_c_string:(const char *)text;
+- (void)append_c_string:(const char *ZEB_NULLABLE)text;
 
 /** Appends the UTF-8 of an NSString, in which Foundation replaces what UTF-8 does not have. A link reports
     "Cannot append platform string through link, no append made." */
-- (void)append_NSString:(NSString *)text;
+- (void)append_NSString:(NSString *ZEB_NULLABLE)text;
 
 /** Append a formatted text without its null. A link reports "Cannot append formatted text through link, no
     append made." */
-- (void)append_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
-- (void)append_format:(const char *)format
+- (void)append_format:(const char *ZEB_NULLABLE)format, ... __attribute__((format(printf, 1, 2)));
+- (void)append_format:(const char *ZEB_NULLABLE)format
             arguments:(va_list)arguments __attribute__((format(printf, 1, 0)));
 
 @end
@@ -52,7 +55,7 @@
 
 /** Initialises an owner with the UTF-8 of an NSString. That of 32-bit strings is in
     ZEB_NSString_Conversion.h. */
-- (id)init_with_NSString:(NSString *)text;
+- (instancetype)init_with_NSString:(NSString *ZEB_NULLABLE)text;
 
 @end
 
@@ -64,26 +67,29 @@
 @interface ZEB_Wide_String (Making)
 
 /** Return an autoreleased string with the text of a C string, of an NSString, or of a format. */
-+ (ZEB_Wide_String *)string_with_c_string:(const char *)text;
-+ (ZEB_Wide_String *)string_with_NSString:(NSString *)text;
-+ (ZEB_Wide_String *)string_with_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
++ (ZEB_INSTANCE_OF(ZEB_Wide_String *))string_with_c_string:(const char *ZEB_NULLABLE)text;
++ (ZEB_INSTANCE_OF(ZEB_Wide_String *))string_with_NSString:(NSString *ZEB_NULLABLE)text;
++ (ZEB_INSTANCE_OF(ZEB_Wide_String *))string_with_format:(const char *ZEB_NULLABLE)format,
+                                                         ... __attribute__((format(printf, 1, 2)));
 
 /** Initialise an owner in the same way. */
-- (id)init_with_c_string:(const char *)text;
-- (id)init_with_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
+- (instancetype)init_with_c_string:(const char *ZEB_NULLABLE)text;
+- (instancetype)init_with_format:(const char *ZEB_NULLABLE)format, ... __attribute__((format(printf, 1, 2)));
 
 /** Appends a decoded C string; `append_c_string:length:`, on the other hand, decodes nothing. A link reports
     "Cannot append c string through link, no append made." */
-- (void)append_c_string:(const char *)text;
+- (void)append_c_string:(const char *ZEB_NULLABLE)text;
 
 /** Appends the UTF-16 units of an NSString. A link reports "Cannot append platform string through link, no
     append made." */
-- (void)append_NSString:(NSString *)text;
+- (void)append_NSString:(NSString *ZEB_NULLABLE)text;
 
 /** Append a decoded formatted text. A link reports "Cannot append formatted text through link, no append
     made." */
-- (void)append_format:(const char *)format, ... __attribute__((format(printf, 1, 2)));
-- (void)append_format:(const char *)format
+- (void)append_format:(const char *ZEB_NULLABLE)format, ... __attribute__((format(printf, 1, 2)));
+- (void)append_format:(const char *ZEB_NULLABLE)format
             arguments:(va_list)arguments __attribute__((format(printf, 1, 0)));
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -8,16 +8,21 @@
 
 #include <string_view>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 namespace zeb
 {
 
 /// Returns a view of the characters of an 8-bit string.
-inline std::string_view view(ZEB_Char_Vector *string) { return {[string char_data], [string count]}; }
+inline std::string_view view(ZEB_Char_Vector *ZEB_NULLABLE string)
+{
+    return {[string char_data], [string count]};
+}
 
 /// Returns a view of the units of a 32-bit string as char32_t. Stores made before the view was created are
 /// visible through it. If the same function continues to store through `wide_char_data` while it uses the
 /// view, compile with -fno-strict-aliasing.
-inline std::u32string_view view(ZEB_Wide_Char_Vector *string)
+inline std::u32string_view view(ZEB_Wide_Char_Vector *ZEB_NULLABLE string)
 {
     static_assert(sizeof(char32_t) == sizeof(uint32_t) && alignof(char32_t) == alignof(uint32_t));
     const void *units = [string wide_char_data];
@@ -27,3 +32,5 @@ inline std::u32string_view view(ZEB_Wide_Char_Vector *string)
 }
 
 } // namespace zeb
+
+ZEB_ASSUME_NONNULL_END

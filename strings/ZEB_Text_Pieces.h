@@ -6,6 +6,8 @@
 #import <Korvane_ZEB/ZEB_Wide_String.h>
 #import <Korvane_ZEB/ZEB_Wide_String_Array.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * A text with n separators has n + 1 pieces: those before, between and after them, empty ones included. An
  * empty text is one empty piece. An empty separator and nil occur nowhere, so that the whole text is the only
@@ -20,10 +22,11 @@
 @interface ZEB_Char_Vector (Splitting)
 
 /** Sets `pieces` to what stands between the occurrences of a character. */
-- (uint32_t)split_by_char:(char)separator into:(ZEB_String_Array *)pieces;
+- (uint32_t)split_by_char:(char)separator into:(ZEB_String_Array *ZEB_NULLABLE)pieces;
 
 /** Sets `pieces` to what stands between the occurrences of a text. */
-- (uint32_t)split_by_text:(ZEB_Char_Vector *)separator into:(ZEB_String_Array *)pieces;
+- (uint32_t)split_by_text:(ZEB_Char_Vector *ZEB_NULLABLE)separator
+                     into:(ZEB_String_Array *ZEB_NULLABLE)pieces;
 
 @end
 
@@ -31,10 +34,11 @@
 @interface ZEB_Wide_Char_Vector (Splitting)
 
 /** Sets `pieces` to what stands between the occurrences of a unit. */
-- (uint32_t)split_by_wide_char:(uint32_t)separator into:(ZEB_Wide_String_Array *)pieces;
+- (uint32_t)split_by_wide_char:(uint32_t)separator into:(ZEB_Wide_String_Array *ZEB_NULLABLE)pieces;
 
 /** Sets `pieces` to what stands between the occurrences of a text. */
-- (uint32_t)split_by_text:(ZEB_Wide_Char_Vector *)separator into:(ZEB_Wide_String_Array *)pieces;
+- (uint32_t)split_by_text:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)separator
+                     into:(ZEB_Wide_String_Array *ZEB_NULLABLE)pieces;
 
 @end
 
@@ -48,13 +52,17 @@
     A link reports "Cannot join strings through link, no change made."; a failed allocation, or a text beyond
     32 bits, "Runtime error in reallocate macro" ("Runtime error in allocate macro" for the first block). The
     receiver is unchanged then. */
-- (void)join_strings:(ZEB_String_Vector *)strings separator:(ZEB_Char_Vector *)separator;
+- (void)join_strings:(ZEB_String_Vector *ZEB_NULLABLE)strings
+           separator:(ZEB_Char_Vector *ZEB_NULLABLE)separator;
 
 @end
 
 @interface ZEB_Wide_String (Joining)
 
 /** The same for 32-bit strings. */
-- (void)join_strings:(ZEB_Wide_String_Vector *)strings separator:(ZEB_Wide_Char_Vector *)separator;
+- (void)join_strings:(ZEB_Wide_String_Vector *ZEB_NULLABLE)strings
+           separator:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)separator;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -4,6 +4,8 @@
 #import <Korvane_ZEB/ZEB_Char_Vector.h>
 #import <Korvane_ZEB/ZEB_Wide_Char_Vector.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Bytes are compared as they are. Other than `index_of_substring:length:`, these find a text that ends with
  * the last character too, and a text in itself. An empty text and nil stand nowhere. Characters with the
@@ -13,16 +15,16 @@
 @interface ZEB_Char_Vector (Search)
 
 /** Return 1 if the receiver begins with, ends with, or contains the text, else 0. */
-- (uint8_t)has_prefix:(ZEB_Char_Vector *)text;
-- (uint8_t)has_suffix:(ZEB_Char_Vector *)text;
-- (uint8_t)contains:(ZEB_Char_Vector *)text;
+- (uint8_t)has_prefix:(ZEB_Char_Vector *ZEB_NULLABLE)text;
+- (uint8_t)has_suffix:(ZEB_Char_Vector *ZEB_NULLABLE)text;
+- (uint8_t)contains:(ZEB_Char_Vector *ZEB_NULLABLE)text;
 
 /** Return the index at which the text first occurs: in the whole receiver, or at an index or after it. */
-- (uint32_t)find_text:(ZEB_Char_Vector *)text;
-- (uint32_t)find_text:(ZEB_Char_Vector *)text from_index:(uint32_t)index;
+- (uint32_t)find_text:(ZEB_Char_Vector *ZEB_NULLABLE)text;
+- (uint32_t)find_text:(ZEB_Char_Vector *ZEB_NULLABLE)text from_index:(uint32_t)index;
 
 /** Returns the index at which the text occurs last; occurrences may overlap. */
-- (uint32_t)find_last_text:(ZEB_Char_Vector *)text;
+- (uint32_t)find_last_text:(ZEB_Char_Vector *ZEB_NULLABLE)text;
 
 @end
 
@@ -30,15 +32,17 @@
 @interface ZEB_Wide_Char_Vector (Search)
 
 /** Return 1 if the receiver begins with, ends with, or contains the text, else 0. */
-- (uint8_t)has_prefix:(ZEB_Wide_Char_Vector *)text;
-- (uint8_t)has_suffix:(ZEB_Wide_Char_Vector *)text;
-- (uint8_t)contains:(ZEB_Wide_Char_Vector *)text;
+- (uint8_t)has_prefix:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)text;
+- (uint8_t)has_suffix:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)text;
+- (uint8_t)contains:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)text;
 
 /** Return the index at which the text first occurs: in the whole receiver, or at an index or after it. */
-- (uint32_t)find_text:(ZEB_Wide_Char_Vector *)text;
-- (uint32_t)find_text:(ZEB_Wide_Char_Vector *)text from_index:(uint32_t)index;
+- (uint32_t)find_text:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)text;
+- (uint32_t)find_text:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)text from_index:(uint32_t)index;
 
 /** Returns the index at which the text occurs last; occurrences may overlap. */
-- (uint32_t)find_last_text:(ZEB_Wide_Char_Vector *)text;
+- (uint32_t)find_last_text:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)text;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

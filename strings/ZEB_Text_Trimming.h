@@ -4,6 +4,8 @@
 #import <Korvane_ZEB/ZEB_String.h>
 #import <Korvane_ZEB/ZEB_Wide_String.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * In place: what stays moves to the front of the block, whose capacity stays. A link reports "Cannot trim
  * text through link, no change made." and is unchanged.
@@ -20,7 +22,7 @@
 
 /** Removes from both ends the characters that occur in `chars`, which may be the receiver or a link onto it:
     then all of them. Nothing for an empty text and nil. */
-- (void)trim_chars_in:(ZEB_Char_Vector *)chars;
+- (void)trim_chars_in:(ZEB_Char_Vector *ZEB_NULLABLE)chars;
 
 @end
 
@@ -33,6 +35,8 @@
 - (void)trim_whitespace_right;
 
 /** Removes from both ends the units that occur in `chars`, in the same way. */
-- (void)trim_chars_in:(ZEB_Wide_Char_Vector *)chars;
+- (void)trim_chars_in:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)chars;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -8,6 +8,8 @@
 @class ZEB_Wide_String;
 @class ZEB_Wide_String_Array;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** The number of groups of units, counted from 1, and of the lists of texts in each. */
 enum { ZEB_UNIT_GROUP_COUNT = 12, ZEB_UNIT_LIST_COUNT = 4 };
 
@@ -26,8 +28,8 @@ ZEB_EXPORT
 @interface ZEB_Unit_Catalog : ZEB_Object {
     ZEB_PROTECTED
     int32_t selection;
-    ZEB_UNRETAINED ZEB_Wide_String_Array *dimension_names;
-    ZEB_UNRETAINED ZEB_Wide_String_Array *unit_lists[ZEB_UNIT_GROUP_COUNT][ZEB_UNIT_LIST_COUNT];
+    ZEB_UNRETAINED ZEB_Wide_String_Array *ZEB_NULLABLE dimension_names;
+    ZEB_UNRETAINED ZEB_Wide_String_Array *ZEB_NULLABLE unit_lists[ZEB_UNIT_GROUP_COUNT][ZEB_UNIT_LIST_COUNT];
 }
 
 /** Returns the proprietary notice. */
@@ -35,7 +37,7 @@ ZEB_EXPORT
 
 /** Initialises a catalog with selection -1 and the lists whose flags are set. If an allocation fails, that
     is reported, and a list ends before the text that it concerned. */
-- (id)init;
+- (instancetype)init;
 
 /** A number for the application's use, -1 at first; the catalog does not interpret it. */
 - (int32_t)selection;
@@ -45,21 +47,23 @@ ZEB_EXPORT
 - (ZEB_Wide_String_Array *)dimension_names;
 
 /** Returns the singular names of a dimension's units; nil for a dimension that is unknown or has none. */
-- (ZEB_Wide_String_Array *)unit_names_of_dimension:(ZEB_Dimension)code;
+- (ZEB_Wide_String_Array *ZEB_NULLABLE)unit_names_of_dimension:(ZEB_Dimension)code;
 
 /** Return a text of a unit; nil for an unknown one. */
-- (ZEB_Wide_String *)unit_singular_name:(ZEB_Unit_Identity)identity;
-- (ZEB_Wide_String *)unit_plural_name:(ZEB_Unit_Identity)identity;
-- (ZEB_Wide_String *)unit_abbreviation:(ZEB_Unit_Identity)identity;
-- (ZEB_Wide_String *)unit_plural_abbreviation:(ZEB_Unit_Identity)identity;
+- (ZEB_Wide_String *ZEB_NULLABLE)unit_singular_name:(ZEB_Unit_Identity)identity;
+- (ZEB_Wide_String *ZEB_NULLABLE)unit_plural_name:(ZEB_Unit_Identity)identity;
+- (ZEB_Wide_String *ZEB_NULLABLE)unit_abbreviation:(ZEB_Unit_Identity)identity;
+- (ZEB_Wide_String *ZEB_NULLABLE)unit_plural_abbreviation:(ZEB_Unit_Identity)identity;
 
 /** Appends a unit's symbol, of one to four code points, and returns 1. Returns 0, with nothing appended,
     where the unit has no symbol, for a group or position that does not exist and for nil. A link reports as
     its `append_wide_char:` does, and gets nothing: 0. */
-- (uint8_t)append_unit_symbol:(ZEB_Wide_String *)target group:(uint32_t)group position:(uint32_t)position;
+- (uint8_t)append_unit_symbol:(ZEB_Wide_String *ZEB_NULLABLE)target
+                        group:(uint32_t)group
+                     position:(uint32_t)position;
 
 /** The same with a space, "(", the symbol and ")". */
-- (uint8_t)append_unit_symbol_in_parentheses:(ZEB_Wide_String *)target
+- (uint8_t)append_unit_symbol_in_parentheses:(ZEB_Wide_String *ZEB_NULLABLE)target
                                        group:(uint32_t)group
                                     position:(uint32_t)position;
 
@@ -67,9 +71,9 @@ ZEB_EXPORT
     layout units 1, 3, 9 and 11 have the singular name only, and unit 5 in the singular is "Background
     Page". For an unknown unit the fallback, which may be nil, is appended, and 0 returned; so it is for a
     nil target. A link reports as its `append_array:` does, and gets nothing: 0. */
-- (uint8_t)append_unit_text:(ZEB_Wide_String *)target
+- (uint8_t)append_unit_text:(ZEB_Wide_String *ZEB_NULLABLE)target
                    identity:(ZEB_Unit_Identity)identity
-                   fallback:(ZEB_Wide_Char_Vector *)fallback
+                   fallback:(ZEB_Wide_Char_Vector *ZEB_NULLABLE)fallback
                      plural:(uint8_t)plural;
 
 /** Returns the group of a dimension's units; 0 for an unknown dimension and one without units. */
@@ -94,10 +98,14 @@ ZEB_EXPORT
     error is below 2^-53 times the value, in the other unit's degrees, plus 1.5 units in the result's last
     place. NaN and infinities stay, and a result that is too large is infinite. Magnitudes below 1e-307 have
     fewer digits. */
-+ (uint8_t)convert_value:(double *)value from:(ZEB_Unit_Identity)from to:(ZEB_Unit_Identity)to;
++ (uint8_t)convert_value:(double *ZEB_NULLABLE)value from:(ZEB_Unit_Identity)from to:(ZEB_Unit_Identity)to;
 
 /** Converts every element, with the same results, also through a link. Returns 0, with nothing changed, for
     units that do not convert and for nil. */
-+ (uint8_t)convert_values:(ZEB_Double_Vector *)values from:(ZEB_Unit_Identity)from to:(ZEB_Unit_Identity)to;
++ (uint8_t)convert_values:(ZEB_Double_Vector *ZEB_NULLABLE)values
+                     from:(ZEB_Unit_Identity)from
+                       to:(ZEB_Unit_Identity)to;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -6,6 +6,8 @@
 
 #include <Korvane_ZEB/ZEB_Types.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 ZEB_EXTERN_C_BEGIN
 
 /** The number of flags in the catalog: one for the list of dimension names and one for each group of
@@ -20,5 +22,7 @@ ZEB_EXPORT void ZC_start_up_unit_catalog(void);
 ZEB_EXPORT uint8_t *ZC_unit_catalog_flags(void);
 
 ZEB_EXTERN_C_END
+
+ZEB_ASSUME_NONNULL_END
 
 #endif

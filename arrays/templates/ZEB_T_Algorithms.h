@@ -5,9 +5,12 @@
 
 @class ZEB_UInt_Array;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** A caller's comparison: returns ZEB_COMPARED_EQUAL, ZEB_COMPARED_LESS if the key orders before the element,
     or ZEB_COMPARED_GREATER if after. Any other result is an unknown comparison. */
-typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Element const *element);
+typedef ZEB_Comparison (*ZEB_T_Comparison)(TT_VALUE const *ZEB_NONNULL key,
+                                           TT_VALUE const *ZEB_NONNULL element);
 
 /**
  * Searching, sorting and in-place changes of vectors, arrays and links. Nothing here moves a block;
@@ -21,42 +24,42 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 @interface ZEB_T_Vector (Algorithms)
 
 /** Return the index of the first or last element equal to the given one, or ZEB_NOT_FOUND. */
-- (uint32_t)index_of_TT_word:(ZEB_T_Element)element;
-- (uint32_t)last_index_of_TT_word:(ZEB_T_Element)element;
+- (uint32_t)index_of_TT_word:(TT_VALUE)element;
+- (uint32_t)last_index_of_TT_word:(TT_VALUE)element;
 
 /** Returns the index at which a run of elements first begins; ZEB_NOT_FOUND if there is none or the run is
     empty. A run that ends with the last element is not found: the last possible start is not tried. */
-- (uint32_t)index_of_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n;
+- (uint32_t)index_of_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Searches ascending elements by bisection and returns the index of one equal to `key`, or ZEB_NOT_FOUND.
     Among several equal ones any may be returned. NaN, as key or as an element, counts as equal to every
     value. If the comparison returns an unknown result, the search returns the index of the element that was
     compared; in a vector of one element it returns ZEB_NOT_FOUND, and the result 0 reports "Warning: Ordered
     find stopped on unknown comparison." */
-- (uint32_t)ordered_index_of_TT_word:(ZEB_T_Element)key;
-- (uint32_t)ordered_index_of_TT_word:(ZEB_T_Element)key comparison:(ZEB_T_Comparison)comparison;
+- (uint32_t)ordered_index_of_TT_word:(TT_VALUE)key;
+- (uint32_t)ordered_index_of_TT_word:(TT_VALUE)key comparison:(ZEB_T_Comparison)comparison;
 
 /** The same search, which without a match returns the index of the bound at which it stopped; ZEB_NOT_FOUND
     only for an empty vector. In a vector of one element an unknown result is reported and 0 returned. */
-- (uint32_t)nearest_ordered_index_of_TT_word:(ZEB_T_Element)key;
-- (uint32_t)nearest_ordered_index_of_TT_word:(ZEB_T_Element)key comparison:(ZEB_T_Comparison)comparison;
+- (uint32_t)nearest_ordered_index_of_TT_word:(TT_VALUE)key;
+- (uint32_t)nearest_ordered_index_of_TT_word:(TT_VALUE)key comparison:(ZEB_T_Comparison)comparison;
 
 /** Return the smallest element, the largest element, or both: the first of equal ones; NaN only if it is at
     index 0; 0 or nil for an empty vector. */
-- (ZEB_T_Element)minimum_TT_word;
-- (ZEB_T_Element)maximum_TT_word;
-- (void)get_minimum_TT_word:(ZEB_T_Element *)minimum maximum:(ZEB_T_Element *)maximum;
+- (TT_VALUE)minimum_TT_word;
+- (TT_VALUE)maximum_TT_word;
+- (void)get_minimum_TT_word:(TT_VALUE *ZEB_NONNULL)minimum maximum:(TT_VALUE *ZEB_NONNULL)maximum;
 
 /** Store an element at every index, or at those of a range; a range that starts after its end is empty. */
-- (void)fill_with_TT_word:(ZEB_T_Element)element;
-- (void)fill_range:(ZEB_Index_Range)range with_TT_word:(ZEB_T_Element)element;
+- (void)fill_with_TT_word:(TT_VALUE)element;
+- (void)fill_range:(ZEB_Index_Range)range with_TT_word:(TT_VALUE)element;
 
 /** Stores `replacement` over every element equal to `element` and returns their number. Other elements are
     not written. */
-- (uint32_t)replace_every_TT_word:(ZEB_T_Element)element with:(ZEB_T_Element)replacement;
+- (uint32_t)replace_every_TT_word:(TT_VALUE)element with:(TT_VALUE)replacement;
 
 /** Removes every element equal to the given one; the others keep their order. */
-- (void)remove_every_TT_word:(ZEB_T_Element)element;
+- (void)remove_every_TT_word:(TT_VALUE)element;
 
 /** Removes the element at an index; an index past the last changes nothing. */
 - (void)remove_element_at_index:(uint32_t)index;
@@ -64,7 +67,7 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 /** Remove a range, or replace it with one element; the range is cut at the last element. A range that ends
     before it starts reports "End index is less than start index in removal." and changes nothing. */
 - (void)remove_range:(ZEB_Index_Range)range;
-- (void)replace_range:(ZEB_Index_Range)range with_TT_word:(ZEB_T_Element)element;
+- (void)replace_range:(ZEB_Index_Range)range with_TT_word:(TT_VALUE)element;
 
 /** Move an element to index `to`, shifting those between by one, or exchange two elements. An index past the
     last changes nothing. */
@@ -86,14 +89,15 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
     `indexes[i]` before, as `apply_permutation:` expects. With fewer indexes than elements nothing changes and
     nothing is reported. Indexes that share memory with the elements are sorted as elements and not exchanged
     separately. */
-- (void)sort_with_permutation:(ZEB_UInt_Array *)indexes;
-- (void)sort_TT_words_with_comparison:(ZEB_T_Comparison)comparison permutation:(ZEB_UInt_Array *)indexes;
+- (void)sort_with_permutation:(ZEB_UInt_Array *ZEB_NULLABLE)indexes;
+- (void)sort_TT_words_with_comparison:(ZEB_T_Comparison)comparison
+                          permutation:(ZEB_UInt_Array *ZEB_NULLABLE)indexes;
 
 /** Move elements: element i becomes the former element `indexes[i]`, or element `indexes[i]` the former
     element i, for as many as the shorter of both has. An index outside the vector reports "Permutation names
     an element outside the array, no change made." */
-- (void)apply_permutation:(ZEB_UInt_Array *)indexes;
-- (void)apply_inverse_permutation:(ZEB_UInt_Array *)indexes;
+- (void)apply_permutation:(ZEB_UInt_Array *ZEB_NULLABLE)indexes;
+- (void)apply_inverse_permutation:(ZEB_UInt_Array *ZEB_NULLABLE)indexes;
 
 /** Transposes the elements, a matrix in row-major order; only if `rows` and `columns` are at least 2 and
     their product is the count. */
@@ -102,16 +106,16 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
 /** Return 1 if both hold the same elements in the same order, else 0: compared bytewise, or, with a
     collection of any class, by `==`. Objects that an array owns are compared by contents. Nothing equals
     nil. */
-- (uint8_t)is_equal_to_vector:(ZEB_T_Vector *)other;
-- (uint8_t)is_equal_to_collection:(ZEB_T_Collection *)other;
+- (uint8_t)is_equal_to_vector:(ZEB_T_Vector *ZEB_NULLABLE)other;
+- (uint8_t)is_equal_to_collection:(ZEB_T_Collection *ZEB_NULLABLE)other;
 
 /** Equality with another vector of this family, and a hash that agrees with it. */
-- (BOOL)isEqual:(id)other;
+- (BOOL)isEqual:(id ZEB_NULLABLE)other;
 - (NSUInteger)hash;
 
 /** Writes the elements between "{" and "}", separated by ", ": numbers in decimal, objects as they write
     themselves. */
-- (void)print_on_stream:(ZEB_Stream *)stream;
+- (void)print_on_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 @end
 
@@ -123,8 +127,8 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
     element that was compared; in an array of one element it also reports "Warning: Ordered insert stopped on
     unknown comparison." A link that would have to insert reports "Cannot insert element through link, no
     insertion made." and returns ZEB_NOT_FOUND. */
-- (uint32_t)ordered_insert_TT_word:(ZEB_T_Element)element inserts:(uint8_t)inserts;
-- (uint32_t)ordered_insert_TT_word:(ZEB_T_Element)element
+- (uint32_t)ordered_insert_TT_word:(TT_VALUE)element inserts:(uint8_t)inserts;
+- (uint32_t)ordered_insert_TT_word:(TT_VALUE)element
                         comparison:(ZEB_T_Comparison)comparison
                            inserts:(uint8_t)inserts;
 
@@ -132,6 +136,9 @@ typedef ZEB_Comparison (*ZEB_T_Comparison)(ZEB_T_Element const *key, ZEB_T_Eleme
     one that ends with the last element, and returns their number. An empty target has no occurrences. A link
     reports "Can not replace occurences through a link". If allocation fails, "Runtime error in allocate
     macro" is reported and nothing changes. */
-- (uint32_t)replace_occurrences:(ZEB_T_Vector *)target replacement:(ZEB_T_Vector *)replacement;
+- (uint32_t)replace_occurrences:(ZEB_T_Vector *ZEB_NULLABLE)target
+                    replacement:(ZEB_T_Vector *ZEB_NULLABLE)replacement;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_T_Vector.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * A vector that can grow. Growth chooses capacities of the form seed × 2^k above the required count, so at
  * least one element stays free.
@@ -29,41 +31,41 @@ ZEB_EXPORT
 + (void)set_growth_seed:(uint32_t)seed;
 
 /** Returns an autoreleased, empty array with a block for `n` elements. */
-+ (ZEB_T_Array *)array_with_capacity:(uint32_t)n;
++ (ZEB_INSTANCE_OF(ZEB_T_Array *))array_with_capacity:(uint32_t)n;
 
 /** Returns an autoreleased link to `n` elements at `elements`; its capacity is 4294967295. */
-+ (ZEB_T_Array *)link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n;
++ (ZEB_INSTANCE_OF(ZEB_T_Array *))link_to_TT_words:(TT_SLOT *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Initialises an empty array without a block. */
-- (id)init;
+- (instancetype)init;
 
 /** Initialises an empty owner without a block. */
-- (id)init_unlinked;
+- (instancetype)init_unlinked;
 
 /** Initialises an empty array with a block for exactly `n` elements; no block for 0. */
-- (id)init_with_capacity:(uint32_t)n;
+- (instancetype)init_with_capacity:(uint32_t)n;
 
 /** Initialises an array of `length` elements, undefined at first. The capacity is the smallest seed × 2^k
     above the length. */
-- (id)init_with_length:(uint32_t)length;
+- (instancetype)init_with_length:(uint32_t)length;
 
 /** Initialises a link to `n` elements at `elements`; its capacity is 4294967295. */
-- (id)init_as_link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n;
+- (instancetype)init_as_link_to_TT_words:(TT_SLOT *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Initialises a link to an inclusive range of a vector; its capacity is 4294967295. The range is not
     checked. */
-- (id)init_as_link_to_TT_word_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range;
+- (instancetype)init_as_link_to_TT_word_vector:(ZEB_T_Vector *ZEB_NULLABLE)other range:(ZEB_Index_Range)range;
 
 /** Initialises an owner with a copy of `n` elements; the capacity is the smallest seed × 2^k above `n`. */
-- (id)init_as_copy_of_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n;
+- (instancetype)init_as_copy_of_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Initialises an owner with a copy of a vector's elements; the capacity is their count. */
-- (id)init_as_copy_of_TT_word_vector:(ZEB_T_Vector *)other;
+- (instancetype)init_as_copy_of_TT_word_vector:(ZEB_T_Vector *ZEB_NULLABLE)other;
 
 /** Returns an autoreleased copy of the receiver's class: an owner, even if the receiver is a link. For a
     subclass, only the elements and the settings of this class are copied, not the subclass's fields, and its
     own initialisers do not run. */
-- (ZEB_T_Array *)duplicate;
+- (ZEB_INSTANCE_OF(ZEB_T_Array *))duplicate;
 
 /** The number of elements that the block can hold. Setting it does not change the block. */
 - (uint32_t)capacity;
@@ -92,44 +94,46 @@ ZEB_EXPORT
 
 /** Replaces the contents with a copy of `n` elements. A link becomes an owner; what it viewed is
     unchanged. */
-- (void)set_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n;
+- (void)set_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Replaces the contents with a copy of a vector's elements, in the same way; nil counts as empty. */
-- (void)set_contents_of_array:(ZEB_T_Vector *)other;
+- (void)set_contents_of_array:(ZEB_T_Vector *ZEB_NULLABLE)other;
 
 /** Replace the storage with an owned block for `room` elements or more; see the vector's operations. */
-- (void)copy_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n capacity:(uint32_t)room;
-- (void)copy_vector:(ZEB_T_Vector *)other capacity:(uint32_t)room;
+- (void)copy_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements count:(uint32_t)n capacity:(uint32_t)room;
+- (void)copy_vector:(ZEB_T_Vector *ZEB_NULLABLE)other capacity:(uint32_t)room;
 
 /** Replaces the contents with one element. A link reports "Cannot copy element through link, no copy
     made." */
-- (void)copy_TT_word:(ZEB_T_Element)element;
+- (void)copy_TT_word:(TT_VALUE)element;
 
 /** Appends an element. A link reports "Cannot append element through link, no append made." */
-- (void)append_TT_word:(ZEB_T_Element)element;
+- (void)append_TT_word:(TT_VALUE)element;
 
 /** Append a vector's elements, or `n` elements. Appending no elements returns without a link test or report.
     A link reports "Cannot append array through link, no append made." */
-- (void)append_array:(ZEB_T_Vector *)other;
-- (void)append_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n;
+- (void)append_array:(ZEB_T_Vector *ZEB_NULLABLE)other;
+- (void)append_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Inserts an element before the one at `index`; an index past the end appends. A link reports "Cannot insert
     element through link, no insertion made." */
-- (void)insert_TT_word:(ZEB_T_Element)element at_index:(uint32_t)index;
+- (void)insert_TT_word:(TT_VALUE)element at_index:(uint32_t)index;
 
 /** Inserts a vector's elements before the one at `index`; an index past the end appends. A link reports
     "Cannot insert array through link, no insertion made." */
-- (void)insert_array:(ZEB_T_Vector *)other at_index:(uint32_t)index;
+- (void)insert_array:(ZEB_T_Vector *ZEB_NULLABLE)other at_index:(uint32_t)index;
 
 /** Replace the element at `index` with the given elements; without any it is removed. An index past the end
     changes nothing. A link reports "Cannot replace element with array through link, no replacement made." */
-- (void)replace_element_at_index:(uint32_t)index with_array:(ZEB_T_Vector *)other;
+- (void)replace_element_at_index:(uint32_t)index with_array:(ZEB_T_Vector *ZEB_NULLABLE)other;
 - (void)replace_element_at_index:(uint32_t)index
-                   with_TT_words:(ZEB_T_Element const *)elements
+                   with_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements
                            count:(uint32_t)n;
 
 /** Not implemented by any array: reports "Not implemented" through `need_to_implement` and changes
     nothing. */
-- (void)receive_from_stream:(ZEB_Stream *)stream;
+- (void)receive_from_stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -45,12 +45,12 @@ Elements elements_of(ZEB_T_Vector *vector)
     engine::ZEB_T_growth_seed = seed;
 }
 
-+ (ZEB_T_Array *)array_with_capacity:(uint32_t)n
++ (ZEB_INSTANCE_OF(ZEB_T_Array *))array_with_capacity:(uint32_t)n
 {
     return [[[self alloc] init_with_capacity:n] autorelease];
 }
 
-+ (ZEB_T_Array *)link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
++ (ZEB_INSTANCE_OF(ZEB_T_Array *))link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
 {
     return [[[self alloc] init_as_link_to_TT_words:elements count:n] autorelease];
 }
@@ -119,7 +119,7 @@ Elements elements_of(ZEB_T_Vector *vector)
     return self;
 }
 
-- (ZEB_T_Array *)duplicate
+- (ZEB_INSTANCE_OF(ZEB_T_Array *))duplicate
 {
     ZEB_T_Array *const made = [[[[self class] alloc] init_unlinked] autorelease];
     engine::take_settings(made, self);

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_T_Vector.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * The operations of the same names without "checked", of vectors, arrays and links, for indexes that may be
  * wrong: an index that is not below the count reports "Index is not below the count, no element returned." or
@@ -15,15 +17,17 @@
 
 /** Return the element at an index from the front, or from the end, where 0 is the last; 0 or nil after a
     report. */
-- (ZEB_T_Element)checked_TT_word_at_index:(uint32_t)index;
-- (ZEB_T_Element)checked_TT_word_at_index_from_end:(uint32_t)index;
+- (TT_VALUE)checked_TT_word_at_index:(uint32_t)index;
+- (TT_VALUE)checked_TT_word_at_index_from_end:(uint32_t)index;
 
 /** Return the address of an element; null after a report. */
-- (ZEB_T_Element *)checked_pointer_to_TT_word_at_index:(uint32_t)index;
-- (ZEB_T_Element *)checked_pointer_to_TT_word_at_index_from_end:(uint32_t)index;
+- (TT_SLOT *ZEB_NULLABLE)checked_pointer_to_TT_word_at_index:(uint32_t)index ZEB_INNER_POINTER;
+- (TT_SLOT *ZEB_NULLABLE)checked_pointer_to_TT_word_at_index_from_end:(uint32_t)index ZEB_INNER_POINTER;
 
 /** Store an element. */
-- (void)set_checked_TT_word:(ZEB_T_Element)element at_index:(uint32_t)index;
-- (void)set_checked_TT_word:(ZEB_T_Element)element at_index_from_end:(uint32_t)index;
+- (void)set_checked_TT_word:(TT_VALUE)element at_index:(uint32_t)index;
+- (void)set_checked_TT_word:(TT_VALUE)element at_index_from_end:(uint32_t)index;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

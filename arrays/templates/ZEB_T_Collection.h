@@ -5,6 +5,8 @@
 
 TT_FORWARD_CLASSES
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * The abstract base class of the family. Its vector class provides the elements.
  */
@@ -19,10 +21,12 @@ ZEB_EXPORT
 
 /** Returns the element at a zero-based index. Abstract: reports that it needs subclassing, and returns 0 or
     nil. */
-- (ZEB_T_Element)ZEB_T_element_at_index:(uint32_t)index;
+- (TT_VALUE)ZEB_T_element_at_index:(uint32_t)index;
 
 /** Returns a pointer to the first element; the others follow it. Abstract: reports that it needs subclassing,
     and returns null. */
-- (ZEB_T_Element *)TT_word_data;
+- (TT_SLOT *ZEB_NULLABLE)TT_word_data ZEB_INNER_POINTER;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

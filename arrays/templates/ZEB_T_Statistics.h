@@ -5,6 +5,8 @@
 
 @class ZEB_Double_Vector, ZEB_UInt_Vector;
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /** What `get_TT_word_statistics:` answers. NaN is counted and otherwise left out. */
 typedef struct ZEB_T_Statistics {
     TT_SUM sum;
@@ -37,18 +39,21 @@ typedef struct ZEB_T_Statistics {
     to 1, and no numbers, give NaN, as may neighbours that are infinite. Numbers are taken as doubles after
     they were sorted. Returns 1; or 0, with nothing changed, for nil and for counts that differ, and if
     allocation fails: that reports "Runtime error in allocate macro". */
-- (uint8_t)get_quantiles:(ZEB_Double_Vector *)quantiles at_fractions:(ZEB_Double_Vector *)fractions;
+- (uint8_t)get_quantiles:(ZEB_Double_Vector *ZEB_NULLABLE)quantiles
+            at_fractions:(ZEB_Double_Vector *ZEB_NULLABLE)fractions;
 
 /** Sets each element of `bins`, which divide the numbers from `low` to `high` among them, to how many
     elements are in that bin, and `rest`, unless it is null, to how many are in none. The bin of a number x,
-    taken as a double, is floor((x - low) * (bins / (high - low))), each operation in double; where that is the
-    number of bins, as for `high`, the last one. Returns 1; or 0, with nothing changed, for nil, without bins,
-    for bounds that are not finite, not in order, or so far apart or close together that their distance or the
-    number of bins divided by it is not finite, and if allocation fails: that reports "Runtime error in
+    taken as a double, is floor((x - low) * (bins / (high - low))), each operation in double; where that is
+   the number of bins, as for `high`, the last one. Returns 1; or 0, with nothing changed, for nil, without
+   bins, for bounds that are not finite, not in order, or so far apart or close together that their distance
+   or the number of bins divided by it is not finite, and if allocation fails: that reports "Runtime error in
     allocate macro". */
-- (uint8_t)count_in_bins:(ZEB_UInt_Vector *)bins
+- (uint8_t)count_in_bins:(ZEB_UInt_Vector *ZEB_NULLABLE)bins
                     from:(double)low
                       to:(double)high
-                    rest:(ZEB_Histogram_Rest *)rest;
+                    rest:(ZEB_Histogram_Rest *ZEB_NULLABLE)rest;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_T_Collection.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Holds `count` contiguous elements. Indexes are zero-based and not checked.
  *
@@ -17,7 +19,7 @@ ZEB_EXPORT
 @interface ZEB_T_Vector : ZEB_T_Collection <NSCopying> {
     ZEB_PROTECTED
     uint32_t count;
-    ZEB_T_Element TT_DATA;
+    TT_SLOT *ZEB_NULLABLE data;
     TT_VECTOR_FIELDS
 }
 
@@ -29,50 +31,50 @@ ZEB_EXPORT
 + (void)set_default_length:(uint32_t)length;
 
 /** Returns an autoreleased link to `n` elements at `elements`. */
-+ (ZEB_T_Vector *)link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n;
++ (ZEB_INSTANCE_OF(ZEB_T_Vector *))link_to_TT_words:(TT_SLOT *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Initialises a vector of the default length with undefined elements. */
-- (id)init;
+- (instancetype)init;
 
 /** Initialises an empty vector without a block. */
-- (id)init_unlinked;
+- (instancetype)init_unlinked;
 
 /** Initialises an empty vector with a block for `capacity` elements; no block for 0. */
-- (id)init_with_capacity:(uint32_t)capacity;
+- (instancetype)init_with_capacity:(uint32_t)capacity;
 
 /** Initialises a vector of `length` elements, undefined at first. */
-- (id)init_with_length:(uint32_t)length;
+- (instancetype)init_with_length:(uint32_t)length;
 
 /** Initialises a link to `n` elements at `elements`, with link marker 10000. Nothing is copied. */
-- (id)init_as_link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n;
+- (instancetype)init_as_link_to_TT_words:(TT_SLOT *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Initialises a link to an inclusive range of another vector; an empty one for nil. The range is not
     checked. */
-- (id)init_as_link_to_TT_word_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range;
+- (instancetype)init_as_link_to_TT_word_vector:(ZEB_T_Vector *ZEB_NULLABLE)other range:(ZEB_Index_Range)range;
 
 /** Initialises an owner with a copy of `n` elements. */
-- (id)init_as_copy_of_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n;
+- (instancetype)init_as_copy_of_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Initialises an owner with a copy of another vector's elements; the other may be a link. */
-- (id)init_as_copy_of_TT_word_vector:(ZEB_T_Vector *)other;
+- (instancetype)init_as_copy_of_TT_word_vector:(ZEB_T_Vector *ZEB_NULLABLE)other;
 
 /** Returns a copy of the receiver's class, an owner, owned by the caller. */
-- (id)copyWithZone:(NSZone *)zone;
+- (id)copyWithZone:(NSZone *ZEB_NULLABLE)zone;
 
 /** Views `n` elements at `elements`. Neither frees the block of an owner nor sets the link marker: for
     vectors that are links already. */
-- (void)relink_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n;
+- (void)relink_to_TT_words:(TT_SLOT *ZEB_NULLABLE)elements count:(uint32_t)n;
 
 /** Views an inclusive range of another vector, under the same conditions. The range is not checked. */
-- (void)relink_to_vector:(ZEB_T_Vector *)other range:(ZEB_Index_Range)range;
+- (void)relink_to_vector:(ZEB_T_Vector *ZEB_NULLABLE)other range:(ZEB_Index_Range)range;
 
 /** Replaces the storage with a new owned block for `capacity` elements, at least `n`, that begins with a copy
     of `n` elements. An owner's old block is freed; a link becomes an owner. If allocation fails nothing
     changes. */
-- (void)copy_TT_words:(ZEB_T_Element const *)elements count:(uint32_t)n capacity:(uint32_t)capacity;
+- (void)copy_TT_words:(TT_SLOT const *ZEB_NULLABLE)elements count:(uint32_t)n capacity:(uint32_t)capacity;
 
 /** The same with the elements of another vector. */
-- (void)copy_vector:(ZEB_T_Vector *)other capacity:(uint32_t)capacity;
+- (void)copy_vector:(ZEB_T_Vector *ZEB_NULLABLE)other capacity:(uint32_t)capacity;
 
 /** Returns the number of elements. */
 - (uint32_t)count;
@@ -95,38 +97,40 @@ ZEB_EXPORT
 - (void)decrement_count;
 
 /** Returns a pointer to the first element; the others follow it. Null if there is no block. */
-- (ZEB_T_Element *)TT_word_data;
+- (TT_SLOT *ZEB_NULLABLE)TT_word_data ZEB_INNER_POINTER;
 
 /** Sets the pointer to the first element and nothing else: the old block is not freed. Objects in the new
     storage belong to the caller, until the array creates strings or byte arrays of its own there by growing
     or appending; it then takes over those below the count. */
-- (void)set_TT_word_data:(ZEB_T_Element *)elements;
+- (void)set_TT_word_data:(TT_SLOT *ZEB_NULLABLE)elements;
 
 /** Return the element at an index. */
-- (ZEB_T_Element)TT_word_at_index:(uint32_t)index;
-- (ZEB_T_Element)ZEB_T_element_at_index:(uint32_t)index;
+- (TT_VALUE)TT_word_at_index:(uint32_t)index;
+- (TT_VALUE)ZEB_T_element_at_index:(uint32_t)index;
 
 /** Stores an element at an index, also through a link. */
-- (void)set_TT_word:(ZEB_T_Element)element at_index:(uint32_t)index;
+- (void)set_TT_word:(TT_VALUE)element at_index:(uint32_t)index;
 
 /** The element at an index counted from the end: 0 is the last. */
-- (ZEB_T_Element)TT_word_at_index_from_end:(uint32_t)index;
-- (void)set_TT_word:(ZEB_T_Element)element at_index_from_end:(uint32_t)index;
+- (TT_VALUE)TT_word_at_index_from_end:(uint32_t)index;
+- (void)set_TT_word:(TT_VALUE)element at_index_from_end:(uint32_t)index;
 
 /** Return the first or the last element; 0 or nil for an empty vector. */
-- (ZEB_T_Element)first_TT_word;
-- (ZEB_T_Element)last_TT_word;
+- (TT_VALUE)first_TT_word;
+- (TT_VALUE)last_TT_word;
 
 /** Return the address of an element, by its index from the front or from the end. */
-- (ZEB_T_Element *)pointer_to_TT_word_at_index:(uint32_t)index;
-- (ZEB_T_Element *)pointer_to_TT_word_at_index_from_end:(uint32_t)index;
+- (TT_SLOT *ZEB_NONNULL)pointer_to_TT_word_at_index:(uint32_t)index ZEB_INNER_POINTER;
+- (TT_SLOT *ZEB_NONNULL)pointer_to_TT_word_at_index_from_end:(uint32_t)index ZEB_INNER_POINTER;
 
 /** Writes the element at an index with the stream's writer for its type. */
-- (void)send_element_to_stream:(uint32_t)index stream:(ZEB_Stream *)stream;
+- (void)send_element_to_stream:(uint32_t)index stream:(ZEB_Stream *ZEB_NULLABLE)stream;
 
 /** Implemented by the growable array only: here each reports "Need to implement" and changes nothing. */
 - (void)set_length:(uint32_t)length;
 - (void)ensure_room_for:(uint32_t)n;
-- (void)append_array:(ZEB_T_Vector *)other;
+- (void)append_array:(ZEB_T_Vector *ZEB_NULLABLE)other;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

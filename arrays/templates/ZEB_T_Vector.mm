@@ -43,7 +43,7 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
     default_length = length;
 }
 
-+ (ZEB_T_Vector *)link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
++ (ZEB_INSTANCE_OF(ZEB_T_Vector *))link_to_TT_words:(ZEB_T_Element *)elements count:(uint32_t)n
 {
     return [[[self alloc] init_as_link_to_TT_words:elements count:n] autorelease];
 }

@@ -10,17 +10,17 @@ using engine::storage_of_array;
 
 @implementation ZEB_T_Array (Making)
 
-+ (ZEB_T_Array *)string_with_c_string:(const char *)text
++ (ZEB_INSTANCE_OF(ZEB_T_Array *))string_with_c_string:(const char *)text
 {
     return [[[self alloc] init_with_c_string:text] autorelease];
 }
 
-+ (ZEB_T_Array *)string_with_NSString:(NSString *)text
++ (ZEB_INSTANCE_OF(ZEB_T_Array *))string_with_NSString:(NSString *)text
 {
     return [[[self alloc] init_with_NSString:text] autorelease];
 }
 
-+ (ZEB_T_Array *)string_with_format:(const char *)format, ...
++ (ZEB_INSTANCE_OF(ZEB_T_Array *))string_with_format:(const char *)format, ...
 {
     ZEB_T_Array *const made = [[[self alloc] init] autorelease];
     if (made == nil)

@@ -4,6 +4,8 @@
 #import <Korvane_ZEB/ZEB_Arrow_Structs.h>
 #import <Korvane_ZEB/ZEB_Object.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Owns an array, or shows a column of a table that it keeps alive. What it received is released when the
  * object and all columns taken from it are deallocated; so is what `link_to_doubles` and its like show.
@@ -15,7 +17,7 @@ ZEB_EXPORT
     ZEB_PROTECTED
     struct ArrowArray array;
     struct ArrowSchema schema;
-    ZEB_Arrow_Array *table;
+    ZEB_UNRETAINED ZEB_Arrow_Array *ZEB_NULLABLE table;
     uint64_t start;
     uint64_t count;
 }
@@ -23,10 +25,12 @@ ZEB_EXPORT
 /** Initialises with an array and its schema, and takes both over: they are left as released, with a null
     `release`. Returns nil, with both structs as they are, for null, for structs that were released, and where
     their counts make no sense. */
-- (id)init_with_arrow_array:(struct ArrowArray *)array schema:(struct ArrowSchema *)schema;
+- (instancetype ZEB_NULLABLE)init_with_arrow_array:(struct ArrowArray *ZEB_NULLABLE)given_array
+                                            schema:(struct ArrowSchema *ZEB_NULLABLE)given_schema;
 
 /** The same, autoreleased. */
-+ (id)arrow_array_with:(struct ArrowArray *)array schema:(struct ArrowSchema *)schema;
++ (ZEB_INSTANCE_OF(ZEB_Arrow_Array *) ZEB_NULLABLE)arrow_array_with:(struct ArrowArray *ZEB_NULLABLE)given_array
+                                                             schema:(struct ArrowSchema *ZEB_NULLABLE)given_schema;
 
 /** Returns the number of elements, or of a table's rows. */
 - (uint64_t)count;
@@ -36,8 +40,8 @@ ZEB_EXPORT
 
 /** Returns the text of the elements' type, as the interface has it, and the name; "" if there is none. Both
     live as long as the receiver. */
-- (const char *)format;
-- (const char *)name;
+- (const char *)format ZEB_INNER_POINTER;
+- (const char *)name ZEB_INNER_POINTER;
 
 /** Returns the number of a table's columns; 0 for an array of elements. */
 - (uint32_t)column_count;
@@ -45,6 +49,8 @@ ZEB_EXPORT
 /** Returns a column of a table, autoreleased, which keeps the table; nil for an index that is not below
     their number, where the table has rows that are null, and for a column that has fewer elements than the
     table rows. */
-- (ZEB_Arrow_Array *)column_at_index:(uint32_t)index;
+- (ZEB_Arrow_Array *ZEB_NULLABLE)column_at_index:(uint32_t)index;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

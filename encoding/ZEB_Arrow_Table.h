@@ -6,6 +6,7 @@
 #import <Korvane_ZEB/ZEB_String_Vector.h>
 
 ZEB_EXTERN_C_BEGIN
+ZEB_ASSUME_NONNULL_BEGIN
 
 /**
  * Sets both structs to a table of columns, which are vectors, arrays or links of numbers: of bytes, of 32-
@@ -18,7 +19,10 @@ ZEB_EXTERN_C_BEGIN
  * another, for columns of different counts or of another kind, for a name with a null inside, and if
  * allocation fails.
  */
-ZEB_EXPORT uint8_t ZC_export_arrow_table(ZEB_Object_Vector *columns, ZEB_String_Vector *names,
-                                         struct ArrowArray *array, struct ArrowSchema *schema);
+ZEB_EXPORT uint8_t ZC_export_arrow_table(ZEB_Object_Vector *ZEB_NULLABLE columns,
+                                         ZEB_String_Vector *ZEB_NULLABLE names,
+                                         struct ArrowArray *ZEB_NULLABLE array,
+                                         struct ArrowSchema *ZEB_NULLABLE schema);
 
+ZEB_ASSUME_NONNULL_END
 ZEB_EXTERN_C_END

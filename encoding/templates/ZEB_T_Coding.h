@@ -24,8 +24,9 @@
 /** Whether an archive of such elements names no class but their array's. */
 + (BOOL)supportsSecureCoding;
 
-/** Writes the elements. What could not be archived is refused when it is read. An exception that an element's
-    own coding raises passes through. */
+/** Writes the elements. What could not be archived is refused when it is read; it is reported twice where the
+    archiver goes through its objects twice, as GNUstep's NSArchiver does. An exception that an element's own
+    coding raises passes through. */
 - (void)encodeWithCoder:(NSCoder *)coder;
 
 /** Initialises an owner with archived elements. Returns nil, the receiver being released, after one line of

@@ -48,10 +48,4 @@ bool Number_Reader::read(id object, Any_Number &number)
     }
 }
 
-void release_numbers(NSNumber **numbers, uint32_t count)
-{
-    for (uint32_t i = 0; i < count; ++i)
-        [numbers[i] release];
-}
-
 } // namespace zeb::engine

@@ -5,7 +5,7 @@
 
 @interface ZEB_T_Vector (NSArray_Conversion)
 
-/** Returns an autoreleased array of NSNumbers with the type and the value of the elements, NaN and infinities
+/** Returns an autoreleased array of NSNumbers with exactly the values of the elements, NaN and infinities
     included; nil, after "Runtime error in allocate macro", if the platform cannot make it. */
 - (NSArray *)NSArray_value;
 

@@ -1,5 +1,7 @@
 #import "encoding/ZEB_Archived_Records_Private.h"
 
+#import <objc/runtime.h>
+
 #include "core/engine/platform_call.hpp"
 
 #include <algorithm>
@@ -20,7 +22,12 @@ constexpr int64_t no_objects = -1;
 NSString *key_of_object(uint32_t index) { return [NSString stringWithFormat:@"ZEB_object_%u", index]; }
 
 /// The platform would archive an object of any class, and drop its state without a word.
-bool can_be_archived(id object) { return object == nil || [object conformsToProtocol:@protocol(NSCoding)]; }
+bool can_be_archived(id object)
+{
+    // By its name: on gcc's runtime nothing conforms to a protocol as clang names it.
+    Protocol *const coding = objc_getProtocol("NSCoding");
+    return object == nil || [object conformsToProtocol:coding];
+}
 
 void archive_object(NSCoder *coder, uint32_t index, id object)
 {

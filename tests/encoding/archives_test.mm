@@ -2,6 +2,7 @@
 #include "tests/support/archives.hpp"
 #include "tests/support/class_test.hpp"
 #include "tests/support/samples.hpp"
+#include "tests/support/sanitizer.hpp"
 
 #include "core/engine/namespace.hpp"
 #include "core/engine/platform_call.hpp"
@@ -285,6 +286,7 @@ TEST(Archives, that_are_cut_in_order_never_give_another_object)
         EXPECT_TRUE([unarchived(data, false) isEqual:whole] ||
                     [whole isKindOfClass:[ZEB_Object_Array class]]);
         for (NSUInteger length = 0; length < [data length]; length += step) {
+            const Leaks_Unwatched unwatched;
             id back = nil;
             standard_error_of([&] {
                 engine::runs_through(

@@ -176,8 +176,13 @@ ZEB_EXPORT
 
 /** Archiving dates: 32-bit integers, under keys if the coder supports them. An unarchived object has the
     fields and the day number of the original (second and nanosecond truncated to 32 bits); if the archive
-    holds only the five values of `encode:`, the day number is computed from them. */
-@interface ZEB_Date (Coding) <NSCoding>
+    holds only the five values of `encode:`, the day number is computed from them. An archive that ends before
+    it does, or has another kind of value in the place of one, reports "Archive lacks a value or has another
+    kind of value in its place, no object made.": no object comes back, and `decode:` changes nothing. */
+@interface ZEB_Date (Coding) <NSSecureCoding>
+
+/** Answers YES: an archived date holds integers alone. */
++ (BOOL)supportsSecureCoding;
 
 /** Writes nanosecond, second (both truncated to 32 bits), day, month and year. */
 - (void)encode:(NSCoder *ZEB_NULLABLE)coder;

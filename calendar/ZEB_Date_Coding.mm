@@ -1,8 +1,11 @@
 #import "calendar/ZEB_Date_Private.h"
+#import "core/ZEB_Report_Private.h"
+
+#include "core/engine/archive_notes.hpp"
+#include "core/engine/namespace.hpp"
+#include "core/engine/platform_call.hpp"
 
 #include <array>
-
-#include "core/engine/namespace.hpp"
 
 namespace
 {
@@ -76,9 +79,28 @@ void read_day_number(NSCoder *coder, int32_t &julian_day)
         [coder decodeValueOfObjCType:@encode(int32_t) at:&julian_day];
 }
 
+/// Reads by `read`; false, after a report and with the date unchanged, where the platform throws: the archive
+/// has another kind of value in the place of one, or ends before it.
+template <class Read>
+bool changes(ZEB_Date *date, SEL operation, Read read)
+{
+    engine::Date_Time value = engine::value_of(date);
+    const bool is_through = engine::runs_through([&] { read(value); });
+    if (is_through)
+        engine::set_value(date, value);
+    else
+        engine::Fix_Report{date, operation}(engine::notes::archive_incomplete);
+    return is_through;
+}
+
 } // namespace
 
 @implementation ZEB_Date (Coding)
+
++ (BOOL)supportsSecureCoding
+{
+    return YES;
+}
 
 - (void)encode:(NSCoder *)coder
 {
@@ -91,9 +113,10 @@ void read_day_number(NSCoder *coder, int32_t &julian_day)
 
 - (void)decode:(NSCoder *)coder
 {
-    engine::Date_Time value = read_date(self, coder);
-    engine::update_date(value);
-    engine::set_value(self, value);
+    changes(self, _cmd, [=](engine::Date_Time &value) {
+        value = read_date(self, coder);
+        engine::update_date(value);
+    });
 }
 
 - (void)encodeWithCoder:(NSCoder *)coder
@@ -105,12 +128,14 @@ void read_day_number(NSCoder *coder, int32_t &julian_day)
 - (id)initWithCoder:(NSCoder *)coder
 {
     self = [self init];
-    if (self == nil)
-        return nil;
-    engine::Date_Time value = read_date(self, coder);
-    read_day_number(coder, value.julian_day);
-    engine::set_value(self, value);
-    return self;
+    const auto read = [=](engine::Date_Time &value) {
+        value = read_date(self, coder);
+        read_day_number(coder, value.julian_day);
+    };
+    if (self == nil || changes(self, _cmd, read))
+        return self;
+    [self release];
+    return nil;
 }
 
 @end

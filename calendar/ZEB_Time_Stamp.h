@@ -13,7 +13,7 @@ ZEB_ASSUME_NONNULL_BEGIN
  * Different objects may be used on different threads; ZEB_Object.h says what may not.
  */
 ZEB_EXPORT
-@interface ZEB_Time_Stamp : ZEB_Object <NSCopying, NSCoding> {
+@interface ZEB_Time_Stamp : ZEB_Object <NSCopying, NSSecureCoding> {
     ZEB_PROTECTED
     ZEB_Time_Value time;
 }
@@ -30,7 +30,10 @@ ZEB_EXPORT
 /** Returns a stamp of the same instant. */
 - (id)copyWithZone:(NSZone *ZEB_NULLABLE)zone;
 
-/** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. */
+/** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. An archive that
+    ends before they do, or has another kind of value in the place of one, reports "Archive lacks a value or has
+    another kind of value in its place, no object made.", and no object comes back. */
++ (BOOL)supportsSecureCoding;
 - (void)encodeWithCoder:(NSCoder *)coder;
 - (instancetype)initWithCoder:(NSCoder *)coder;
 

@@ -3,12 +3,15 @@
 #import <Korvane_ZEB/ZEB_Stream.h>
 
 #import "core/ZEB_Description_Stream_Private.h"
+#import "core/ZEB_Report_Private.h"
 
 #include "calendar/engine/date_text.hpp"
 #include "calendar/engine/date_time.hpp"
 #include "calendar/engine/local_time.hpp"
+#include "core/engine/archive_notes.hpp"
 #include "core/engine/namespace.hpp"
 #include "core/engine/notice.hpp"
+#include "core/engine/platform_call.hpp"
 
 namespace
 {
@@ -68,6 +71,11 @@ ZEB_Time_Value read_time(NSCoder *coder)
     return [[[self class] allocWithZone:zone] init_with_time:time.second nanosecond:time.nanosecond];
 }
 
++ (BOOL)supportsSecureCoding
+{
+    return YES;
+}
+
 - (void)encodeWithCoder:(NSCoder *)coder
 {
     write_time(coder, time.second, time.nanosecond);
@@ -75,8 +83,12 @@ ZEB_Time_Value read_time(NSCoder *coder)
 
 - (id)initWithCoder:(NSCoder *)coder
 {
-    const ZEB_Time_Value archived = read_time(coder);
-    return [self init_with_time:archived.second nanosecond:archived.nanosecond];
+    ZEB_Time_Value archived{0, 0};
+    if (engine::runs_through([&] { archived = read_time(coder); }))
+        return [self init_with_time:archived.second nanosecond:archived.nanosecond];
+    engine::Fix_Report{self, _cmd}(engine::notes::archive_incomplete);
+    [self release];
+    return nil;
 }
 
 - (BOOL)isEqual:(id)other

@@ -15,6 +15,8 @@ ZEB_ASSUME_NONNULL_BEGIN
  * set, failures on the shared error stream. A report is one line of fixed text and the path; it does not
  * depend on `verbose` and is not counted. In all cases `last_error` stores the cause. Nothing throws.
  *
+ * An entry is not archived, its status being of one machine and moment: archive its path.
+ *
  * Different entries may be used on different threads while they report nothing (ZEB_Object.h): the streams
  * are shared. There is no locking, also not of files.
  */

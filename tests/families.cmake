@@ -1,6 +1,6 @@
 # The tests that every family of arrays is put through, and every one of numbers.
 zeb_class_templates(
-  NUMBER_TESTS tests/arrays/templates/ZEB_T_Numbers_test.mm
+  NUMBER_TESTS tests/arrays/templates/ZEB_T_Bridge_test.mm tests/arrays/templates/ZEB_T_Numbers_test.mm
   TESTS
     tests/arrays/templates/ZEB_T_Differential_test.mm
     tests/arrays/templates/ZEB_T_Samples.hpp

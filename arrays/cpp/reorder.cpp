@@ -11,10 +11,7 @@ namespace zeb::detail
 template <Element Type>
 void reverse(std::span<Type> values) noexcept
 {
-    engine::reverse(values);
-    // The engine's own keeps the order of the pair in the middle.
-    if (const std::size_t middle = values.size() / 2; values.size() % 2 == 0 && middle != 0)
-        std::swap(values[middle - 1], values[middle]);
+    engine::reverse_elements(values);
 }
 
 template <Element Type>

@@ -3,6 +3,7 @@
 
 #import <Korvane_ZEB/ZEB_Stream.h>
 
+#include "arrays/engine/storage/index_checks.hpp"
 #include "arrays/engine/storage/lifetime.hpp"
 #include "arrays/engine/storage/resizing.hpp"
 #include "core/engine/namespace.hpp"
@@ -22,6 +23,14 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
         return engine::view(storage_of_vector(link), static_cast<ZEB_T_Element const *>(nullptr), 0);
     engine::take_settings(link, other);
     engine::view_range(storage_of_vector(link), [other TT_word_data], range);
+}
+
+/// The number of slots that may be stored in, where indexes are checked.
+uint32_t slots_of(ZEB_T_Vector *vector)
+{
+    if (!engine::indexes_are_checked || ![vector isKindOfClass:[ZEB_T_Array class]])
+        return vector->count;
+    return engine::slots_of(engine::storage_of_array(static_cast<ZEB_T_Array *>(vector)));
 }
 
 } // namespace
@@ -205,27 +214,30 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 - (ZEB_T_Element)TT_word_at_index:(uint32_t)index
 {
-    return data[index];
+    return engine::element_at(storage_of_vector(self), index, engine::Fix_Report{self, _cmd});
 }
 
 - (ZEB_T_Element)ZEB_T_element_at_index:(uint32_t)index
 {
-    return data[index];
+    return engine::element_at(storage_of_vector(self), index, engine::Fix_Report{self, _cmd});
 }
 
 - (void)set_TT_word:(ZEB_T_Element)element at_index:(uint32_t)index
 {
-    storage_of_vector(self).kind.assign(data + index, &element, 1);
+    engine::set_element_at(storage_of_vector(self), slots_of(self), index, element,
+                           engine::Fix_Report{self, _cmd});
 }
 
 - (ZEB_T_Element)TT_word_at_index_from_end:(uint32_t)index
 {
-    return data[count - 1 - index];
+    return engine::element_at(storage_of_vector(self), engine::index_from_front(count, index),
+                              engine::Fix_Report{self, _cmd});
 }
 
 - (void)set_TT_word:(ZEB_T_Element)element at_index_from_end:(uint32_t)index
 {
-    storage_of_vector(self).kind.assign(data + (count - 1 - index), &element, 1);
+    engine::set_element_at(storage_of_vector(self), count, engine::index_from_front(count, index), element,
+                           engine::Fix_Report{self, _cmd});
 }
 
 - (ZEB_T_Element)first_TT_word
@@ -240,17 +252,19 @@ void view_range(ZEB_T_Vector *link, ZEB_T_Vector *other, ZEB_Index_Range range)
 
 - (ZEB_T_Element *)pointer_to_TT_word_at_index:(uint32_t)index
 {
-    return data + index;
+    return engine::slot_at(storage_of_vector(self), slots_of(self), index, engine::Fix_Report{self, _cmd});
 }
 
 - (ZEB_T_Element *)pointer_to_TT_word_at_index_from_end:(uint32_t)index
 {
-    return data + (count - 1 - index);
+    return engine::slot_at(storage_of_vector(self), count, engine::index_from_front(count, index),
+                           engine::Fix_Report{self, _cmd});
 }
 
 - (void)send_element_to_stream:(uint32_t)index stream:(ZEB_Stream *)stream
 {
-    ZEB_T_Element const element = data[index];
+    ZEB_T_Element const element =
+        engine::element_at(storage_of_vector(self), index, engine::Fix_Report{self, _cmd});
     TT_WRITE_ELEMENT;
 }
 

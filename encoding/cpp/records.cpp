@@ -69,9 +69,11 @@ bool append_header(Array<std::uint8_t> &buffer) noexcept
 std::optional<Records> read_header(Bytes file) noexcept
 {
     constexpr std::uint32_t size = engine::binary_header_size;
-    if (file.size() < size || !engine::is_binary_header(characters_of(file), size))
+    const engine::Header_Origin origin = engine::header_origin(
+        characters_of(file), static_cast<std::uint32_t>(std::min<std::size_t>(file.size(), size)));
+    if (origin == engine::Header_Origin::foreign)
         return std::nullopt;
-    return Records{file.subspan(size), engine::binary_header_needs_swap(characters_of(file), size)};
+    return Records{file.subspan(size), origin == engine::Header_Origin::other_byte_order};
 }
 
 template <Element Type>

@@ -28,18 +28,20 @@ void write_binary_header(char *buffer) noexcept
     std::memcpy(buffer + header_text_size + sizeof header_words, plain_header_tail, header_tail_size);
 }
 
-bool is_binary_header(const char *buffer, std::uint32_t length) noexcept
+Header_Origin header_origin(const char *buffer, std::uint32_t length) noexcept
 {
-    return length >= binary_header_size && std::memcmp(buffer, header_text, header_text_size) == 0 &&
-           (binary_header_needs_swap(buffer, length) ||
-            read_count(buffer + header_text_size, false) == byte_order_marker);
+    if (length < binary_header_size || std::memcmp(buffer, header_text, header_text_size) != 0)
+        return Header_Origin::foreign;
+    const char *const marker = buffer + header_text_size;
+    if (read_count(marker, false) == byte_order_marker)
+        return Header_Origin::this_byte_order;
+    return read_count(marker, true) == byte_order_marker ? Header_Origin::other_byte_order
+                                                         : Header_Origin::foreign;
 }
 
 bool binary_header_needs_swap(const char *buffer, std::uint32_t length) noexcept
 {
-    if (length < binary_header_size || std::memcmp(buffer, header_text, header_text_size) != 0)
-        return false;
-    return read_count(buffer + header_text_size, true) == byte_order_marker;
+    return header_origin(buffer, length) == Header_Origin::other_byte_order;
 }
 
 } // namespace zeb::engine

@@ -16,8 +16,12 @@ inline constexpr char checked_header_tail[] = "CRC1";
 /// Writes the header into the first 64 bytes at `buffer`, in this machine's byte order.
 void write_binary_header(char *buffer) noexcept;
 
-/// Whether the bytes begin with a header, of either byte order.
-bool is_binary_header(const char *buffer, std::uint32_t length) noexcept;
+/// Whose header a buffer begins with.
+enum class Header_Origin { foreign, this_byte_order, other_byte_order };
+
+/// Tells a header by its text and its byte-order marker; any other text, and fewer than 64 bytes, are
+/// foreign.
+Header_Origin header_origin(const char *buffer, std::uint32_t length) noexcept;
 
 /// Whether the records after a header were written on a machine of the other byte order. Only the header text
 /// and the byte-order marker are read; false for fewer than 64 bytes and for any other text.

@@ -1,4 +1,5 @@
 #include "tests/calendar/dates.hpp"
+#include "tests/support/archives.hpp"
 
 #include <chrono>
 #include <cmath>
@@ -16,25 +17,6 @@ namespace
 std::string shown(ZEB_Date *date) { return slash_text(date) + " day " + std::to_string([date julian_day]); }
 
 ZEB_Date *never_set() { return [[[ZEB_Date alloc] init] autorelease]; }
-
-/// An archive of what `encode` writes, without an object around it.
-NSKeyedUnarchiver *archive_of(const std::function<void(NSCoder *)> &encode)
-{
-    NSMutableData *const data = [NSMutableData data];
-    NSKeyedArchiver *const archiver = [[NSKeyedArchiver alloc] initForWritingWithMutableData:data];
-    encode(archiver);
-    [archiver finishEncoding];
-    [archiver release];
-    return [[[NSKeyedUnarchiver alloc] initForReadingWithData:data] autorelease];
-}
-
-/// Comes back from both kinds of archive as itself.
-id archived(id object, bool keyed)
-{
-    return keyed ? [NSKeyedUnarchiver
-                       unarchiveObjectWithData:[NSKeyedArchiver archivedDataWithRootObject:object]]
-                 : [NSUnarchiver unarchiveObjectWithData:[NSArchiver archivedDataWithRootObject:object]];
-}
 
 } // namespace
 

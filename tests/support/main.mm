@@ -12,10 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/lsan_interface.h>
-#endif
-
 namespace
 {
 
@@ -30,17 +26,12 @@ class Pool_Around_Each_Test : public testing::EmptyTestEventListener
 /// Lets Foundation make what it keeps for the life of the process, before leaks are looked for.
 void warm_up_foundation()
 {
-#if defined(__SANITIZE_ADDRESS__)
-    __lsan_disable();
-#endif
+    const support::Leaks_Unwatched unwatched;
     NSAutoreleasePool *const pool = [[NSAutoreleasePool alloc] init];
     [NSUserDefaults standardUserDefaults];
     [NSBundle mainBundle];
     [NSString stringWithFormat:@"%@ %d %g", @"warm", 1, 1.0];
     [pool drain];
-#if defined(__SANITIZE_ADDRESS__)
-    __lsan_enable();
-#endif
 }
 
 /// Gives up root's rights for those of the user whose number the environment has.

@@ -35,19 +35,27 @@ void move_element(std::span<Element> elements, std::uint32_t from, std::uint32_t
     data[to] = moved;
 }
 
+/// Reverses the order.
+template <class Element>
+void reverse_elements(std::span<Element> elements) noexcept
+{
+    if (elements.size() < 2)
+        return;
+    if constexpr (has_lane<Element>)
+        kernels::stores<Bits_Lane<Element>>().reverse(lanes_of<Bits_Lane<Element>>(elements.data()),
+                                                      elements.size());
+    else
+        std::reverse(elements.begin(), elements.end());
+}
+
 /// Reverses the order, except that an even count keeps the order of its middle pair: a, b, c, d becomes
 /// d, b, c, a.
 template <class Element>
 void reverse(std::span<Element> elements) noexcept
 {
     const std::size_t count = elements.size();
-    if (count < 2)
-        return;
-    if constexpr (has_lane<Element>)
-        kernels::stores<Bits_Lane<Element>>().reverse(lanes_of<Bits_Lane<Element>>(elements.data()), count);
-    else
-        std::reverse(elements.begin(), elements.end());
-    if (count % 2 == 0)
+    reverse_elements(elements);
+    if (count >= 2 && count % 2 == 0)
         std::swap(elements[count / 2 - 1], elements[count / 2]);
 }
 

@@ -330,6 +330,12 @@ TEST(ZEB_T_Differential, what_needs_no_memory)
          (p.checked(p.in.to), p.in.to < p.count));
     HOLD(vectors, anything, [o.vector checked_pointer_to_TT_word_at_index_from_end:o.in.to] != nullptr,
          (p.checked(p.from_end(p.in.to)), p.in.to < p.count));
+#if ZEB_CHECK_INDEXES
+    HOLD(vectors, anything, number_of([o.vector TT_word_at_index:o.in.to]), p.checked(p.in.to));
+    HOLD(vectors, anything, number_of([o.vector ZEB_T_element_at_index:o.in.to]), p.checked(p.in.to));
+    HOLD(vectors, anything, number_of([o.vector TT_word_at_index_from_end:o.in.to]),
+         p.checked(p.from_end(p.in.to)));
+#endif
     HOLD(vectors, an_element, number_of([o.vector first_TT_word]), p.all[0]);
     HOLD(vectors, an_element, number_of([o.vector last_TT_word]), p.all.back());
     HOLD(vectors, anything, [o.vector is_not_empty], p.count != 0);
@@ -401,6 +407,10 @@ TEST(ZEB_T_Differential, what_takes_new_contents)
          p.set_checked(p.in.to));
     HOLD(vectors, anything, [o.vector set_checked_TT_word:o.give(o.key) at_index_from_end:o.in.to],
          p.set_checked(p.from_end(p.in.to)));
+#if ZEB_CHECK_INDEXES
+    HOLD(vectors, anything, [o.vector set_TT_word:o.give(o.key) at_index_from_end:o.in.to],
+         p.set_checked(p.from_end(p.in.to)));
+#endif
     HOLD(vectors, anything, [o.vector fill_with_TT_word:o.give(o.key)], p.fill(0, UINT32_MAX));
     HOLD(vectors, anything, [o.vector fill_range:o.range with_TT_word:o.give(o.key)],
          p.fill(p.in.from, p.in.to));
@@ -432,6 +442,7 @@ TEST(ZEB_T_Differential, what_rearranges_elements)
     HOLD(vectors, anything, [o.vector move_element_from_index:o.in.from to_index:o.in.to],
          p.both_inside() ? reference::move(p.all, p.in.from, p.in.to) : void());
     HOLD(vectors, anything, [o.vector reverse], reference::reverse(p.all));
+    HOLD(vectors, anything, [o.vector reverse_elements], std::ranges::reverse(p.all));
     HOLD(vectors, a_shape, [o.vector transpose_rows:o.in.from columns:o.in.to],
          reference::transpose(p.all, p.in.from, p.in.to));
     HOLD(vectors, a_permutation, [o.vector apply_permutation:o.indexes], p.permute(false));

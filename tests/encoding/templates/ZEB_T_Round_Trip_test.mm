@@ -1,5 +1,6 @@
-/// The records of TT_PHRASE, there and back, in both byte orders, cut short, and through a link.
+/// The records and archives of TT_PHRASE, there and back, in both byte orders, cut short, and through a link.
 #include "tests/arrays/ZEB_T_Samples.hpp"
+#include "tests/support/archives.hpp"
 #include "tests/support/class_test.hpp"
 #include "tests/support/exchange.hpp"
 
@@ -15,6 +16,16 @@ ZEB_String *swapped(ZEB_String *record)
     for (uint32_t at = 4; at < [made count]; at += sizeof(Element))
         std::reverse(data + at, data + at + sizeof(Element));
     return made;
+}
+
+/// Whether an element came back from an archive; references come back as other objects.
+template <class Any>
+bool come_alike(Any back, Any sent)
+{
+    if constexpr (std::is_same_v<Any, id>)
+        return back == sent || [back isEqual:sent];
+    else
+        return are_identical(back, sent);
 }
 
 } // namespace
@@ -70,4 +81,41 @@ TEST(ZEB_T_Round_Trip, comes_back_the_same_or_not_at_all)
     [array_of({}) ZEB_encode_binary_contents:nothing];
     EXPECT_EQ(decode(back, nothing, 0), 4u);
     EXPECT_EQ([back count], 0u);
+}
+
+TEST(ZEB_T_Round_Trip, comes_back_from_archives_as_an_owner)
+{
+    constexpr bool is_address = std::is_same_v<Element, void *>, is_reference = std::is_same_v<Element, id>;
+    Numbers all(samples().size());
+    for (uint32_t i = 0; i < all.size(); ++i)
+        all[i] = i;
+    ZEB_T_Vector *const array = array_of(all), *const none = array_of({});
+    ZEB_T_Vector *const vector = [[[ZEB_T_Vector alloc] init_as_copy_of_TT_word_vector:array] autorelease];
+    ZEB_T_Vector *const link =
+        [[[ZEB_T_Array alloc] init_as_link_to_TT_word_vector:array range:ZEB_Index_Range{1, 4}] autorelease];
+    EXPECT_TRUE([ZEB_T_Array supportsSecureCoding] || is_reference);
+    for (const bool keyed : {false, true})
+        for (ZEB_T_Vector *const each : {array, vector, link, none}) {
+            ZEB_T_Array *back = nil;
+            const std::string lines = standard_error_of([&] { back = archived(each, keyed); });
+            const char *const named = object_getClassName(each);
+            const std::string not_archived =
+                fix_line("encodeWithCoder:", named, "Addresses mean nothing in an archive, none archived.");
+            // An archiver without keys goes through its objects twice.
+            const std::string refusals =
+                (keyed ? "" : not_archived) + not_archived +
+                fix_line("initWithCoder:", named, "Addresses mean nothing in an archive, no object made.");
+            EXPECT_EQ(lines, is_address ? refusals : "");
+            EXPECT_EQ([back class], is_address ? Nil : [each class]);
+            if (back == nil)
+                continue;
+            EXPECT_EQ([back count], [each count]);
+            EXPECT_EQ([back link_marker], 0u);
+            for (uint32_t i = 0; i < [back count]; ++i)
+                EXPECT_TRUE(come_alike([back TT_word_at_index:i], [each TT_word_at_index:i])) << i;
+            if (each == vector)
+                continue;
+            [back append_TT_word:samples()[0]];
+            EXPECT_EQ([back count], [each count] + 1);
+        }
 }

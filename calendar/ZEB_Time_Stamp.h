@@ -35,7 +35,7 @@ ZEB_EXPORT
     another kind of value in its place, no object made.", and no object comes back. */
 + (BOOL)supportsSecureCoding;
 - (void)encodeWithCoder:(NSCoder *)coder;
-- (instancetype)initWithCoder:(NSCoder *)coder;
+- (instancetype ZEB_NULLABLE)initWithCoder:(NSCoder *)coder;
 
 /** Sets the stamp to the current instant, to the microsecond. */
 - (void)update_to_current_time;

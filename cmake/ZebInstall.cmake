@@ -23,7 +23,7 @@ function(zeb_install_engine)
   install(TARGETS zeb_optional EXPORT Korvane_ZEB_engine)
   get_property(headers GLOBAL PROPERTY ZEB_ENGINE_HEADERS)
   install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Korvane_ZEB_engine)
-  install(FILES core/ZEB_Types.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Korvane_ZEB)
+  install(FILES core/ZEB_Annotations.h core/ZEB_Types.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/Korvane_ZEB)
   zeb_install_package(Korvane_ZEB_engine Korvane)
 endfunction()
 

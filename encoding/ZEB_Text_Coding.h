@@ -4,6 +4,8 @@
 #import <Korvane_ZEB/ZEB_Message_Text.h>
 #import <Korvane_ZEB/ZEB_Number_Format.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /*
  * Archives of NSKeyedArchiver and of NSArchiver, which name no class but that of the object. A text is
  * archived as a string is (ZEB_Wide_Char_Coding.h), and belongs to the object that comes back alone. Archives
@@ -20,7 +22,7 @@
 - (void)encodeWithCoder:(NSCoder *)coder;
 
 /** Initialises a format with archived fields; nil for an archive that is refused. */
-- (id)initWithCoder:(NSCoder *)coder;
+- (instancetype ZEB_NULLABLE)initWithCoder:(NSCoder *)coder;
 
 @end
 
@@ -32,6 +34,8 @@
 - (void)encodeWithCoder:(NSCoder *)coder;
 
 /** Initialises an object with an archived text in a string of its own; nil for an archive that is refused. */
-- (id)initWithCoder:(NSCoder *)coder;
+- (instancetype ZEB_NULLABLE)initWithCoder:(NSCoder *)coder;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

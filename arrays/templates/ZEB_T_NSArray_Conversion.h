@@ -3,11 +3,13 @@
  */
 #import <Korvane_ZEB/ZEB_T_Array.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 @interface ZEB_T_Vector (NSArray_Conversion)
 
 /** Returns an autoreleased array of NSNumbers with exactly the values of the elements, NaN and infinities
     included; nil, after "Runtime error in allocate macro", if the platform cannot make it. */
-- (NSArray *)NSArray_value;
+- (NSArray *ZEB_NULLABLE)NSArray_value;
 
 @end
 
@@ -26,6 +28,8 @@
  *
  * The numbers are those that the array has at the call, whatever happens to a mutable one meanwhile.
  */
-- (uint8_t)set_from_NSArray:(NSArray *)numbers;
+- (uint8_t)set_from_NSArray:(NSArray *ZEB_NULLABLE)numbers;
 
 @end
+
+ZEB_ASSUME_NONNULL_END

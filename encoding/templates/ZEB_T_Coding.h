@@ -3,6 +3,8 @@
  */
 #import <Korvane_ZEB/ZEB_T_Array.h>
 
+ZEB_ASSUME_NONNULL_BEGIN
+
 /**
  * Archives of NSKeyedArchiver and of NSArchiver. A link is archived as the elements that it shows, and comes
  * back as an owner, of the archived class; growth seeds, room beyond the elements and the position in a pool
@@ -35,11 +37,13 @@
     not begin with the binary header ("Archived contents do not begin with the binary header, no object
     made."), end before the record does ("Binary contents are truncated, no decode performed.") or after it
     ("Archived contents go on after their end, no object made."); and if allocation fails. */
-- (id)initWithCoder:(NSCoder *)coder;
+- (instancetype ZEB_NULLABLE)initWithCoder:(NSCoder *)coder;
 
 @end
 
 /** The same, with the room that growth gives. */
 @interface ZEB_T_Array (Coding)
-- (id)initWithCoder:(NSCoder *)coder;
+- (instancetype ZEB_NULLABLE)initWithCoder:(NSCoder *)coder;
 @end
+
+ZEB_ASSUME_NONNULL_END

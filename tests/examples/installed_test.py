@@ -36,6 +36,17 @@ def build_alone(name, prefix, folder):
     return made / name
 
 
+def check_engine_alone(folder):
+    """The engine is configured by a C++ compiler alone, and has all headers that its users include."""
+    made = folder / "engine"
+    no_compiler = {language: "/nowhere" for language in ("CC", "OBJC", "OBJCXX")}
+    for command in ([cmake, "-S", project, "-B", made, "-DZEB_ENGINE_ONLY=ON", "-DZEB_BUILD_TESTS=OFF"],
+                    [os.environ["CXX"], "-std=c++20", "-fsyntax-only", f"-I{made}/include",
+                     project / "examples/cpp_program/cpp_program.cpp"]):
+        result = run(*command, **no_compiler)
+        check(result.returncode == 0, f"the engine alone: {result.stdout}{result.stderr}")
+
+
 def expected_summary(path):
     """The least, median, mean and greatest of a series, by Python's own means, and its dates."""
     with open(path, encoding="utf-8") as lines:
@@ -54,6 +65,7 @@ def numbers_of(text):
 
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
+    check_engine_alone(folder)
     prefix = folder / "installed"
     result = run(cmake, "--install", build, "--prefix", prefix)
     check(result.returncode == 0, f"install: {result.stdout}{result.stderr}")

@@ -23,7 +23,7 @@
     return self;
 }
 
-+ (id)arrow_array_with:(struct ArrowArray *)given_array schema:(struct ArrowSchema *)given_schema
++ (ZEB_INSTANCE_OF(ZEB_Arrow_Array *))arrow_array_with:(struct ArrowArray *)given_array schema:(struct ArrowSchema *)given_schema
 {
     return [[[self alloc] init_with_arrow_array:given_array schema:given_schema] autorelease];
 }

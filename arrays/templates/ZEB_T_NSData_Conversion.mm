@@ -12,7 +12,7 @@
     return engine::data_with_bytes(data, count * sizeof(ZEB_T_Element), engine::Fix_Report{self, _cmd});
 }
 
-+ (id)link_to_NSData:(NSData *)bytes
++ (ZEB_INSTANCE_OF(ZEB_T_Vector *))link_to_NSData:(NSData *)bytes
 {
     const engine::Data_Elements<ZEB_T_Element> elements(bytes);
     if (!engine::may_view(elements, engine::Fix_Report{self, _cmd}))

@@ -40,7 +40,9 @@ TEST(Index_Checks, report_what_has_no_element_and_change_nothing)
         ZEB_Int_Vector *in;
         uint32_t slots;
     } places[] = {{array, 4}, {vector, 2}, {link, 2}};
-    for (const auto &[in, slots] : places) {
+    for (const auto &place : places) {
+        ZEB_Int_Vector *const in = place.in;
+        const uint32_t slots = place.slots;
         const char *const named = object_getClassName(in);
         const auto line = [=](const char *selector, const char *note) {
             return fix_line(selector, named, note);

@@ -11,7 +11,8 @@ import tempfile
 
 import faults
 
-program, project, build, compiles, library = sys.argv[1], *map(pathlib.Path, sys.argv[2:4]), *sys.argv[4:6]
+program, project, build, compiles = sys.argv[1], *map(pathlib.Path, sys.argv[2:4]), sys.argv[4]
+library = sys.argv[5] if len(sys.argv) > 5 else ""  # none in front of a sanitizer
 source = project / "examples/arc_program/arc_program.m"
 # Without reference counting nothing is released but by the release level.
 os.environ["ASAN_OPTIONS"] = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"

@@ -54,11 +54,8 @@
 
 static ZEB_Comparison by_day(id const *left, id const *right)
 {
-    ZEB_Date *const first = [(Reading *)*left day], *const second = [(Reading *)*right day];
-    const bool is_later = [first is_at_or_before_date:second] == 0;
-    return is_later                              ? ZEB_COMPARED_GREATER
-           : [second is_at_or_before_date:first] ? ZEB_COMPARED_EQUAL
-                                                 : ZEB_COMPARED_LESS;
+    const int32_t days = [[(Reading *)*left day] days_since:[(Reading *)*right day]];
+    return days == 0 ? ZEB_COMPARED_EQUAL : days < 0 ? ZEB_COMPARED_LESS : ZEB_COMPARED_GREATER;
 }
 
 // Adds the reading of a text, in the place of one of the same day.

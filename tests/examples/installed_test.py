@@ -10,7 +10,8 @@ import tempfile
 
 cmake, build, project, python = sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3]), sys.argv[4]
 programs = {"cpp_program": ["-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror", "23"],
-            "first_program": ["-Wall -Wextra -Werror", "20"]}
+            "first_program": ["-Wall -Wextra -Werror", "20"], "c_program": ["-Wall -Wextra -Werror", "20"],
+            "arc_program": ["-Wall -Wextra -Werror", "20"]}
 failures = []
 
 
@@ -29,7 +30,9 @@ def build_alone(name, prefix, folder):
     flags, standard = programs[name]
     made = folder / name
     for command in ([cmake, "-S", project / "examples" / name, "-B", made, f"-DCMAKE_PREFIX_PATH={prefix}",
-                     f"-DCMAKE_CXX_STANDARD={standard}", f"-DCMAKE_CXX_FLAGS={flags}"], [cmake, "--build", made]):
+                     f"-DCMAKE_CXX_STANDARD={standard}",
+                     *(f"-DCMAKE_{language}_FLAGS={flags}" for language in ("C", "CXX", "OBJC", "OBJCXX"))],
+                    [cmake, "--build", made]):
         result = run(*command)
         check(result.returncode == 0 and "warning" not in result.stdout + result.stderr,
               f"{name}: {result.stdout}{result.stderr}")
@@ -97,8 +100,11 @@ with tempfile.TemporaryDirectory() as name:
             result = run(*command, source, stored[0])
             check(result.returncode == 1 and result.stderr and stored[0].read_bytes() == kept,
                   f"{command} {source}: {result}")
-    first = run(build_alone("first_program", prefix, folder), folder / "values")
-    check(first.returncode == 0 and first.stdout.count("{") == 2, f"first_program: {first}")
+    for name, *arguments in (("first_program", folder / "values"), ("c_program", "2024-01-31", "1", "0.5"),
+                             ("arc_program", folder / "diary", "2024-01-31", "0.5")):
+        alone = run(build_alone(name, prefix, folder), *arguments)
+        built = run(pathlib.Path(build) / "examples" / name / name, *arguments)
+        check(alone.returncode == 0 and alone.stdout == built.stdout, f"{name}: {alone} {built}")
 
 print(f"{len(failures)} failed")
 sys.exit(1 if failures else 0)

@@ -28,9 +28,9 @@ ZEB_EXPORT
 /** Returns a stamp of the same instant. */
 - (id)copyWithZone:(NSZone *)zone;
 
-/** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. An archive that
-    ends before they do, or has another kind of value in the place of one, reports "Archive lacks a value or has
-    another kind of value in its place, no object made.", and no object comes back. */
+/** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. An archive
+    that ends before they do, or has another kind of value in the place of one, reports "Archive lacks a value
+    or has another kind of value in its place, no object made.", and no object comes back. */
 + (BOOL)supportsSecureCoding;
 - (void)encodeWithCoder:(NSCoder *)coder;
 - (id)initWithCoder:(NSCoder *)coder;

@@ -30,9 +30,9 @@ ZEB_EXPORT
 /** Returns a stamp of the same instant. */
 - (id)copyWithZone:(NSZone *ZEB_NULLABLE)zone;
 
-/** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. An archive that
-    ends before they do, or has another kind of value in the place of one, reports "Archive lacks a value or has
-    another kind of value in its place, no object made.", and no object comes back. */
+/** Code both fields in full, under keys if the coder supports them; a missing key is read as 0. An archive
+    that ends before they do, or has another kind of value in the place of one, reports "Archive lacks a value
+    or has another kind of value in its place, no object made.", and no object comes back. */
 + (BOOL)supportsSecureCoding;
 - (void)encodeWithCoder:(NSCoder *)coder;
 - (instancetype ZEB_NULLABLE)initWithCoder:(NSCoder *)coder;

@@ -13,9 +13,9 @@ ZEB_ASSUME_NONNULL_BEGIN
  * What is checked is the index alone. A count that exceeds the block (`set_count:`), storage that was set by
  * pointer, and a link whose owner has released or moved its block are not found.
  *
- * A library that is built with ZEB_CHECK_INDEXES, as debug builds are, has the operations without "checked" report in
- * the same words; there a slot between count and capacity of an array may be stored in, for `set_count:` to count it
- * afterwards, and its address and that of the end may be asked for.
+ * A library that is built with ZEB_CHECK_INDEXES, as debug builds are, has the operations without "checked"
+ * report in the same words; there a slot between count and capacity of an array may be stored in, for
+ * `set_count:` to count it afterwards, and its address and that of the end may be asked for.
  */
 @interface ZEB_T_Vector (Checked_Access)
 

@@ -22,6 +22,9 @@ ZEB_EXPORT
     uint64_t count;
 }
 
+/** Returns the proprietary notice. */
++ (const char *)get_KVX_proprietary_software_notice;
+
 /** Initialises with an array and its schema, and takes both over: they are left as released, with a null
     `release`. Returns nil, with both structs as they are, for null, for structs that were released, and where
     their counts make no sense. */

@@ -2,7 +2,14 @@
 
 #import "encoding/ZEB_Arrow_Private.h"
 
+#include "core/engine/notice.hpp"
+
 @implementation ZEB_Arrow_Array
+
++ (const char *)get_KVX_proprietary_software_notice
+{
+    return engine::proprietary_software_notice;
+}
 
 - (id)init_with_arrow_array:(struct ArrowArray *)given_array schema:(struct ArrowSchema *)given_schema
 {

@@ -86,9 +86,11 @@ void add_change_rows()
 {
     add_rows<std::uint8_t>(1, 2, 10);
     add_rows<std::int32_t>(1, 2, 4);
+    add_rows<std::int64_t>(1, 2, 4);
     add_rows<double>(1, 2, 4);
     add_rows<std::uint8_t>(50, 12, 10);
     add_rows<std::int32_t>(50, 12, 4);
+    add_rows<std::int64_t>(50, 12, 4);
     add_rows<double>(50, 12, 4);
 }
 

@@ -93,6 +93,7 @@ std::size_t replace(Element *elements, std::size_t count, Element value, Element
     template std::size_t replace(Element *, std::size_t, Element, Element);
 ZEB_ELEMENT(std::uint8_t)
 ZEB_ELEMENT(std::int32_t)
+ZEB_ELEMENT(std::int64_t)
 ZEB_ELEMENT(double)
 
 void decimate(const double *positions, const double *values, std::size_t count, double start, double end,

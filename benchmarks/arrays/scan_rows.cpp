@@ -158,6 +158,7 @@ void add_scan_rows()
     for (const std::size_t bytes : {std::size_t{1} << 20, std::size_t{64} << 20}) {
         Block_Rows<std::uint8_t>(bytes).add();
         Block_Rows<std::int32_t>(bytes).add();
+        Block_Rows<std::int64_t>(bytes).add();
         Block_Rows<double>(bytes).add();
     }
 }

@@ -162,6 +162,7 @@ void add_sort_rows()
     for (const std::size_t count : {100000, 10000000}) {
         add_row<std::int32_t>(count, "random", 8);
         add_row<std::uint32_t>(count, "random", 8);
+        add_row<std::int64_t>(count, "random", 5);
         add_row<float>(count, "random", 8);
         add_row<double>(count, "random", 5);
         add_row<std::uint8_t>(count, "random", 80);
@@ -178,6 +179,7 @@ void add_sort_rows()
     add_row<double>(100000, "random with a NaN", 1.2);
     for (const std::size_t count : {100000, 10000000}) {
         add_permutation_row<std::int32_t>(count, "distinct", 3);
+        add_permutation_row<std::int64_t>(count, "distinct", 2.5);
         add_permutation_row<double>(count, "distinct", 2.5);
         add_permutation_row<std::int32_t>(count, "duplicates", 2);
         add_permutation_row<double>(count, "duplicates", 2);

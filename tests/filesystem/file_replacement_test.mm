@@ -2,8 +2,10 @@
 #include "tests/support/files.hpp"
 
 #include <csignal>
+#include <fcntl.h>
 #include <grp.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace
 {
@@ -39,10 +41,11 @@ TEST_F(File_Replacement, keeps_mode_and_links)
     EXPECT_EQ(file_text(path), "second");
     EXPECT_EQ(file_text(folder / "other name"), "first");
     EXPECT_EQ(status_of(path).st_mode & 07777, 0757u);
-    const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(folder.path);
+    const int before = open(".", O_RDONLY); // above which another user may not see
+    ASSERT_EQ(chdir(folder.path.c_str()), 0);
     expect_replaced("file", "");
-    std::filesystem::current_path(before);
+    EXPECT_EQ(fchdir(before), 0);
+    close(before);
 }
 
 TEST_F(File_Replacement, gives_nobody_more_rights)
@@ -59,9 +62,11 @@ TEST_F(File_Replacement, gives_nobody_more_rights)
         {some, some, other, 0664, 0644, some},  {some, other, other, 06676, 0666, some},
         {some, other, some, 04662, 0662, some},
     };
-    const auto as = [](uid_t user, auto work) {
+    // From within the folder, the way to which may be closed to other users.
+    const auto as = [&](uid_t user, auto work) {
         return end_of_child(start_child([&] {
-            if (user != 0 && (setgroups(0, nullptr) != 0 || setgid(user) != 0 || setuid(user) != 0))
+            if (chdir(folder.path.c_str()) != 0 ||
+                (user != 0 && (setgroups(0, nullptr) != 0 || setgid(user) != 0 || setuid(user) != 0)))
                 FAIL();
             work();
         }));
@@ -71,7 +76,7 @@ TEST_F(File_Replacement, gives_nobody_more_rights)
         put_file(path, "old");
         ASSERT_EQ(chown(path.c_str(), row.owner, row.group), 0);
         chmod(path.c_str(), row.before);
-        EXPECT_EQ(as(row.user, [&] { expect_replaced(path, "new"); }), 0);
+        EXPECT_EQ(as(row.user, [&] { expect_replaced("file", "new"); }), 0);
         const struct stat found = status_of(path);
         EXPECT_EQ(found.st_mode & 07777, row.after);
         EXPECT_EQ(found.st_uid, row.user == 0 ? row.owner : row.user);
@@ -80,8 +85,8 @@ TEST_F(File_Replacement, gives_nobody_more_rights)
     }
     put_file(path, "old");
     chmod(path.c_str(), 0644);
-    const auto try_in_vain = [&] {
-        ZEB_File *const file = entry(path);
+    const auto try_in_vain = [] {
+        ZEB_File *const file = entry("file");
         expect_told(file, 0, EACCES, "Error opening file: ", [=] { return replace(file, "new"); });
     };
     EXPECT_EQ(as(some, try_in_vain), 0);

@@ -73,12 +73,12 @@ void take_objects(Reading &reading)
 void archive_objects(Vector_Storage<Objects> vector, NSCoder *coder, Fix_Report report)
 {
     const std::span<id> objects = vector.elements();
-    if (!std::ranges::all_of(objects, can_be_archived)) {
+    if (!std::all_of(objects.begin(), objects.end(), can_be_archived)) {
         report(notes::object_without_coding);
         return archive_integer(coder, count_key, no_objects);
     }
     archive_integer(coder, count_key, vector.count);
-    archive_integer(coder, nil_count_key, std::ranges::count(objects, id{nil}));
+    archive_integer(coder, nil_count_key, std::count(objects.begin(), objects.end(), id{nil}));
     for (uint32_t i = 0; i < vector.count; ++i)
         archive_object(coder, i, objects[i]);
     archive_integer(coder, mode_key, vector.kind.mode);

@@ -1,5 +1,6 @@
 #include <Korvane_ZEB_engine/array.hpp>
 
+#include "arrays/cpp/array_access.hpp"
 #include "arrays/cpp/element_types.hpp"
 #include "arrays/engine/storage/insertion.hpp"
 
@@ -7,6 +8,8 @@ namespace zeb
 {
 namespace
 {
+
+using detail::Array_Access;
 
 template <Element Type>
 engine::Elements_Of<engine::Plain_Elements<Type>> run_of(std::span<const Type> values) noexcept
@@ -17,17 +20,6 @@ engine::Elements_Of<engine::Plain_Elements<Type>> run_of(std::span<const Type> v
 } // namespace
 
 template <Element Type>
-template <class Change>
-bool Array<Type>::try_to(Change change) noexcept
-{
-    bool succeeds = true;
-    std::uint32_t link_marker = 0;
-    change(engine::Array_Storage<engine::Plain_Elements<Type>>{{block, count, link_marker, {}}, room, seed},
-           [&](engine::Char_Span) { succeeds = false; });
-    return succeeds;
-}
-
-template <Element Type>
 Array<Type>::~Array()
 {
     engine::release(block);
@@ -36,14 +28,16 @@ Array<Type>::~Array()
 template <Element Type>
 bool Array<Type>::copy(std::span<const Type> values) noexcept
 {
-    return values.size() < greatest_count &&
-           try_to([&](auto array, auto report) { engine::set_contents(array, run_of(values), report); });
+    return values.size() < greatest_count && Array_Access::try_to(*this, [&](auto array, auto report) {
+               engine::set_contents(array, run_of(values), report);
+           });
 }
 
 template <Element Type>
 bool Array<Type>::append_with_growth(Type value) noexcept
 {
-    return try_to([&](auto array, auto report) { engine::append_with_growth(array, value, report); });
+    return Array_Access::try_to(
+        *this, [&](auto array, auto report) { engine::append_with_growth(array, value, report); });
 }
 
 template <Element Type>
@@ -56,7 +50,7 @@ template <Element Type>
 bool Array<Type>::insert(std::size_t index, std::span<const Type> values) noexcept
 {
     const auto at = static_cast<std::uint32_t>(index < count ? index : count);
-    return values.size() < greatest_count && try_to([&](auto array, auto report) {
+    return values.size() < greatest_count && Array_Access::try_to(*this, [&](auto array, auto report) {
                engine::insert_elements(array, run_of(values), at, report);
            });
 }
@@ -68,8 +62,9 @@ void Array<Type>::remove(std::size_t index, std::size_t number) noexcept
         return;
     const auto at = static_cast<std::uint32_t>(index);
     const auto removed = static_cast<std::uint32_t>(std::min<std::size_t>(number, count - index));
-    try_to(
-        [&](auto array, auto) { engine::remove_elements<engine::Plain_Elements<Type>>(array, at, removed); });
+    Array_Access::try_to(*this, [&](auto array, auto) {
+        engine::remove_elements<engine::Plain_Elements<Type>>(array, at, removed);
+    });
 }
 
 template <Element Type>
@@ -84,13 +79,13 @@ bool Array<Type>::resize(std::size_t new_count) noexcept
 template <Element Type>
 bool Array<Type>::reserve(std::size_t wanted) noexcept
 {
-    return try_to([&](auto array, auto report) { engine::grow(array, wanted, report); });
+    return Array_Access::try_to(*this, [&](auto array, auto report) { engine::grow(array, wanted, report); });
 }
 
 template <Element Type>
 void Array<Type>::trim() noexcept
 {
-    try_to([&](auto array, auto report) { engine::trim(array, report); });
+    Array_Access::try_to(*this, [&](auto array, auto report) { engine::trim(array, report); });
 }
 
 #define ZEB_INSTANTIATE(Type) template class Array<Type>;

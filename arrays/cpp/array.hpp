@@ -8,6 +8,11 @@
 namespace zeb
 {
 
+namespace detail
+{
+struct Array_Access;
+} // namespace detail
+
 /// Elements in one block from the C allocator, which grows by doubling. An array is moved, and copied by
 /// `copy` alone, since that may fail; one that was moved from is empty.
 ///
@@ -95,11 +100,9 @@ public:
     }
 
 private:
-    bool append_with_growth(Type value) noexcept;
+    friend struct detail::Array_Access;
 
-    /// Calls `change` with the fields as storage and a report; false if it reported.
-    template <class Change>
-    bool try_to(Change change) noexcept;
+    bool append_with_growth(Type value) noexcept;
 
     Type *block = nullptr;
     std::uint32_t count = 0;

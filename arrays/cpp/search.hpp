@@ -46,10 +46,11 @@ Index last_index_of(const Range &values, std::type_identity_t<Element_Of<Range>>
 
 /// Returns where a run of elements begins for the first time at or after index `from`. An empty run is
 /// nowhere.
-template <Elements Range, Elements Run>
-requires std::same_as<Element_Of<Range>, Element_Of<Run>> Index find_run(const Range &values, const Run &run,
-                                                                         std::size_t from = 0)
-noexcept { return detail::find_run(detail::constants_of(values), detail::constants_of(run), from); }
+template <Elements Range>
+Index find_run(const Range &values, std::span<const Element_Of<Range>> run, std::size_t from = 0) noexcept
+{
+    return detail::find_run(detail::constants_of(values), run, from);
+}
 
 /// Returns the index of an element equal to the value, by bisection of ascending elements.
 template <Elements Range>

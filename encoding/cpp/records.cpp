@@ -1,5 +1,6 @@
 #include <Korvane_ZEB_engine/records.hpp>
 
+#include "arrays/cpp/array_access.hpp"
 #include "arrays/cpp/element_types.hpp"
 #include "encoding/engine/binary_header.hpp"
 #include "encoding/engine/binary_record.hpp"
@@ -103,15 +104,11 @@ template <Element Type>
 bool take_record(Records &records, Array<Type> &values) noexcept
 {
     const engine::Record_Source source = source_of(records);
-    const std::uint32_t size = engine::record_size(source, sizeof(Type));
-    if (size == 0)
-        return false;
-    const std::uint32_t count = engine::read_count(source.bytes, source.needs_swap);
-    if (!values.resize(count))
-        return false;
-    engine::copy_elements(values.data(), source.bytes + engine::record_count_size, count, source.needs_swap);
+    std::uint32_t size = 0;
+    const bool is_decoded = detail::Array_Access::try_to(
+        values, [&](auto array, auto report) { size = engine::decode_plain(array, source, report); });
     skip(records, size);
-    return true;
+    return is_decoded;
 }
 
 std::optional<std::string_view> take_text(Records &records) noexcept

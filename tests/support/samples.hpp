@@ -71,10 +71,13 @@ inline std::span<const uint8_t> contents_of(ZEB_Byte_Array *bytes)
 template <class Element>
 bool are_identical(Element left, Element right)
 {
-    if constexpr (is_held<Element>)
-        return std::ranges::equal(contents_of(left), contents_of(right));
-    else
+    if constexpr (is_held<Element>) {
+        const auto first = contents_of(left), second = contents_of(right);
+        return first.size() == second.size() &&
+               std::equal(first.data(), first.data() + first.size(), second.data());
+    } else {
         return std::memcmp(&left, &right, sizeof left) == 0;
+    }
 }
 
 /// Whether they are equal in their family.

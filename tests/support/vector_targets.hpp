@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #if ZEB_HAS_HIGHWAY
 #include <hwy/highway.h>
@@ -14,24 +15,31 @@ namespace zeb_test
 {
 
 #if ZEB_HAS_HIGHWAY
-inline size_t target_count() { return hwy::SupportedAndGeneratedTargets().size(); }
-
-inline void choose_target(int64_t target)
+/// Asked once: a virtual machine may be slow to say what its processor can do.
+inline const std::vector<int64_t> &targets()
 {
-    hwy::SetSupportedTargetsForTest(target);
-    hwy::GetChosenTarget().Update(hwy::SupportedTargets());
+    static const std::vector<int64_t> all = hwy::SupportedAndGeneratedTargets();
+    return all;
+}
+
+inline size_t target_count() { return targets().size(); }
+
+/// Lets kernels take these targets alone.
+inline void choose_targets(int64_t mask)
+{
+    hwy::SetSupportedTargetsForTest(mask);
+    hwy::GetChosenTarget().Update(mask);
 }
 
 /// Runs the test with one of the vector instruction sets.
 template <class Test>
 void on_target(size_t number, Test test)
 {
-    hwy::SetSupportedTargetsForTest(0);
-    const int64_t target = hwy::SupportedAndGeneratedTargets()[number];
-    SCOPED_TRACE(hwy::TargetName(target));
-    choose_target(target);
+    static const int64_t all_of_them = hwy::SupportedTargets();
+    SCOPED_TRACE(hwy::TargetName(targets()[number]));
+    choose_targets(targets()[number]);
     test();
-    choose_target(0);
+    choose_targets(all_of_them);
 }
 #else
 inline size_t target_count() { return 1; }

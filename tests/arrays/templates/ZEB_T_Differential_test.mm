@@ -1,13 +1,13 @@
 /// Every operation of TT_PHRASE, on owners and links, by the own order and by a caller's comparison, in every
 /// mode of ownership, with each vector instruction set of this machine, against its plainest form, with what
 /// it reports; and again with each allocation failing in turn.
+#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
+
 #include "tests/arrays/ZEB_T_Samples.hpp"
 #include "tests/arrays/differential.hpp"
 #include "tests/support/class_test.hpp"
 #include "tests/support/memory.hpp"
 #include "tests/support/vector_targets.hpp"
-
-#include <regex>
 
 using namespace differential;
 
@@ -16,10 +16,11 @@ namespace
 
 const Samples &facts()
 {
+    static const auto count = static_cast<uint32_t>(samples().size());
     static const Samples all{
-        static_cast<uint32_t>(samples().size()),
-        [](uint32_t left, uint32_t right) { return support::are_same(samples()[left], samples()[right]); },
-        [](uint32_t left, uint32_t right) { return support::precedes(samples()[left], samples()[right]); },
+        count,
+        tabulated(count, [](uint32_t i, uint32_t j) { return support::are_same(samples()[i], samples()[j]); }),
+        tabulated(count, [](uint32_t i, uint32_t j) { return support::precedes(samples()[i], samples()[j]); }),
         number_of(Element())};
     return all;
 }
@@ -133,17 +134,6 @@ struct Row {
     const char *text;
     std::optional<uint64_t> (*ours)(Ours &), (*plain)(Plain &);
 };
-
-/// What a text sends: its words with a colon, or the last word.
-std::string selector_of(const std::string &text)
-{
-    static const std::regex words("\\w+:"), last("\\w+(?=\\]$)");
-    std::string selector;
-    std::sregex_iterator word(text.begin(), text.end(), text.find(':') == text.npos ? last : words);
-    for (; word != std::sregex_iterator(); ++word)
-        selector += word->str();
-    return selector;
-}
 
 /// Holds operations against their plain forms, and sees that each report was its line. `failure` is the word
 /// for an allocation that failed; an operation without one works without memory.

@@ -2,12 +2,13 @@
 #pragma once
 
 #import <Korvane_ZEB/Korvane_ZEB.h>
-#import <Korvane_ZEB/ZEB_Array_Spans.hpp>
 
+#include "tests/support/numbering.hpp"
 #include "tests/support/samples.hpp"
 
 #include <algorithm>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 using Element = ZEB_T_Element;
@@ -24,21 +25,27 @@ const std::vector<Element> &samples()
     return *made;
 }
 
-/// ZEB_NOT_FOUND for what is no sample: nothing, in an empty vector.
-uint32_t number_of(Element element)
+/// The numbers of samples; ZEB_NOT_FOUND for what is none: nothing, in an empty vector.
+Numbers numbers_of(Element const *elements, size_t count)
 {
-    const auto found = std::find_if(samples().begin(), samples().end(),
-                                    [&](Element sample) { return support::are_identical(sample, element); });
-    return found == samples().end() ? ZEB_NOT_FOUND : static_cast<uint32_t>(found - samples().begin());
+    if constexpr (support::is_held<Element>) {
+        Numbers numbers;
+        for (const Element &element : std::span(elements, count)) {
+            const auto found = std::ranges::find_if(
+                samples(), [&](Element sample) { return support::are_identical(sample, element); });
+            numbers.push_back(found == samples().end() ? ZEB_NOT_FOUND
+                                                       : static_cast<uint32_t>(found - samples().begin()));
+        }
+        return numbers;
+    }
+    static const auto *const numbering =
+        new support::Numbering(samples().data(), samples().size(), sizeof(Element));
+    return numbering->numbers_of(elements, count);
 }
 
-Numbers numbers_of(ZEB_T_Vector *vector)
-{
-    Numbers numbers;
-    for (const Element &element : zeb::elements(vector))
-        numbers.push_back(number_of(element));
-    return numbers;
-}
+Numbers numbers_of(ZEB_T_Vector *vector) { return numbers_of([vector TT_word_data], [vector count]); }
+
+[[maybe_unused]] uint32_t number_of(Element element) { return numbers_of(&element, 1)[0]; }
 
 ZEB_T_Array *array_of(const Numbers &numbers)
 {

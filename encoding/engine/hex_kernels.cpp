@@ -19,8 +19,20 @@
 namespace zeb::engine::kernels
 {
 
-/// Values that are written at once, four characters each.
-inline constexpr std::size_t hex_group = 4;
+/// Values whose characters, four each, are looked up together, and those of them that one vector holds when
+/// the characters that do not count are left out.
+inline constexpr std::size_t hex_run = 16, hex_group = 4;
+
+/// For each character of a run, its value.
+constexpr std::array<std::uint8_t, 4 * hex_run> make_four_times() noexcept
+{
+    std::array<std::uint8_t, 4 * hex_run> all{};
+    for (std::uint8_t place = 0; place < all.size(); ++place)
+        all[place] = place / 4;
+    return all;
+}
+
+alignas(64) inline constexpr std::array<std::uint8_t, 4 *hex_run> four_times = make_four_times();
 
 /// For each choice of values of a group that have two digits (bit i for value i), where the characters that
 /// count come from.
@@ -53,43 +65,40 @@ namespace hn = hwy::HWY_NAMESPACE;
 #if HWY_TARGET == HWY_SCALAR || __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
 constexpr auto put_separated_bytes = plain::put_separated_bytes;
 #else
-using Characters = hn::FixedTag<std::uint8_t, 4 * hex_group>;
-
-/// The two digits and ", " of each value of a group.
-HWY_INLINE hn::Vec<Characters> characters_of(std::uint32_t group)
+/// The two digits and ", " of each of `hex_run` values.
+HWY_INLINE void put_characters(std::uint8_t *characters, const std::uint8_t *values)
 {
-    HWY_ALIGN static constexpr std::uint8_t four_times[16] = {0, 0, 0, 0, 1, 1, 1, 1, 2, 2, 2, 2, 3, 3, 3, 3};
-    HWY_ALIGN static constexpr std::uint8_t separators[16] = {0, 0, ',', ' ', 0, 0, ',', ' ',
-                                                              0, 0, ',', ' ', 0, 0, ',', ' '};
-    HWY_ALIGN static constexpr std::uint8_t highs[16] = {255, 0, 0, 0, 255, 0, 0, 0,
-                                                         255, 0, 0, 0, 255, 0, 0, 0};
-    const Characters d;
-    const auto bytes = hn::BitCast(d, hn::Set(hn::FixedTag<std::uint32_t, hex_group>(), group));
-    const auto repeated = hn::TableLookupBytes(bytes, hn::Load(d, four_times));
-    const auto is_high = hn::MaskFromVec(hn::Load(d, highs));
-    const auto nibbles =
-        hn::And(hn::IfThenElse(is_high, hn::ShiftRight<4>(repeated), repeated), hn::Set(d, 15));
-    const auto digits = hn::TableLookupBytes(
-        hn::LoadU(d, reinterpret_cast<const std::uint8_t *>(plain::hex_digits)), nibbles);
-    const auto separator = hn::Load(d, separators);
-    return hn::IfThenElse(hn::Eq(separator, hn::Zero(d)), digits, separator);
+    const hn::CappedTag<std::uint8_t, 4 * hex_run> d;
+    const hn::Repartition<std::uint32_t, decltype(d)> per_value;
+    const auto all = hn::LoadDup128(d, values);
+    const auto digits = hn::LoadDup128(d, reinterpret_cast<const std::uint8_t *>(plain::hex_digits));
+    const auto is_high = hn::MaskFromVec(hn::BitCast(d, hn::Set(per_value, 0x000000FF)));
+    const auto is_separator = hn::MaskFromVec(hn::BitCast(d, hn::Set(per_value, 0xFFFF0000)));
+    const auto separator = hn::BitCast(d, hn::Set(per_value, 0x202C0000));
+    for (std::size_t at = 0; at < 4 * hex_run; at += hn::Lanes(d)) {
+        const auto repeated = hn::TableLookupBytes(all, hn::Load(d, four_times.data() + at));
+        const auto halves = hn::IfThenElse(is_high, hn::ShiftRight<4>(repeated), repeated);
+        const auto written = hn::TableLookupBytes(digits, hn::And(halves, hn::Set(d, 15)));
+        hn::Store(hn::IfThenElse(is_separator, separator, written), d, characters + at);
+    }
 }
 
 char *put_separated_bytes(char *out, const std::uint8_t *values, std::size_t count)
 {
-    const Characters d;
+    const hn::FixedTag<std::uint8_t, hex_run> d;
+    HWY_ALIGN std::uint8_t characters[4 * hex_run];
     std::size_t i = 0;
-    for (; i + hex_group <= count; i += hex_group) {
-        std::uint32_t group;
-        std::memcpy(&group, values + i, sizeof group);
-        // Bit 4 of each byte is set by one to fifteen sixteens; the product has the four of them side by
-        // side.
-        const std::uint32_t sixteens = (group >> 4 & 0x0F0F0F0F) + 0x0F0F0F0F;
-        const std::uint32_t two_digits = (sixteens >> 4 & 0x01010101) * 0x01020408 >> 24 & 15;
-        const auto packed =
-            hn::TableLookupBytes(characters_of(group), hn::Load(d, packed_places[two_digits].data()));
-        hn::StoreU(packed, d, reinterpret_cast<std::uint8_t *>(out));
-        out += 3 * hex_group + static_cast<std::size_t>(std::popcount(two_digits));
+    for (; i + hex_run <= count; i += hex_run) {
+        put_characters(characters, values + i);
+        const auto run = hn::LoadU(d, values + i);
+        const std::uint64_t two_digits = bits_of(d, hn::Eq(hn::Max(run, hn::Set(d, 16)), run));
+        for (std::size_t first = 0; first < hex_run; first += hex_group) {
+            const std::size_t chosen = two_digits >> first & 15;
+            const auto packed = hn::TableLookupBytes(hn::Load(d, characters + 4 * first),
+                                                     hn::Load(d, packed_places[chosen].data()));
+            hn::StoreU(packed, d, reinterpret_cast<std::uint8_t *>(out));
+            out += 3 * hex_group + static_cast<std::size_t>(std::popcount(chosen));
+        }
     }
     return plain::put_separated_bytes(out, values + i, count - i);
 }

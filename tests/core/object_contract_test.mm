@@ -31,7 +31,7 @@ TEST(Every_Class, answers_the_root_operations_and_its_own_notice)
         EXPECT_EQ([named ZEB_responds_to_selector:notice], 1);
         EXPECT_EQ([object ZEB_perform_selector:@selector(self)], object);
 
-        if ([object conformsToProtocol:@protocol(NSCopying)]) {
+        if ([object conformsToProtocol:NSProtocolFromString(@"NSCopying")]) {
             const id copied = [object ZEB_copy];
             EXPECT_NE(copied, object);
             EXPECT_EQ([copied class], named);

@@ -8,6 +8,8 @@
 #include <vector>
 
 #if ZEB_HAS_HIGHWAY
+#include "arrays/engine/kernels/vector_targets.hpp"
+
 #include <hwy/highway.h>
 #endif
 

@@ -1,5 +1,5 @@
-/// What most files include from outside: it takes longer to read than many of them, and so is precompiled. Files
-/// still include what they use.
+/// What most files include from outside: it takes longer to read than many of them, and so is precompiled.
+/// Files still include what they use.
 #pragma once
 
 #ifdef __OBJC__

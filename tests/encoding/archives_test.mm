@@ -123,22 +123,6 @@ void put_integer(NSCoder *coder, NSString *key, int64_t value)
         [coder encodeValueOfObjCType:@encode(int64_t) at:&value];
 }
 
-std::string words(std::initializer_list<uint32_t> values, bool swapped = false)
-{
-    std::string made;
-    for (uint32_t value : values) {
-        value = swapped ? __builtin_bswap32(value) : value;
-        made.append(reinterpret_cast<const char *>(&value), sizeof value);
-    }
-    return made;
-}
-
-/// The header of a machine of this or the other byte order.
-std::string header(bool swapped = false)
-{
-    return "ZEB_EXTERNAL_BINARY_FORMAT_V1000" + words({0x50AB40CD, 0, 2, 4, 2, 1, 1}, swapped) + "1111";
-}
-
 constexpr char incomplete[] =
     "Archive lacks a value or has another kind of value in its place, no object made.";
 constexpr char foreign[] = "Archived contents do not begin with the binary header, no object made.";

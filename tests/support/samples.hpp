@@ -10,6 +10,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <random>
 #include <span>
@@ -66,6 +67,11 @@ inline std::span<const uint8_t> contents_of(ZEB_Byte_Array *bytes)
 {
     return {[bytes byte_data], [bytes count]};
 }
+
+/// Returns what tells plain elements by their bits: which sample each is; ZEB_NOT_FOUND for what is none. Asked
+/// for more than all else, and so optimised where tests are not.
+std::function<std::vector<uint32_t>(const void *elements, size_t count)>
+numbering(const void *samples, size_t sample_count, size_t element_size);
 
 /// Whether two elements are the same bits, the same object, or have the same contents.
 template <class Element>

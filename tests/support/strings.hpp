@@ -1,4 +1,4 @@
-/// The framework's strings and byte arrays, to and from those of the standard library.
+/// The framework's strings and byte arrays, to and from those of the standard library, and bytes of the format.
 #pragma once
 
 #import <Korvane_ZEB/Korvane_ZEB.h>
@@ -34,6 +34,23 @@ inline ZEB_Byte_Array *bytes(const std::string &characters)
 inline std::string text_of(ZEB_Byte_Vector *vector)
 {
     return {reinterpret_cast<const char *>([vector byte_data]), [vector count]};
+}
+
+/// Words of the binary format, as a machine of this byte order has them in memory, or one of the other.
+inline std::string words(std::initializer_list<uint32_t> values, bool swapped = false)
+{
+    std::string made;
+    for (uint32_t value : values) {
+        value = swapped ? __builtin_bswap32(value) : value;
+        made.append(reinterpret_cast<const char *>(&value), sizeof value);
+    }
+    return made;
+}
+
+/// The header of a file.
+inline std::string header(bool swapped = false)
+{
+    return "ZEB_EXTERNAL_BINARY_FORMAT_V1000" + words({0x50AB40CD, 0, 2, 4, 2, 1, 1}, swapped) + "1111";
 }
 
 } // namespace support

@@ -3,7 +3,6 @@
 
 #import <Korvane_ZEB/Korvane_ZEB.h>
 
-#include "tests/support/numbering.hpp"
 #include "tests/support/samples.hpp"
 
 #include <algorithm>
@@ -38,9 +37,8 @@ Numbers numbers_of(Element const *elements, size_t count)
         }
         return numbers;
     }
-    static const auto *const numbering =
-        new support::Numbering(samples().data(), samples().size(), sizeof(Element));
-    return numbering->numbers_of(elements, count);
+    static const auto numbers = support::numbering(samples().data(), samples().size(), sizeof(Element));
+    return numbers(elements, count);
 }
 
 Numbers numbers_of(ZEB_T_Vector *vector) { return numbers_of([vector TT_word_data], [vector count]); }

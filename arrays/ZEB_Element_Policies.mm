@@ -14,7 +14,11 @@ namespace
 template <class Made>
 Made *try_to_make() noexcept
 {
-    return static_cast<Made *>(result_or_null([]() -> void * { return [[Made alloc] init]; }));
+    return static_cast<Made *>(result_or_null([]() -> void * {
+        // Some runtimes look a class up by its name wherever it stands in a message.
+        static const Class made = [Made class];
+        return [[made alloc] init];
+    }));
 }
 
 template <class Kind>

@@ -12,7 +12,7 @@ find_library(HIGHWAY_CONTRIB_LIBRARY hwy_contrib)
 if(HIGHWAY_INCLUDE_DIR AND HIGHWAY_LIBRARY AND HIGHWAY_CONTRIB_LIBRARY)
   target_include_directories(zeb_optional SYSTEM INTERFACE $<BUILD_INTERFACE:${HIGHWAY_INCLUDE_DIR}>)
   target_compile_definitions(zeb_optional INTERFACE ZEB_HAS_HIGHWAY)
-  # A sanitizer takes long to compile the kernels, and sees the same in each of them.
+  # A sanitizer takes long to compile the kernels: one set of each length of vectors is enough.
   if(ZEB_SANITIZE)
     target_compile_definitions(zeb_optional INTERFACE ZEB_FEW_VECTOR_TARGETS=1)
   endif()

@@ -9,7 +9,7 @@ import sys
 import tempfile
 import xml.etree.ElementTree
 
-program, store_program, root, step = sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3]), int(sys.argv[4])
+program, store_program, root = sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3])
 data = root / "examples/data"
 SVG = "{http://www.w3.org/2000/svg}"
 MONTHS = "Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec".split()
@@ -162,9 +162,8 @@ with tempfile.TemporaryDirectory() as name:
         check(len(runs) == 1, f"{series}: one curve")
 
     # Spans of time, each from a crooked instant on.
-    spans = (0.01, 0.3, 1, 7, 60, 600, 3600, 86400, 3 * 86400, 30 * 86400, 100 * 86400, 366 * 86400, 10 * 366 * 86400,
-             1e10, 2.5e11, 3e13)
-    for span in spans[::step]:
+    for span in (0.01, 0.3, 1, 7, 60, 600, 3600, 86400, 3 * 86400, 30 * 86400, 100 * 86400, 366 * 86400,
+                 10 * 366 * 86400, 1e10, 2.5e11, 3e13):
         for date, day in (("11/28/1958", days_since_1970(1958, 11, 28)), ("2/27/-4714", days_since_1970(-4714, 2, 27)),
                           ("12/31/-5999", days_since_1970(-5999, 12, 31))):
             for clock, second in (("0:0:0", 0), ("23:59:58.75", 86398.75)):

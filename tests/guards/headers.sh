@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Every public header compiles alone: as Objective-C, the plain ones as C and C++, those of C++ with both compilers;
-# the one that includes all as Objective-C and Objective-C++ with both. What is said of null and of ownership: arc.sh.
+# Every public header compiles alone: as Objective-C with gcc and as Objective-C++ with clang, the plain ones as
+# C and C++; the one that includes all in all four ways. What is said of null and of ownership: arc.sh.
 # headers.sh LIST INCLUDE
 set -u
 list=$1 include=$2
@@ -28,9 +28,9 @@ compile_alone() { # PATH
         compiles clang++ -x objective-c++ -std=c++20 "${strict[@]}" "${gnustep[@]}" "${clang[@]}"
     else
         compiles gcc -x objective-c -std=gnu11 "${strict[@]}" "${gnustep[@]}"
+        compiles clang++ -x objective-c++ -std=c++17 "${strict[@]}" "${gnustep[@]}" "${clang[@]}"
     fi
     if [[ $name == Korvane_ZEB.h ]]; then
-        compiles clang++ -x objective-c++ -std=c++17 "${strict[@]}" "${gnustep[@]}" "${clang[@]}"
         compiles g++ -x objective-c++ -std=c++20 "${strict[@]}" "${gnustep[@]}"
         compiles clang -x objective-c -std=gnu11 "${strict[@]}" "${gnustep[@]}" "${clang[@]}"
     fi

@@ -6,7 +6,7 @@ set -u
 list=$1 include=$2
 guards=$(dirname "$0")
 stamp=$list.passed
-"$guards/unchanged_since.sh" "$stamp" "$include" && exit 0
+"$guards/unchanged_since.sh" "$stamp" "$include" "$guards" && exit 0
 grep -En '^#(import|include) "' $(cat "$list") && { echo "quoted includes in public headers"; exit 1; }
 
 compile_alone() { # PATH
